@@ -1,0 +1,48 @@
+# One target for each folder of the house. A folder's CMakeLists.txt is one line, ostrelum_folder(NAME),
+# and what the folder needs beyond the standard library.
+
+add_library(ostrelum_rules INTERFACE)
+target_include_directories(ostrelum_rules INTERFACE ${CMAKE_SOURCE_DIR})
+target_compile_options(ostrelum_rules INTERFACE
+    -Wall -Wextra -Wpedantic -Werror -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
+    -Woverloaded-virtual -Wold-style-cast -Wcast-qual -Wformat=2 -Wmissing-declarations
+    -Wno-missing-field-initializers)
+if(OSTRELUM_SANITIZE)
+    target_compile_options(ostrelum_rules INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(ostrelum_rules INTERFACE -fsanitize=address,undefined)
+endif()
+
+# ostrelum_folder(NAME): every source of the current folder, as the target ostrelum_NAME. Headers are checked
+# to compile alone.
+function(ostrelum_folder name)
+    file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.S)
+    file(GLOB headers CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
+    set(target ostrelum_${name})
+    if(sources)
+        add_library(${target} STATIC ${sources})
+        target_link_libraries(${target} PUBLIC ostrelum_rules)
+    else()
+        add_library(${target} INTERFACE)
+        target_link_libraries(${target} INTERFACE ostrelum_rules)
+    endif()
+    ostrelum_headers_alone(${target} ${headers})
+endfunction()
+
+# One source that includes nothing but the header, for each header.
+function(ostrelum_headers_alone target)
+    set(alone)
+    foreach(header ${ARGN})
+        file(RELATIVE_PATH path ${CMAKE_SOURCE_DIR} ${header})
+        string(REPLACE "/" "_" stem ${path})
+        set(source ${CMAKE_BINARY_DIR}/headers/${stem}.cpp)
+        if(NOT EXISTS ${source})
+            file(WRITE ${source} "#include \"${path}\"\n")
+        endif()
+        list(APPEND alone ${source})
+    endforeach()
+    if(alone AND OSTRELUM_TESTS)
+        add_library(${target}_headers OBJECT ${alone})
+        target_link_libraries(${target}_headers PRIVATE ${target})
+    endif()
+endfunction()
