@@ -1,0 +1,67 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+namespace ostrelum {
+
+/// Pixels as the window system's own 24-bit bitmaps hold them: blue, green, red, rows from top to
+/// bottom, each row filled up to a multiple of 4 bytes.
+struct Bitmap {
+    int width = 0;
+    int height = 0;
+    std::vector<std::uint8_t> bytes;
+    /// Opacity of each pixel, 0 to 255, width * height without filling; empty for a picture without
+    /// holes.
+    std::vector<std::uint8_t> coverage;
+
+    Bitmap() = default;
+    Bitmap(int w, int h)
+        : width(w), height(h),
+          bytes(static_cast<std::size_t>(stride_of(w)) * static_cast<std::size_t>(h))
+    {
+    }
+
+    static constexpr int stride_of(int w) { return (w * 3 + 3) & ~3; }
+    int stride() const { return stride_of(width); }
+    std::uint8_t* row(int y) { return bytes.data() + static_cast<std::ptrdiff_t>(y) * stride(); }
+    const std::uint8_t* row(int y) const
+    {
+        return bytes.data() + static_cast<std::ptrdiff_t>(y) * stride();
+    }
+
+    bool operator==(const Bitmap&) const = default;
+};
+
+/// A picture that controls share. Two pictures are equal when they come from the same drawing;
+/// pixels are never compared.
+class Picture {
+public:
+    /// No picture.
+    Picture() = default;
+    explicit Picture(Bitmap bitmap);
+
+    bool empty() const { return pixels_ == nullptr; }
+    /// The pixels; an empty bitmap for no picture.
+    const Bitmap& bitmap() const;
+    /// A new picture of the same origin, drawn anew.
+    Picture redrawn(Bitmap bitmap) const;
+    /// Number of the origin, the same for all drawings that come from it; 0 for no picture.
+    std::uint64_t id() const { return id_; }
+    /// Number of the drawing, different for each one of the process.
+    std::uint64_t version() const { return version_; }
+
+    bool operator==(const Picture& other) const
+    {
+        return id_ == other.id_ && version_ == other.version_;
+    }
+
+private:
+    std::uint64_t id_ = 0;
+    std::uint64_t version_ = 0;
+    std::shared_ptr<const Bitmap> pixels_;
+};
+
+} // namespace ostrelum

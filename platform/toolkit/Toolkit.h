@@ -1,0 +1,76 @@
+#pragma once
+
+#include "platform/toolkit/Form.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace ostrelum {
+
+struct Point {
+    int x = 0;
+    int y = 0;
+    bool operator==(const Point&) const = default;
+};
+
+struct TextSize {
+    int width = 0;
+    int height = 0;
+    bool operator==(const TextSize&) const = default;
+};
+
+/// Index of the extended window style.
+inline constexpr int GWL_EXSTYLE = -20;
+/// Extended style of a window that has an opacity of its own.
+inline constexpr std::int32_t WS_EX_LAYERED = 0x80000;
+/// The window's opacity is its alpha; the colour key is unused.
+inline constexpr std::uint32_t LWA_ALPHA = 2;
+
+/// The window toolkit. After each event that it raises it carries over to the screen what the event
+/// changed in the form's data; in the middle of an event only Refresh does.
+class Toolkit {
+public:
+    virtual ~Toolkit() = default;
+
+    virtual void InitCommonControls() = 0;
+
+    /// Size of a text on one line, in pixels.
+    virtual TextSize text_size(const std::string& text, const FontSpec& font) const = 0;
+
+    /// Makes the form's window if there is none and brings it up in the centre of the screen.
+    virtual void Show(Form& form) = 0;
+    /// Shows the form over all others, which take no input meanwhile, and returns when it is
+    /// hidden.
+    virtual void ShowModal(Form& form) = 0;
+    /// Takes the form's window away.
+    virtual void Hide(Form& form) = 0;
+    /// Carries over what changed and paints it before it returns.
+    virtual void Refresh(Form& form) = 0;
+    /// Runs the events that are pending, once.
+    virtual void DoEvents() = 0;
+
+    /// Pops up a menu of the form at a point of its client area, or at the pointer, and raises
+    /// Click of the entry that the user chooses. `bold` is the default entry, if any.
+    virtual void popup(Form& form, PopupMenu& menu, std::optional<Point> at,
+                       const MenuItem* bold) = 0;
+
+    /// The pointer of the whole screen; Default gives each control its own pointer back.
+    virtual void set_screen_pointer(Pointer pointer) = 0;
+
+    virtual std::int32_t GetWindowLongA(const Form& form, int index) = 0;
+    virtual void SetWindowLongA(Form& form, int index, std::int32_t value) = 0;
+    virtual void SetLayeredWindowAttributes(Form& form, Colour key, std::uint8_t alpha,
+                                            std::uint32_t flags) = 0;
+
+    /// Waits for events and raises them until the process ends; returns its exit code.
+    virtual int run() = 0;
+};
+
+/// Asks a form to close: its Form_Unload may refuse, else its window goes. True if it went.
+bool Unload(Toolkit& toolkit, Form& form);
+
+/// Gives a label that sizes itself the size of its text.
+void fit(const Toolkit& toolkit, Label& label);
+
+} // namespace ostrelum
