@@ -1,0 +1,185 @@
+#include "frame/StringTable.h"
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <iterator>
+#include <map>
+#include <regex>
+#include <set>
+#include <string_view>
+
+namespace ostrelum {
+namespace {
+
+using Keys = std::set<std::size_t>;
+using Table = decltype(Trad);
+
+constexpr std::string_view sentinel = "left over from the language before";
+const Keys reserved = {142, 156, 157};
+
+struct Language {
+    const char* name;
+    void (*fill)();
+};
+constexpr Language languages[] = {
+    {"English", LangEnglish}, {"Spanish", LangSpanish}, {"Dutch", LangDutch}};
+
+/// The table as one language leaves it when every slot held something else before.
+Table table_of(const Language& language)
+{
+    Trad.fill(std::string(sentinel));
+    language.fill();
+    return Trad;
+}
+
+/// The marks of a template; their order is the language's own affair.
+std::multiset<std::string> marks(const std::string& text)
+{
+    static const std::regex mark(R"(\((#|[1-4]|HHMMSS|DDMMYYYY)\))");
+    return {std::sregex_token_iterator(text.begin(), text.end(), mark),
+            std::sregex_token_iterator()};
+}
+
+std::string ending(const std::string& text)
+{
+    const std::size_t last = text.find_last_not_of(".:!|,;?");
+    return last == std::string::npos ? text : text.substr(last + 1);
+}
+
+/// UTF-8 of printable characters up to U+00FF, each of which code page 1252 holds.
+bool is_printable_latin(const std::string& text)
+{
+    static const std::regex characters("([\x20-\x7E]|\xC2[\xA0-\xBF]|\xC3[\x80-\xBF])*");
+    return std::regex_match(text, characters);
+}
+
+/// The keys whose rows still differ when each is seen through `view`.
+template <class View>
+Keys differing(const Table& one, const Table& other, View view)
+{
+    Keys keys;
+    for (std::size_t key = 1; key < one.size(); ++key)
+        if (view(one[key]) != view(other[key]))
+            keys.insert(key);
+    return keys;
+}
+
+TEST(StringTable, EachLanguageFillsAllKeysButTheFirstAndTheReservedOnes)
+{
+    for (const Language& language : languages) {
+        const Table table = table_of(language);
+        EXPECT_EQ(table[0], sentinel) << language.name;
+        for (std::size_t key = 1; key < table.size(); ++key) {
+            SCOPED_TRACE(testing::Message() << language.name << " " << key << ": " << table[key]);
+            EXPECT_NE(table[key], sentinel);
+            EXPECT_EQ(table[key].empty(), reserved.contains(key));
+            EXPECT_TRUE(is_printable_latin(table[key]));
+            EXPECT_FALSE(table[key].starts_with(' ') || table[key].ends_with(' '));
+        }
+    }
+}
+
+TEST(StringTable, NothingOfTheFormerLanguageRemains)
+{
+    for (const Language& from : languages)
+        for (const Language& to : languages) {
+            const Table expected = table_of(to);
+            table_of(from);
+            to.fill();
+            EXPECT_EQ(Trad, expected) << from.name << " to " << to.name;
+        }
+}
+
+TEST(StringTable, TranslationsKeepMarksAndEndingsOfTheEnglishRow)
+{
+    // The Dutch hour takes no full stop, and its "not applicable" is an abbreviation.
+    const Keys other_ending[] = {{}, {}, {54, 132}};
+    const Table english = table_of(languages[0]);
+    for (std::size_t i = 0; i < std::size(languages); ++i) {
+        const Table table = table_of(languages[i]);
+        EXPECT_EQ(differing(english, table, marks), Keys{}) << languages[i].name;
+        EXPECT_EQ(differing(english, table, ending), other_ending[i]) << languages[i].name;
+    }
+}
+
+TEST(StringTable, TemplatesHoldTheMarksThatTheirUsersFill)
+{
+    std::map<std::size_t, std::multiset<std::string>> expected = {
+        {54, {"(HHMMSS)"}},
+        {80, {"(DDMMYYYY)", "(HHMMSS)"}},
+        {112, {"(1)", "(2)", "(3)"}},
+        {160, {"(1)", "(2)", "(3)", "(4)"}},
+    };
+    for (std::size_t key : Keys{28, 57, 72, 137, 144, 146, 167, 168, 173, 179, 182})
+        expected[key] = {"(#)"};
+    const Table english = table_of(languages[0]);
+    for (std::size_t key = 1; key < english.size(); ++key)
+        EXPECT_EQ(marks(english[key]), expected[key]) << key;
+}
+
+TEST(StringTable, NoRowWasForgottenInTranslation)
+{
+    // Names, units, words that two languages share, and 80 and 83, which never were translated.
+    const Keys shared[] = {{3, 40, 50, 54, 80, 142, 152, 156, 157, 163, 168, 173, 178},
+                           {13, 15, 43, 60, 61, 83, 85, 142, 156, 157, 168, 173, 178, 184, 186}};
+    const Table english = table_of(languages[0]);
+    for (std::size_t i = 1; i < std::size(languages); ++i) {
+        const Table table = table_of(languages[i]);
+        for (std::size_t key = 1; key < table.size(); ++key)
+            EXPECT_EQ(table[key] == english[key], shared[i - 1].contains(key))
+                << key << " " << table[key];
+    }
+}
+
+TEST(StringTable, FilterRowsPairADescriptionWithTheSamePattern)
+{
+    const Keys filter_rows = {176, 177, 178, 180};
+    static const std::regex row(R"([^|*()]+ \((\*\.[a-z]{3})\)\|\1\|)");
+    for (const Language& language : languages) {
+        const Table table = table_of(language);
+        std::string patterns;
+        for (std::size_t key = 1; key < table.size(); ++key) {
+            std::smatch parts;
+            EXPECT_EQ(std::regex_match(table[key], parts, row), filter_rows.contains(key))
+                << table[key];
+            patterns += parts[1].str();
+        }
+        EXPECT_EQ(patterns, "*.rtf*.htm*.txt*.txt") << language.name;
+    }
+}
+
+TEST(StringTable, RowsThatDifferInMeaningOrSpellingStayAsUsersKnowThem)
+{
+    const struct {
+        std::size_t key;
+        const char* texts[3];
+    } rows[] = {
+        {1, {"English (UK, Great Britain)", "Español (Argentina)", "Nederlands (Nederland)"}},
+        {12, {"User account", "Usuario", "Gebruikersaccount"}},
+        {51, {"Password expired:", "Contraseña caducable:", "Wachtwoord verlopen:"}},
+        {54, {"(HHMMSS) hs.", "(HHMMSS) hs.", "(HHMMSS) uur"}},
+        {80,
+         {"(DDMMYYYY) a las (HHMMSS) hs.", "(DDMMYYYY) a las (HHMMSS) hs.",
+          "(DDMMYYYY) om (HHMMSS)."}},
+        {83, {"Speed:", "Velocidad:", "Speed:"}},
+        {95, {"Data bus width:", "Ancho del bus de datos:", "Gegevensbussnelheid:"}},
+        {112,
+         {"(1) pixels, (2) bits, (3) Hz", "(1) píxeles, (2) bits, (3) Hz",
+          "(1) pixels, (2)-bits, (3) Hz"}},
+        {132, {"Not applicable", "Configuración no establecida", "N.v.t."}},
+        {183, {"Programmer:", "Autor:", "Ontwikkeld door:"}},
+    };
+    for (std::size_t i = 0; i < std::size(languages); ++i) {
+        const Table table = table_of(languages[i]);
+        for (const auto& row : rows)
+            EXPECT_EQ(table[row.key], row.texts[i]) << languages[i].name;
+    }
+    const Table english = table_of(languages[0]);
+    EXPECT_EQ(english[23], "Others hardware");
+    EXPECT_EQ(english[128], "Connexion:");
+    EXPECT_EQ(english[169], "None removable drive has been conected");
+}
+
+} // namespace
+} // namespace ostrelum
