@@ -1,0 +1,51 @@
+#include "platform/linux/Utf8.h"
+
+namespace ostrelum {
+
+namespace {
+
+bool between(unsigned char byte, unsigned char low, unsigned char high)
+{
+    return byte >= low && byte <= high;
+}
+
+/// Length of the well-formed character at the start of `text`; 0 if there is none.
+std::size_t character_length(std::string_view text)
+{
+    const auto at = [&](std::size_t i) {
+        return i < text.size() ? static_cast<unsigned char>(text[i])
+                               : static_cast<unsigned char>(0);
+    };
+    const auto continues = [&](std::size_t i) { return between(at(i), 0x80, 0xBF); };
+    const unsigned char lead = at(0);
+    if (lead < 0x80)
+        return 1;
+    if (between(lead, 0xC2, 0xDF))
+        return continues(1) ? 2 : 0;
+    if (between(lead, 0xE0, 0xEF)) {
+        const unsigned char low = lead == 0xE0 ? 0xA0 : 0x80;
+        const unsigned char high = lead == 0xED ? 0x9F : 0xBF;
+        return between(at(1), low, high) && continues(2) ? 3 : 0;
+    }
+    if (between(lead, 0xF0, 0xF4)) {
+        const unsigned char low = lead == 0xF0 ? 0x90 : 0x80;
+        const unsigned char high = lead == 0xF4 ? 0x8F : 0xBF;
+        return between(at(1), low, high) && continues(2) && continues(3) ? 4 : 0;
+    }
+    return 0;
+}
+
+} // namespace
+
+bool valid_utf8(std::string_view text)
+{
+    while (!text.empty()) {
+        const std::size_t length = character_length(text);
+        if (length == 0)
+            return false;
+        text.remove_prefix(length);
+    }
+    return true;
+}
+
+} // namespace ostrelum
