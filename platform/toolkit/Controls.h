@@ -12,6 +12,12 @@
 /// and carries over what differs.
 namespace ostrelum {
 
+struct Point {
+    int x = 0;
+    int y = 0;
+    bool operator==(const Point&) const = default;
+};
+
 struct FontSpec {
     std::string Name = "Tahoma";
     /// In points, 96 to the inch on the screen as the window's pixels count: 9.75 points are 13

@@ -8,12 +8,6 @@
 
 namespace ostrelum {
 
-struct Point {
-    int x = 0;
-    int y = 0;
-    bool operator==(const Point&) const = default;
-};
-
 struct TextSize {
     int width = 0;
     int height = 0;

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "platform/toolkit/Events.h"
+
+/// What the small commands offer to the rest of the program.
+namespace ostrelum {
+
+/// Copy and Copy all of the page's right-click menu.
+extern const HandlerTable copy_handlers;
+
+} // namespace ostrelum

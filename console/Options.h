@@ -1,0 +1,27 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace ostrelum {
+
+/// What the console's command line asks for.
+struct Options {
+    /// Root folder of the machine: "/" or a recorded tree.
+    std::string sysroot = "/";
+    /// "English", "Spanish", "Dutch".
+    std::string language = "English";
+    /// Account whose page is shown; nothing for the user's own.
+    std::optional<std::string> user;
+    /// The command and its arguments, at least one word.
+    std::vector<std::string> command;
+};
+
+/// The text that tells how the console is used.
+extern const char* const usage;
+
+/// Reads the options that stand before the command; nothing if they are wrong.
+std::optional<Options> read_options(const std::vector<std::string>& arguments);
+
+} // namespace ostrelum

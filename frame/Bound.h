@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/system/Failure.h"
+
+#include <memory>
+
+namespace ostrelum {
+
+/// An object of the platform that may not have been had: any use of it then fails like a failed
+/// operation.
+template <class Object>
+class Bound {
+public:
+    Bound() = default;
+    Bound(std::unique_ptr<Object> object) : object_(std::move(object)) {}
+
+    Object* operator->() const
+    {
+        if (!object_)
+            throw Failure("the object is not bound");
+        return object_.get();
+    }
+
+private:
+    std::unique_ptr<Object> object_;
+};
+
+} // namespace ostrelum

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/toolkit/Events.h"
+
+#include <vector>
+
+namespace ostrelum {
+
+/// The tables of handlers of the main window. Each unit that handles events of F1 lists its
+/// handlers at its foot; here they come together.
+std::vector<HandlerTable> main_form_handlers();
+
+extern const HandlerTable life_handlers;
+extern const HandlerTable navigation_handlers;
+extern const HandlerTable page_menu_handlers;
+extern const HandlerTable language_handlers;
+
+} // namespace ostrelum

@@ -1,0 +1,141 @@
+#include "frame/Life.h"
+
+#include "frame/F1Events.h"
+#include "frame/Language.h"
+#include "frame/MainForm.h"
+#include "frame/Navigation.h"
+#include "frame/Opacity.h"
+#include "frame/PassOver.h"
+#include "frame/PictureForm.h"
+#include "frame/Platform.h"
+#include "frame/Settings.h"
+#include "skin/Skin.h"
+
+namespace ostrelum {
+namespace {
+
+/// A step of a fade, in percent of transparency.
+constexpr int FadeStep = 9;
+
+void set_level()
+{
+    SetOpacity(F1, static_cast<std::int16_t>(Cnt));
+}
+
+void Form_Initialize()
+{
+    if (platform.machine->PrevInstance())
+        platform.machine->End();
+    platform.toolkit->InitCommonControls();
+}
+
+void test_fonts()
+{
+    FontsOk = 0;
+    attempt([] {
+        const std::string folder = ShellObject->SpecialFolders("Fonts");
+        const auto plain = [&](const char* file) {
+            return platform.machine->GetAttr(folder + file) == ATTR_ARCHIVE;
+        };
+        if (plain("\\segoeui.ttf") && plain("\\segoeuil.ttf"))
+            FontsOk = 32;
+    });
+}
+
+void use_other_fonts()
+{
+    F1.Titulo.Font = {.Name = "Arial", .Size = 20, .Italic = true};
+    F1.Titulo.Top = 58;
+    for (int row = 1; row <= F1.LT.count; ++row)
+        F1.LT(row).Font.Name = F1.L(row).Font.Name = "Arial";
+    F1.LNoDrive.Font.Name = "Arial";
+}
+
+void colour_the_skin()
+{
+    SplitColor(ColorValue);
+    tint_skin();
+    MakeSkinColor();
+    F1.Titulo.ForeColor = RGB(SkinR, SkinG, SkinB);
+}
+
+void start_fade_in()
+{
+    Cnt = 100;
+    F1.TLoad.Enabled = true;
+}
+
+void Form_Load()
+{
+    attempt([] { WmiService = platform.GetObject("WINMGMTS:\\\\.\\root\\cimv2"); });
+    attempt([] { ShellObject = platform.CreateObject("WScript.Shell"); });
+    test_fonts();
+    if (FontsOk != 32)
+        use_other_fonts();
+    read_language();
+    read_colour();
+    read_shine();
+    read_transparency_switch();
+    read_transparency();
+    colour_the_skin();
+    F1.Ico.store(F6->Sec1.Stored);
+    TraduPrincipal();
+    LMenu_MouseDown(1, LeftButton, 0, 0, 0);
+    if (TransEnabled)
+        start_fade_in();
+}
+
+void TLoad_Timer()
+{
+    Cnt -= FadeStep;
+    set_level();
+    if (Cnt <= Transparency) {
+        SetOpacity(F1, static_cast<std::int16_t>(Transparency));
+        F1.TLoad.Enabled = false;
+    }
+}
+
+void Quit_Click()
+{
+    Unload(*platform.toolkit, F1);
+}
+
+void Form_Unload(bool& cancel)
+{
+    if (!TransEnabled)
+        platform.machine->End();
+    cancel = true;
+    Cnt = Transparency;
+    F1.TUnload.Enabled = true;
+}
+
+void TUnload_Timer()
+{
+    Cnt += FadeStep;
+    set_level();
+    if (Cnt >= 100) {
+        F1.TUnload.Enabled = false;
+        platform.machine->End();
+    }
+}
+
+constexpr Handler table[] = {
+    OSTRELUM_ON(Form_Initialize), OSTRELUM_ON(Form_Load),   OSTRELUM_ON(TLoad_Timer),
+    OSTRELUM_ON(Quit_Click),      OSTRELUM_ON(Form_Unload), OSTRELUM_ON(TUnload_Timer),
+};
+
+} // namespace
+
+const HandlerTable life_handlers{table};
+
+void start_program()
+{
+    reset_shared_state();
+    F6.reset();
+    load_main_form();
+    F1.raise("Form", {.kind = EventKind::Initialize});
+    F1.raise("Form", {.kind = EventKind::Load});
+    platform.toolkit->Show(F1);
+}
+
+} // namespace ostrelum

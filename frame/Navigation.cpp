@@ -1,0 +1,146 @@
+#include "frame/Navigation.h"
+
+#include "frame/F1Events.h"
+#include "frame/MainForm.h"
+#include "frame/Page.h"
+#include "frame/Platform.h"
+#include "sections/Sections.h"
+#include "skin/Skin.h"
+
+#include <array>
+
+namespace ostrelum {
+namespace {
+
+/// The column's rows: where the first begins, and how high each is, in pixels.
+constexpr int FirstRowTop = 49;
+constexpr int RowHeight = 35;
+constexpr int SectionCount = 13;
+/// The options tab at the top of the column.
+constexpr int TabWidth = 135;
+constexpr int TabHeight = 31;
+
+constexpr std::array<void (*)(), SectionCount> collectors{
+    SecSummary, SecUser,    SecComputer, SecOS,        SecCPU,     SecRAM,  SecDisks,
+    SecBIOS,    SecDisplay, SecInput,    SecRemovable, SecOptical, SecOther};
+
+/// The row of the column at a height; 0 above and below the rows.
+int row_at(int y)
+{
+    if (y < FirstRowTop || y >= FirstRowTop + RowHeight * SectionCount)
+        return 0;
+    return (y - FirstRowTop) / RowHeight + 1;
+}
+
+bool in_tab(int x, int y)
+{
+    return x < TabWidth && y < TabHeight;
+}
+
+void collect(int index)
+{
+    F1.BM.Top = FirstRowTop + RowHeight * (index - 1);
+    F1.LMenu2.Caption = Trad[static_cast<std::size_t>(index + 10)];
+    F1.BM.Visible = true;
+    collectors[static_cast<std::size_t>(index - 1)]();
+}
+
+void S_MouseDown(int index, int button, int shift, int x, int y)
+{
+    const int row = row_at(y);
+    if (index == 1 && row != 0)
+        LMenu_MouseDown(row, button, shift, x, y);
+}
+
+void LOpc_MouseUp(int button, int, int, int)
+{
+    if (button == LeftButton && !F1.PanelOpen)
+        platform.toolkit->popup(F1, F1.MenuOps, Point{25, 14}, &F1.Quit);
+}
+
+void MenuLogo_MouseUp(int button, int shift, int x, int y)
+{
+    LOpc_MouseUp(button, shift, x, y);
+}
+
+void S_MouseUp(int index, int button, int shift, int x, int y)
+{
+    if (index == 1 && button == LeftButton && in_tab(x, y))
+        LOpc_MouseUp(button, shift, x, y);
+}
+
+void S_MouseMove(int index, int, int, int x, int y)
+{
+    if (index != 1)
+        return;
+    const bool active = !F1.PanelOpen && (in_tab(x, y) || row_at(y) != 0);
+    F1.S(1).MousePointer = active ? Pointer::Hand : Pointer::Arrow;
+}
+
+void LMenu2_Click()
+{
+    LMenu_MouseDown(F1.Seccion, LeftButton, 0, 0, 0);
+}
+
+void BM_Click()
+{
+    LMenu2_Click();
+}
+
+void set_navigation(Colour options, Colour names, Pointer pointer)
+{
+    F1.LOpc.ForeColor = options;
+    F1.LMenu2.ForeColor = names;
+    F1.LOpc.MousePointer = F1.MenuLogo.MousePointer = pointer;
+    F1.BM.MousePointer = F1.LMenu2.MousePointer = pointer;
+    for (int n = 1; n <= SectionCount; ++n) {
+        F1.LMenu(n).ForeColor = names;
+        F1.LMenu(n).MousePointer = pointer;
+    }
+}
+
+constexpr Handler rows[] = {
+    OSTRELUM_ON(LMenu_MouseDown), OSTRELUM_ON(S_MouseDown),      OSTRELUM_ON(S_MouseUp),
+    OSTRELUM_ON(S_MouseMove),     OSTRELUM_ON(LMenu2_Click),     OSTRELUM_ON(BM_Click),
+    OSTRELUM_ON(LOpc_MouseUp),    OSTRELUM_ON(MenuLogo_MouseUp),
+};
+
+} // namespace
+
+const HandlerTable navigation_handlers{rows};
+
+void LMenu_MouseDown(int index, int button, int, int, int)
+{
+    if (button == RightButton || button == MiddleButton || F1.PanelOpen)
+        return;
+    platform.toolkit->set_screen_pointer(Pointer::Hourglass);
+    F1.BM.Visible = false;
+    if (index >= 1 && index <= SectionCount)
+        collect(index);
+    platform.toolkit->set_screen_pointer(Pointer::Default);
+    F1.Labelmi.Caption = Trad[35];
+    platform.toolkit->Refresh(F1);
+    start_cross_fade();
+}
+
+void ClearPage()
+{
+    empty_rows(1, 12);
+    for (int row = 1; row <= 12; ++row)
+        F1.LT(row).ToolTipText.clear();
+    hide(F1.LNoDrive, F1.Line1, F1.Iaviso, F1.Laviso, F1.LineInf);
+    F1.Labelmi.Caption.clear();
+    platform.toolkit->Refresh(F1);
+}
+
+void LockMenu()
+{
+    set_navigation(RGB(215, 215, 215), RGB(215, 215, 215), Pointer::Arrow);
+}
+
+void UnlockMenu()
+{
+    set_navigation(RGB(250, 250, 250), White, Pointer::Hand);
+}
+
+} // namespace ostrelum

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "platform/toolkit/Form.h"
+
+#include <cstdint>
+
+namespace ostrelum {
+
+/// Makes a window see-through by a percentage: 0 is opaque, 100 invisible; what lies outside is
+/// held to these.
+void SetOpacity(Form& form, std::int16_t percent);
+
+} // namespace ostrelum

@@ -1,0 +1,83 @@
+#include "frame/Page.h"
+
+#include "frame/Platform.h"
+#include "sources/Ascii.h"
+
+namespace ostrelum {
+namespace {
+
+/// What a row shows for a value that could not be had.
+const std::string& unknown()
+{
+    return Trad[89];
+}
+
+void write(Label& label, const std::string& text)
+{
+    label.Caption = text;
+    fit(*platform.toolkit, label);
+}
+
+void set_look(int row, Colour colour, bool italic)
+{
+    F1.LT(row).ForeColor = colour;
+    F1.LT(row).Font.Italic = italic;
+}
+
+} // namespace
+
+void enter_section(std::uint8_t section)
+{
+    if (F1.Seccion == section)
+        return;
+    write(F1.Labelmi, Trad[34]);
+    F1.Seccion = section;
+    F1.Line2.Visible = false;
+}
+
+void clear(std::array<std::string, 12>& values, int from, int to)
+{
+    for (int slot = from; slot <= to; ++slot)
+        values.at(static_cast<std::size_t>(slot)).clear();
+}
+
+std::string trimmed(const Value& value)
+{
+    return std::string(trim_blanks(value.text()));
+}
+
+void plain_title(int row)
+{
+    set_look(row, RGB(32, 32, 32), false);
+}
+
+void set_heading(int row, const std::string& title)
+{
+    set_look(row, RGB(SkinR, SkinG, SkinB), true);
+    write(F1.LT(row), title);
+    write(F1.L(row), "");
+    F1.L(row).ToolTipText.clear();
+}
+
+void set_title(int row, const std::string& title)
+{
+    write(F1.LT(row), title);
+    F1.L(row).Left = F1.LT(row).Left + F1.LT(row).Width;
+}
+
+void set_value(int row, const std::string& value)
+{
+    write(F1.L(row), value.empty() ? unknown() : value);
+    F1.L(row).ToolTipText = F1.L(row).Caption;
+}
+
+void empty_rows(int from, int to)
+{
+    for (int row = from; row <= to; ++row) {
+        write(F1.LT(row), "");
+        write(F1.L(row), "");
+        F1.L(row).ToolTipText.clear();
+    }
+}
+
+} // namespace ostrelum

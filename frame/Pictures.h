@@ -1,0 +1,13 @@
+#pragma once
+
+#include "platform/toolkit/Picture.h"
+
+#include <string_view>
+
+namespace ostrelum {
+
+/// The picture art/pictures/NAME.bmp, always the same for a name. No picture for a name that is not
+/// there.
+Picture art_picture(std::string_view name);
+
+} // namespace ostrelum

@@ -1,0 +1,151 @@
+#include "tests/Stage.h"
+
+#include "frame/Opacity.h"
+
+#include <gmock/gmock.h>
+
+namespace ostrelum {
+namespace {
+
+using ::testing::ElementsAre;
+
+class Life : public Stage {
+protected:
+    /// Ticks a fade's timer until it stops or the process ends; the levels that it went through.
+    std::vector<int> levels_of_fade(std::string_view name, const Timer& timer)
+    {
+        std::vector<int> levels;
+        for (int i = 0; timer.Enabled && i < 50; ++i) {
+            try {
+                tick(name);
+            } catch (const ProcessEnded&) {
+            }
+            levels.push_back(Cnt);
+        }
+        return levels;
+    }
+};
+
+TEST_F(Life, FirstRunWritesFiveDefaultsInOrderAndFadesInToOpaque)
+{
+    start_program();
+    EXPECT_THAT(store.writes,
+                ElementsAre(full_name("Language"), full_name("ColorValue"), full_name("ShineValue"),
+                            full_name("ChkTrans"), full_name("Transparency")));
+    EXPECT_EQ(stored("Language"), "English");
+    EXPECT_EQ(stored("ColorValue"), "16750080");
+    EXPECT_EQ(stored("ShineValue"), "48");
+    EXPECT_EQ(toolkit.alphas[&F1], std::vector<int>{0});
+    EXPECT_THAT(levels_of_fade("TLoad", F1.TLoad),
+                ElementsAre(91, 82, 73, 64, 55, 46, 37, 28, 19, 10, 1, -8));
+    EXPECT_EQ(toolkit.alphas[&F1].back(), 255);
+    EXPECT_EQ(toolkit.alphas[&F1].size(), 14U);
+}
+
+TEST_F(Life, FadesRestAtTheTransparencyAndStartOverWhenClosedAgain)
+{
+    store_number("Transparency", 80);
+    start_program();
+    EXPECT_THAT(levels_of_fade("TLoad", F1.TLoad), ElementsAre(91, 82, 73));
+    EXPECT_EQ(toolkit.alphas[&F1].back(), 51);
+
+    EXPECT_FALSE(Unload(toolkit, F1));
+    tick("TUnload");
+    EXPECT_EQ(Cnt, 89);
+    EXPECT_FALSE(Unload(toolkit, F1));
+    EXPECT_THAT(levels_of_fade("TUnload", F1.TUnload), ElementsAre(89, 98, 107));
+    EXPECT_TRUE(machine.ended);
+    EXPECT_EQ(store.writes.size(), 4U) << "nothing is saved at the end";
+}
+
+TEST_F(Life, AFadeGoesOnFromWhateverACollectorLeavesInItsCounter)
+{
+    start_program();
+    tick("TLoad");
+    Cnt = 3;
+    tick("TLoad");
+    EXPECT_FALSE(F1.TLoad.Enabled);
+    EXPECT_EQ(toolkit.alphas[&F1].back(), 255);
+}
+
+TEST_F(Life, WithoutTransparencyTheWindowIsNeverLayeredAndEndsAtOnce)
+{
+    store_number("ChkTrans", 0);
+    start_program();
+    EXPECT_TRUE(toolkit.alphas[&F1].empty());
+    EXPECT_FALSE(F1.TLoad.Enabled);
+    EXPECT_THROW(click("Quit"), ProcessEnded);
+    EXPECT_TRUE(machine.ended);
+}
+
+TEST_F(Life, ASecondInstanceEndsBeforeAnythingElse)
+{
+    machine.second_instance = true;
+    EXPECT_THROW(start_program(), ProcessEnded);
+    EXPECT_TRUE(toolkit.shown.empty());
+    EXPECT_FALSE(toolkit.common_controls);
+    EXPECT_TRUE(store.writes.empty());
+}
+
+TEST_F(Life, WithoutServiceAndShellTheWindowOpensWithDefaultsInMemory)
+{
+    service_gone = shell_gone = true;
+    start_program();
+    press("LMenu", 8);
+    EXPECT_EQ(F1.L(1).Caption, "Unknown");
+    EXPECT_EQ(Idioma, "English");
+    EXPECT_EQ(ColorValue, 16750080);
+    EXPECT_EQ(Shine, 24);
+    EXPECT_EQ(F1.Titulo.Font.Name, "Arial");
+    EXPECT_EQ(toolkit.shown, std::vector<Form*>{&F1});
+}
+
+TEST_F(Life, StartFillsMenuSkinAndFirstPageBeforeTheWindowShows)
+{
+    store_text("Language", "  Dutch ");
+    start_program();
+    EXPECT_EQ(stored("Language"), "  Dutch ") << "the store keeps its blanks";
+    EXPECT_EQ(F1.LMenu(2).Caption, "Gebruikersaccount");
+    EXPECT_EQ(F1.LMenu2.Caption, F1.LMenu(1).Caption);
+    EXPECT_EQ(F1.Titulo.ForeColor, RGB(0, 84, 189));
+    EXPECT_EQ(F1.Seccion, 1);
+    EXPECT_TRUE(F6.created());
+    EXPECT_EQ(F1.Ico.Stored, F6->Sec1.Stored);
+    EXPECT_EQ(toolkit.pointers, (std::vector{Pointer::Hourglass, Pointer::Default}));
+}
+
+TEST_F(Life, PreferredFontsNeedBothFilesWithTheArchiveFlagAlone)
+{
+    const struct {
+        int text, light;
+        bool preferred;
+    } cases[] = {{32, 32, true}, {32, 33, false}, {34, 32, false}, {32, -1, false}};
+    for (const auto& c : cases) {
+        store.folders["Fonts"] = "F";
+        machine.attributes = {{"F\\segoeui.ttf", c.text}, {"F\\segoeuil.ttf", c.light}};
+        if (c.light < 0)
+            machine.attributes.erase("F\\segoeuil.ttf");
+        start_program();
+        EXPECT_EQ(FontsOk, c.preferred ? 32 : 0) << c.text << " " << c.light;
+        EXPECT_EQ(F1.Titulo.Top, c.preferred ? 48 : 58);
+        EXPECT_EQ(F1.LT(12).Font.Name, c.preferred ? "Segoe UI" : "Arial");
+        EXPECT_TRUE(F1.LT(12).Font.Bold);
+    }
+}
+
+TEST_F(Life, OpacityClampsAndCutsTowardZero)
+{
+    start_program();
+    const struct {
+        std::int16_t percent;
+        int alpha;
+    } cases[] = {{0, 255}, {9, 232}, {80, 51}, {100, 0}, {108, 0}, {-8, 255}, {-32768, 255}};
+    for (const auto& c : cases) {
+        SetOpacity(F1, c.percent);
+        EXPECT_EQ(toolkit.alphas[&F1].back(), c.alpha) << c.percent;
+    }
+    EXPECT_EQ(toolkit.GetWindowLongA(F1, GWL_EXSTYLE), WS_EX_LAYERED);
+}
+
+} // namespace
+} // namespace ostrelum

@@ -1,0 +1,71 @@
+#include "tests/Stage.h"
+
+#include "frame/Page.h"
+
+namespace ostrelum {
+namespace {
+
+class Page : public Stage {
+protected:
+    Page() { start_program(); }
+};
+
+TEST_F(Page, ARowsValueStandsDirectlyBehindItsTitle)
+{
+    set_row(2, "Größe:", std::string("12 MB"));
+    EXPECT_EQ(F1.LT(2).Caption, "Größe: ");
+    EXPECT_EQ(F1.L(2).Left, 208 + 7 * MemoryToolkit::CharacterWidth) << "characters, not bytes";
+    EXPECT_EQ(F1.L(2).Caption, "12 MB");
+    EXPECT_EQ(F1.L(2).ToolTipText, "12 MB");
+    set_row(2, "Name:", std::string());
+    EXPECT_EQ(F1.L(2).Caption, "Unknown");
+    EXPECT_EQ(F1.L(2).ToolTipText, "Unknown");
+}
+
+TEST_F(Page, AValueThatFailsLeavesTheOldOneAndItsTooltip)
+{
+    set_row(4, "Name:", std::string("old"));
+    F1.L(4).ToolTipText = "stale";
+    set_row(4, "Released:", []() -> std::string { throw Failure("no date"); });
+    EXPECT_EQ(F1.LT(4).Caption, "Released: ");
+    EXPECT_EQ(F1.L(4).Caption, "old");
+    EXPECT_EQ(F1.L(4).ToolTipText, "old");
+}
+
+TEST_F(Page, HeadingsTakeTheSkinColourAndPlainTitlesGiveItBack)
+{
+    set_heading(1, "Main features");
+    EXPECT_EQ(F1.LT(1).ForeColor, RGB(0, 84, 189));
+    EXPECT_TRUE(F1.LT(1).Font.Italic);
+    EXPECT_EQ(F1.L(1).Caption + F1.L(1).ToolTipText, "");
+    plain_title(1);
+    EXPECT_EQ(F1.LT(1).ForeColor, RGB(32, 32, 32));
+    EXPECT_FALSE(F1.LT(1).Font.Italic);
+}
+
+TEST_F(Page, WalksTakeAllTheFirstOrTheFirstThatMatches)
+{
+    const ResultSet three{Instance({{"n", 1}}), Instance({{"n", 2}}), Instance({{"n", 3}})};
+    int sum = 0;
+    const auto add = [&](const Instance& item) { sum += item["n"].whole(); };
+    each(three, add);
+    EXPECT_EQ(sum, 6);
+    first(three, add);
+    EXPECT_EQ(sum, 7);
+    first_match(three, [](const Instance& item) { return item["N"].whole() == 2; });
+    EXPECT_EQ(WmiItem["n"].whole(), 2);
+    first({}, add);
+    EXPECT_EQ(sum, 7);
+}
+
+TEST_F(Page, AFailedQueryLeavesNothingToWalk)
+{
+    WmiResult = {Instance({{"n", 1}})};
+    query("Select Name from Win32_Nothing");
+    EXPECT_TRUE(WmiResult.empty());
+    EXPECT_TRUE(holds([]() -> bool { throw Failure("test"); }));
+    EXPECT_FALSE(holds([] { return false; }));
+}
+
+} // namespace
+} // namespace ostrelum

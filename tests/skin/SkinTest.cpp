@@ -1,0 +1,211 @@
+#include "tests/Stage.h"
+
+#include "skin/Bmp.h"
+#include "skin/Pixels.h"
+#include "skin/Skin.h"
+
+#include <algorithm>
+
+namespace ostrelum {
+namespace {
+
+/// A grey picture whose levels run through all 256, with marked filling bytes.
+Bitmap grey_ramp(int width, int height)
+{
+    Bitmap bitmap(width, height);
+    std::ranges::fill(bitmap.bytes, std::uint8_t{0xA5});
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width * 3; ++x)
+            bitmap.row(y)[x] = static_cast<std::uint8_t>((y * width + x / 3) % 256);
+    }
+    return bitmap;
+}
+
+TEST(Tinting, ShiftsEachChannelByColourAndShineAndLeavesTheFillingAlone)
+{
+    const TintColour colours[] = {{0, 150, 255, 24},   {255, 0, 0, 0}, {255, 255, 255, 24},
+                                  {220, 220, 220, 24}, {0, 0, 0, 0},   {17, 244, 1, 13}};
+    for (const auto& [width, height] : {std::pair{31, 40}, {170, 3}, {1, 300}, {16, 16}}) {
+        const Bitmap grey = grey_ramp(width, height);
+        for (const TintColour& colour : colours) {
+            Bitmap expected = grey;
+            const int base[] = {colour.blue, colour.green, colour.red};
+            for (int y = 0; y < height; ++y) {
+                for (int x = 0; x < width * 3; ++x) {
+                    const int level = grey.row(y)[x] + base[x % 3] + colour.shine - 244;
+                    expected.row(y)[x] = static_cast<std::uint8_t>(std::clamp(level, 0, 255));
+                }
+            }
+            Bitmap tinted = grey;
+            tint_pixels(tinted, colour);
+            EXPECT_TRUE(tinted == expected) << width << "x" << height << " red " << int{colour.red};
+        }
+    }
+}
+
+TEST(Tinting, GivesTheLevelsOfTheDefaultColour)
+{
+    const struct {
+        std::uint8_t grey;
+        int red, green, blue;
+    } rows[] = {{0, 0, 0, 35}, {86, 0, 16, 121}, {171, 0, 101, 206}, {255, 35, 185, 255}};
+    for (const auto& row : rows) {
+        Bitmap pixel(1, 1);
+        std::fill_n(pixel.bytes.begin(), 3, row.grey);
+        tint_pixels(pixel, {.red = 0, .green = 150, .blue = 255, .shine = 24});
+        EXPECT_EQ(pixel.bytes[0], row.blue) << int{row.grey};
+        EXPECT_EQ(pixel.bytes[1], row.green) << int{row.grey};
+        EXPECT_EQ(pixel.bytes[2], row.red) << int{row.grey};
+    }
+}
+
+TEST(Blending, MixesByConstantAlpha)
+{
+    Bitmap black(3, 2);
+    Bitmap white(3, 2);
+    std::ranges::fill(white.bytes, std::uint8_t{255});
+    for (const int alpha : {0, 13, 128, 247, 255}) {
+        Bitmap mixed = black;
+        blend_pixels(mixed, white, static_cast<std::uint8_t>(alpha));
+        EXPECT_EQ(mixed.row(1)[8], alpha);
+        blend_pixels(mixed = white, white, static_cast<std::uint8_t>(alpha));
+        EXPECT_TRUE(std::ranges::equal(std::span(mixed.row(0), 9), std::span(white.row(0), 9)));
+    }
+    Bitmap wide(4, 1);
+    Bitmap narrow(2, 1);
+    narrow.bytes = {10, 10, 10, 90, 90, 90, 0, 0};
+    blend_pixels(wide, narrow, 255);
+    EXPECT_EQ(wide.bytes,
+              (std::vector<std::uint8_t>{10, 10, 10, 10, 10, 10, 90, 90, 90, 90, 90, 90}));
+}
+
+class Skin : public Stage {
+protected:
+    Skin() { start_program(); }
+};
+
+TEST_F(Skin, TextColourFollowsBaseAndShine)
+{
+    const struct {
+        int base, shine, text;
+    } cases[] = {{0, 24, 0}, {255, 24, 189}, {255, 0, 165}, {66, 24, 0}, {67, 24, 1}};
+    for (const auto& c : cases) {
+        SplitColor(c.base | 7 << 8 | 0x123 << 16);
+        Shine = c.shine;
+        MakeSkinColor();
+        EXPECT_EQ(SkinR, c.text) << c.base << " " << c.shine;
+        EXPECT_EQ(BaseG, 7);
+        EXPECT_EQ(BaseB, 0x23);
+    }
+}
+
+TEST_F(Skin, ATintNeverBuildsOnTheOneBefore)
+{
+    const Picture stored = F1.S(4).Stored;
+    const Bitmap first = F1.S(4).Surface.bitmap();
+    SplitColor(255);
+    Tint(F1.S(4));
+    EXPECT_FALSE(F1.S(4).Surface.bitmap() == first);
+    SplitColor(16750080);
+    Tint(F1.S(4));
+    EXPECT_TRUE(F1.S(4).Surface.bitmap() == first);
+    EXPECT_EQ(F1.S(4).Stored, stored);
+}
+
+TEST_F(Skin, TheCrossFadeTakesTwentyTicks)
+{
+    press("LMenu", 8);
+    const Picture before = F1.Ico.Stored;
+    for (int i = 1; i <= 19; ++i) {
+        tick("TAlphaB");
+        EXPECT_EQ(Cnt2, 13 * i);
+        EXPECT_EQ(F1.Ico.Stored, before);
+        EXPECT_NE(F1.Ico.Surface, before);
+    }
+    tick("TAlphaB");
+    EXPECT_EQ(F1.Ico.Stored, F6->Sec8.Stored);
+    EXPECT_EQ(F1.Ico.Surface, F6->Sec8.Stored);
+    EXPECT_FALSE(F1.TAlphaB.Enabled);
+}
+
+TEST_F(Skin, AClickDuringTheFadeStartsItOver)
+{
+    press("LMenu", 8);
+    for (int i = 0; i < 7; ++i)
+        tick("TAlphaB");
+    press("LMenu", 9);
+    EXPECT_EQ(Cnt2, 0);
+    toolkit.advance(F1, 20 * MemoryToolkit::FrameTime);
+    EXPECT_EQ(F1.Ico.Stored, F6->Sec9.Stored);
+}
+
+TEST_F(Skin, PagesChooseTheirPictures)
+{
+    const struct {
+        std::uint8_t section, media;
+        const PictureBox *ico, *alert;
+    } cases[] = {{2, 0, &F6->Sec2, &F6->Info},
+                 {11, 0, &F6->Sec11b, &F6->Alerta},
+                 {11, 3, &F6->Sec11a, &F6->Ok},
+                 {12, 0, &F6->Sec12b, &F6->Alerta},
+                 {12, 1, &F6->Sec12a, &F6->Ok},
+                 {3, 1, &F6->Sec3, nullptr},
+                 {CustomisePanel, 0, &F6->IOpc, nullptr},
+                 {AboutPanel, 0, &F6->IAC, nullptr}};
+    for (const auto& c : cases) {
+        F1.Seccion = c.section;
+        F1.MediaCount = c.media;
+        start_cross_fade();
+        toolkit.advance(F1, 20 * MemoryToolkit::FrameTime);
+        EXPECT_EQ(F1.Ico.Stored, c.ico->Stored) << int{c.section};
+        EXPECT_EQ(F1.Iaviso.Stored, c.alert ? c.alert->Stored : Picture()) << int{c.section};
+    }
+}
+
+TEST_F(Skin, EveryPictureOfTheDesignIsThereInItsSize)
+{
+    for (const Form* form : {static_cast<Form*>(&F1), static_cast<Form*>(F6.operator->())}) {
+        for (const ControlEntry& entry : form->controls) {
+            auto* const* box = std::get_if<PictureBox*>(&entry.control);
+            if (!box || (*box)->Stored.empty())
+                continue;
+            EXPECT_EQ((*box)->Stored.bitmap().width, (*box)->Width) << entry.name;
+            EXPECT_EQ((*box)->Stored.bitmap().height, (*box)->Height) << entry.name;
+        }
+    }
+    EXPECT_EQ(F6->controls.size(), 21U);
+    for (const ControlEntry& entry : F6->controls)
+        EXPECT_FALSE(std::get<PictureBox*>(entry.control)->Stored.empty()) << entry.name;
+    for (const PictureBox* pic : {&F1.S(1), &F1.S(2), &F1.S(3), &F1.S(4), &F1.BM}) {
+        const Bitmap& grey = pic->Stored.bitmap();
+        ASSERT_GT(grey.width, 0);
+        for (int y = 0; y < grey.height; ++y) {
+            for (const auto* p = grey.row(y); p < grey.row(y) + grey.width * 3; p += 3)
+                ASSERT_TRUE(p[0] == p[1] && p[1] == p[2]) << "not grey in row " << y;
+        }
+    }
+}
+
+TEST(BmpFiles, ThatAreCutOrForeignGiveNothing)
+{
+    std::vector<std::uint8_t> file(54 + 8 + 8, 0);
+    file[0] = 'B';
+    file[1] = 'M';
+    file[10] = 54;
+    file[18] = 2;
+    file[22] = 2;
+    file[28] = 24;
+    file[54] = 77;
+    ASSERT_TRUE(read_bmp(file));
+    EXPECT_EQ(read_bmp(file)->row(1)[0], 77) << "the file begins with the lowest row";
+    for (std::size_t size = 0; size < file.size(); ++size)
+        EXPECT_FALSE(read_bmp(std::span(file).first(size))) << size;
+    file[28] = 8;
+    EXPECT_FALSE(read_bmp(file));
+    file[28] = 24;
+    file[21] = 255;
+    EXPECT_FALSE(read_bmp(file)) << "a width beyond all pictures";
+}
+
+} // namespace
+} // namespace ostrelum

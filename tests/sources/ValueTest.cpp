@@ -1,0 +1,55 @@
+#include "sources/ManagementService.h"
+
+#include <gtest/gtest.h>
+
+namespace ostrelum {
+namespace {
+
+TEST(Values, ConvertAsTheServicesOwnDo)
+{
+    EXPECT_EQ(Value(17179869184).text(), "17179869184");
+    EXPECT_EQ(Value(0.5).text(), "0.5");
+    EXPECT_EQ(Value(true).text(), "True");
+    EXPECT_EQ(Value(" 42 ").number(), 42);
+    EXPECT_EQ(Value(true).number(), -1);
+    EXPECT_TRUE(Value("FALSE").truth() == false && Value(2).truth());
+}
+
+TEST(Values, RoundToWholeNumbersWithTiesToEvenWithin32Bits)
+{
+    const struct {
+        Value value;
+        std::int32_t whole;
+    } cases[] = {{0.5, 0},
+                 {1.5, 2},
+                 {2.5, 2},
+                 {-1.5, -2},
+                 {"7", 7},
+                 {"3.5", 4},
+                 {2147483647.4, 2147483647},
+                 {-2147483648.5, -2147483647 - 1}};
+    for (const auto& c : cases)
+        EXPECT_EQ(c.value.whole(), c.whole) << c.value.text();
+    for (const Value& wide : {Value(2147483647.5), Value("2147483648"), Value(1e300)})
+        EXPECT_THROW(wide.whole(), Failure) << wide.text();
+}
+
+TEST(Values, ThatCannotBeConvertedFail)
+{
+    EXPECT_THROW(Value().text(), Failure);
+    EXPECT_THROW(Value().number(), Failure);
+    for (const char* text : {"", " ", "12 MB", "1,5", "0x10", "nan", "inf", "--1", "1e999"})
+        EXPECT_THROW(Value(text).number(), Failure) << text;
+    EXPECT_THROW(Value("perhaps").truth(), Failure);
+}
+
+TEST(Instances, FindPropertiesInAnyCase)
+{
+    const Instance item({{"FreeSpace", "12"}, {"Size", {}}});
+    EXPECT_EQ(item["Freespace"].text(), "12");
+    EXPECT_TRUE(item["SIZE"].is_null());
+    EXPECT_THROW(item["Free"], Failure);
+}
+
+} // namespace
+} // namespace ostrelum
