@@ -1,0 +1,33 @@
+#include "frame/Life.h"
+#include "frame/Navigation.h"
+#include "tests/MemoryProgram.h"
+
+#include <benchmark/benchmark.h>
+
+namespace ostrelum {
+namespace {
+
+constexpr const char* FirmwareQuery =
+    "Select Name, Manufacturer, SMBIOSBIOSVersion, ReleaseDate, SerialNumber from Win32_BIOS";
+
+/// Opening the firmware page on the memory toolkit with a scripted service: what the program itself
+/// adds to a query.
+void OpenPage(benchmark::State& state)
+{
+    MemoryProgram program;
+    program.script.results[FirmwareQuery] = {Instance({{"Name", "Boot 7"},
+                                                       {"Manufacturer", "Maker"},
+                                                       {"SMBIOSBIOSVersion", "1.2"},
+                                                       {"ReleaseDate", "20120315000000.000000+000"},
+                                                       {"SerialNumber", "12345"}})};
+    start_program();
+    for (auto _ : state) {
+        LMenu_MouseDown(8, LeftButton, 0, 0, 0);
+        program.script.asked.clear();
+        program.toolkit.pointers.clear();
+    }
+}
+BENCHMARK(OpenPage);
+
+} // namespace
+} // namespace ostrelum

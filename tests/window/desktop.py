@@ -1,0 +1,129 @@
+"""A desktop of its own for a test: X server, window manager, compositor, session bus and a fresh home."""
+
+import os
+import shutil
+import signal
+import subprocess
+import tempfile
+import time
+from pathlib import Path
+
+PROGRAM = os.environ.get("OSTRELUM_PROGRAM", "build/bin/dervalin-ostrelum")
+CAPTION = "Dervalin Ostrelum"
+SETTINGS = "dervalin-ostrelum/settings"
+
+
+def wait_for(condition, seconds=20, step=0.05):
+    """The first true value of the condition; None when the time is over."""
+    end = time.monotonic() + seconds
+    while time.monotonic() < end:
+        value = condition()
+        if value:
+            return value
+        time.sleep(step)
+    return None
+
+
+class Desktop:
+    def __init__(self, compositor=True, ground="#ff0000"):
+        self.processes = []
+        self.home = Path(tempfile.mkdtemp(prefix="ostrelum-home-"))
+        (self.home / "run").mkdir(mode=0o700)
+        self.environment = dict(os.environ, HOME=str(self.home), XDG_CONFIG_HOME=str(self.home / "config"),
+                                XDG_RUNTIME_DIR=str(self.home / "run"), QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
+                                LC_ALL="C.UTF-8", TZ="UTC", QT_QPA_PLATFORM="xcb")
+        self.environment.pop("WAYLAND_DISPLAY", None)
+        self._start_display()
+        self.call("hsetroot", "-solid", ground)
+        self.start("openbox", "--sm-disable")
+        if compositor:
+            self.start("picom", "--backend", "xrender", "--config", "/dev/null")
+        self._start_bus()
+
+    def _start_display(self):
+        read_end, write_end = os.pipe()
+        server = subprocess.Popen(["Xvfb", "-displayfd", str(write_end), "-screen", "0", "1024x768x24", "-nolisten",
+                                   "tcp"], pass_fds=[write_end], stderr=subprocess.DEVNULL)
+        os.close(write_end)
+        self.processes.append(server)
+        with os.fdopen(read_end) as numbers:
+            self.environment["DISPLAY"] = ":" + numbers.readline().strip()
+
+    def _start_bus(self):
+        bus = subprocess.Popen(["dbus-daemon", "--session", "--nofork", "--print-address"], env=self.environment,
+                               stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+        self.processes.append(bus)
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().strip()
+        self.call("gdbus", "call", "--session", "-d", "org.a11y.Bus", "-o", "/org/a11y/bus", "-m",
+                  "org.a11y.Bus.GetAddress")
+
+    def start(self, *command):
+        process = subprocess.Popen(command, env=self.environment, stdout=subprocess.DEVNULL,
+                                   stderr=subprocess.DEVNULL)
+        self.processes.append(process)
+        return process
+
+    def call(self, *command):
+        """The command's standard output; empty when it fails."""
+        done = subprocess.run(command, env=self.environment, capture_output=True, text=True, timeout=30)
+        return done.stdout.strip() if done.returncode == 0 else ""
+
+    def start_program(self):
+        return self.start(PROGRAM)
+
+    def windows(self):
+        return self.call("xdotool", "search", "--onlyvisible", "--name", f"^{CAPTION}$").split()
+
+    def window(self):
+        """The program's window, waited for."""
+        found = wait_for(self.windows)
+        assert found, "no window came up"
+        return found[0]
+
+    def click(self, window, x, y, button=1):
+        self.call("xdotool", "mousemove", "--window", window, str(x), str(y), "click", str(button))
+
+    def keys(self, window, *keys):
+        self.call("xdotool", "windowfocus", "--sync", window)
+        for key in keys:
+            self.call("xdotool", "key", key)
+            time.sleep(0.1)
+
+    def pixel(self, window, x, y):
+        """The colour of a pixel of the window's client area as it is on the screen."""
+        place = dict(line.split("=") for line in
+                     self.call("xdotool", "getwindowgeometry", "--shell", window).splitlines())
+        crop = f"1x1+{int(place['X']) + x}+{int(place['Y']) + y}"
+        done = subprocess.run(["import", "-window", "root", "-crop", crop, "-depth", "8", "rgb:-"],
+                              env=self.environment, capture_output=True, timeout=30, check=True)
+        return tuple(done.stdout[:3])
+
+    def write_settings(self, text):
+        path = self.home / "config" / SETTINGS
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_text(text, encoding="utf-8")
+
+    def read_settings(self):
+        return (self.home / "config" / SETTINGS).read_text(encoding="utf-8")
+
+    def labels(self):
+        """What a screen reader finds in the window: the names of all that is showing."""
+        reader = Path(__file__).with_name("read_screen.py")
+        return self.call("/usr/bin/python3", str(reader)).splitlines()
+
+    def close(self):
+        for process in reversed(self.processes):
+            if process.poll() is None:
+                process.send_signal(signal.SIGTERM)
+                try:
+                    process.wait(5)
+                except subprocess.TimeoutExpired:
+                    process.kill()
+                    process.wait()
+        shutil.rmtree(self.home, ignore_errors=True)
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *unused):
+        self.close()
