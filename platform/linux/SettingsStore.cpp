@@ -12,7 +12,7 @@ namespace ostrelum {
 namespace {
 
 /// Some hundred times what the program writes: a longer file is not its settings.
-constexpr std::size_t size_limit = 256 * 1024;
+constexpr std::size_t size_limit = 262144;
 
 SettingName split(const std::string& full_name)
 {

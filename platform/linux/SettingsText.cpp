@@ -62,12 +62,14 @@ Place locate(std::string_view text, const SettingName& name)
     return place;
 }
 
-std::string replaced(std::string_view text, const Span& span, std::string by)
+std::string replaced(std::string_view text, const Span& span, const std::string& by)
 {
-    // An empty value may have a comment right behind it.
-    if (span.start == span.end)
-        by = ' ' + by + ' ';
-    return std::string(text.substr(0, span.start)) + by + std::string(text.substr(span.end));
+    const std::string_view before = text.substr(0, span.start);
+    const std::string_view after = text.substr(span.end);
+    // A comment may follow at once, on quotes or on an empty value, and digits would take it in.
+    const bool close = !after.empty() && comment_sign(after.front());
+    return std::string(before) + (before.ends_with('=') ? " " : "") + by + (close ? " " : "") +
+           std::string(after);
 }
 
 } // namespace

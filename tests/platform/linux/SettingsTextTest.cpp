@@ -68,8 +68,10 @@ TEST(SettingsText, WritesOneValueAndKeepsEveryOtherByte)
 {
     const std::pair<std::string, std::string> cases[] = {
         {"# mine\nColorValue = 1 # old\n\xFF\n", "# mine\nColorValue = 7 # old\n\xFF\n"},
-        {"ColorValue=\"1\"\r\n", "ColorValue=7\r\n"},
-        {"ColorValue = # none", "ColorValue =  7 # none"},
+        {"ColorValue=\"1\"\r\n", "ColorValue= 7\r\n"},
+        {"ColorValue = # none", "ColorValue = 7 # none"},
+        {"ColorValue =", "ColorValue = 7"},
+        {"ColorValue = \"1\"; old", "ColorValue = 7 ; old"},
         {"ColorValue = 1\nColorValue = 2", "ColorValue = 1\nColorValue = 7"},
         {"\xEF\xBB\xBF[hkey_current_user\\key]\r\nA = 1\r\n\r\n# end\r\n",
          "\xEF\xBB\xBF[hkey_current_user\\key]\r\nA = 1\r\nColorValue = 7\r\n\r\n# end\r\n"},
