@@ -48,4 +48,15 @@ bool valid_utf8(std::string_view text)
     return true;
 }
 
+std::string made_valid_utf8(std::string_view text)
+{
+    std::string result;
+    while (!text.empty()) {
+        const std::size_t length = character_length(text);
+        result += length == 0 ? "\xEF\xBF\xBD" : text.substr(0, length);
+        text.remove_prefix(length == 0 ? 1 : length);
+    }
+    return result;
+}
+
 } // namespace ostrelum
