@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/linux/Clock.h"
+#include "platform/linux/Environment.h"
+#include "platform/linux/Machine.h"
+#include "platform/linux/Regional.h"
+#include "platform/linux/Registry.h"
+#include "platform/linux/Shell.h"
+#include "platform/system/Failure.h"
+#include "sources/Ascii.h"
+
+#include <memory>
+#include <string>
+
+namespace ostrelum {
+
+/// The services that need no window, on Linux. Facts about the machine come from under `root`, "/"
+/// or the folder of a recorded machine; the user's own folders and settings are always real.
+struct LinuxSystem {
+    explicit LinuxSystem(const std::string& root = "/",
+                         const Environment& variables = process_environment())
+        : environment(variables), clock(root), regional(variables), machine(root, variables)
+    {
+    }
+
+    /// A new object of the class "WScript.Shell". Throws Failure for any other class.
+    std::unique_ptr<Shell> CreateObject(const std::string& class_name) const
+    {
+        if (!same_ascii_letters(class_name, "WScript.Shell"))
+            throw Failure("no such class: " + class_name);
+        return std::make_unique<LinuxShell>(environment);
+    }
+
+    Environment environment;
+    LinuxClock clock;
+    LinuxRegional regional;
+    LinuxMachine machine;
+    LinuxRegistry registry;
+};
+
+} // namespace ostrelum

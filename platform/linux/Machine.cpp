@@ -1,0 +1,148 @@
+#include "platform/linux/Machine.h"
+
+#include "platform/linux/FolderEntries.h"
+#include "platform/linux/MouseButtons.h"
+#include "platform/linux/UserFolders.h"
+#include "platform/linux/Utf8.h"
+#include "platform/linux/WholeFile.h"
+#include "platform/system/Failure.h"
+#include "sources/Ascii.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdlib>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <vector>
+
+namespace ostrelum {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int ATTR_DIRECTORY = 16;
+
+/// A file of the kernel; empty if it cannot be read.
+std::string fact(const fs::path& path)
+{
+    try {
+        return read_whole_file(path.native(), 4096).value_or("");
+    } catch (const Failure&) {
+        return "";
+    }
+}
+
+/// Programs that remap keys make devices of their own, with every button there is.
+bool made_by_program(const fs::path& device)
+{
+    std::error_code error;
+    const std::string target = fs::read_symlink(device, error).native();
+    return target.find("/virtual/input/") != std::string::npos;
+}
+
+std::vector<InputDevice> input_devices(const std::string& root)
+{
+    std::vector<InputDevice> devices;
+    int budget = 1024;
+    any_entry(root + "/sys/class/input", budget, [&](const fs::directory_entry& entry) {
+        const fs::path& path = entry.path();
+        if (path.filename().native().starts_with("input") && !made_by_program(path))
+            devices.push_back({fact(path / "capabilities/key"), fact(path / "capabilities/rel"),
+                               fact(path / "capabilities/abs"), fact(path / "properties")});
+        return false;
+    });
+    return devices;
+}
+
+/// Takes a number off the front of the text.
+bool take_number(std::string_view& text, std::uint16_t& number)
+{
+    const auto [rest, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    text.remove_prefix(static_cast<std::size_t>(rest - text.data()));
+    return error == std::errc();
+}
+
+} // namespace
+
+std::uint32_t count_in_list(std::string_view list)
+{
+    while (list.ends_with('\n'))
+        list.remove_suffix(1);
+    std::uint32_t count = 0;
+    for (bool more = true; more;) {
+        std::uint16_t first = 0;
+        if (!take_number(list, first))
+            return 0;
+        std::uint16_t last = first;
+        if (list.starts_with('-')) {
+            list.remove_prefix(1);
+            if (!take_number(list, last) || last < first)
+                return 0;
+        }
+        count += static_cast<std::uint32_t>(last - first) + 1U;
+        more = list.starts_with(',');
+        list.remove_prefix(more ? 1 : 0);
+    }
+    return list.empty() ? count : 0;
+}
+
+LinuxMachine::LinuxMachine(std::string root, Environment environment)
+    : root_(std::move(root)), environment_(std::move(environment)), instance_(environment_)
+{
+}
+
+SystemInfo LinuxMachine::GetOstrelum()
+{
+    std::uint32_t count = count_in_list(fact(root_ + "/sys/devices/system/cpu/online"));
+    // A sandbox may hide the list; the processors of this machine are then asked for directly.
+    if (count == 0 && root_ == "/")
+        count = static_cast<std::uint32_t>(std::max(::sysconf(_SC_NPROCESSORS_ONLN), 1L));
+    return {std::max(count, 1U)};
+}
+
+int LinuxMachine::GetSystemMetrics(int index)
+{
+    return index == SM_CMOUSEBUTTONS ? mouse_buttons(input_devices(root_)) : 0;
+}
+
+std::string LinuxMachine::Environ(const std::string& name)
+{
+    const auto same = [&](const auto& entry) {
+        return same_ascii_letters(entry.first, name) && !entry.second.empty();
+    };
+    std::string value = variable(environment_, name);
+    const auto found = std::find_if(environment_.begin(), environment_.end(), same);
+    if (value.empty() && found != environment_.end())
+        value = found->second;
+    if (value.empty() && same_ascii_letters(name, "UserName"))
+        value = login_name(environment_);
+    return made_valid_utf8(value);
+}
+
+int LinuxMachine::GetAttr(const std::string& path)
+{
+    std::string slashes = path;
+    std::replace(slashes.begin(), slashes.end(), '\\', '/');
+    const fs::path wanted = slashes;
+    const auto found = file_in_folder(wanted.parent_path().native(), wanted.filename().native());
+    struct stat status = {};
+    if (!found || ::stat(found->c_str(), &status) != 0)
+        throw Failure("no such file: " + path);
+    if (S_ISDIR(status.st_mode))
+        return ATTR_DIRECTORY;
+    const bool readable = S_ISREG(status.st_mode) && ::access(found->c_str(), R_OK) == 0;
+    return readable ? ATTR_ARCHIVE : 0;
+}
+
+bool LinuxMachine::PrevInstance()
+{
+    return instance_.another_runs();
+}
+
+void LinuxMachine::End()
+{
+    std::_Exit(0);
+}
+
+} // namespace ostrelum

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/linux/Environment.h"
+#include "platform/linux/SingleInstance.h"
+#include "platform/system/Machine.h"
+
+#include <string>
+#include <string_view>
+
+namespace ostrelum {
+
+/// How many numbers a list of the kernel such as "0-3,6" holds; 0 for a text that is no such list.
+/// Numbers of 65536 and more are none of a processor.
+std::uint32_t count_in_list(std::string_view list);
+
+/// System calls on Linux. Facts about the hardware are read under `root`: "/" or the folder of a
+/// recorded machine.
+class LinuxMachine : public Machine {
+public:
+    LinuxMachine(std::string root, Environment environment);
+
+    SystemInfo GetOstrelum() override;
+    int GetSystemMetrics(int index) override;
+
+    /// "UserName", which Linux does not know, is the login name.
+    std::string Environ(const std::string& name) override;
+
+    /// 32 for a regular file that this process may read, 16 for a folder, 0 for anything else. The
+    /// last part of the path matches in any ASCII case.
+    int GetAttr(const std::string& path) override;
+
+    bool PrevInstance() override;
+    void End() override;
+
+private:
+    std::string root_;
+    Environment environment_;
+    SingleInstance instance_;
+};
+
+} // namespace ostrelum

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace ostrelum {
+
+/// What the kernel's input layer tells of a device: texts of hexadecimal words, the highest word
+/// first, each word a `long` of the kernel that wrote them. Bit numbers are those of
+/// linux/input-event-codes.h.
+struct InputDevice {
+    std::string key;
+    std::string rel;
+    std::string abs;
+    std::string properties;
+};
+
+/// Bits in a word of the kernel that wrote these texts, 32 or 64: told by a word that needs more
+/// than 32, or by a keyboard whose lowest word is full. Without such a device, this program's own.
+unsigned kernel_word_bits(std::span<const InputDevice> devices);
+
+/// Buttons of the pointer that has most of them; 0 without a pointer. A touchpad that is itself the
+/// button has at least two, its halves.
+int mouse_buttons(std::span<const InputDevice> devices);
+
+} // namespace ostrelum

@@ -1,0 +1,121 @@
+#include "platform/linux/Machine.h"
+
+#include "platform/linux/Clock.h"
+#include "platform/linux/MouseButtons.h"
+#include "platform/system/Failure.h"
+#include "tests/platform/linux/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+#include <pwd.h>
+#include <unistd.h>
+
+namespace ostrelum {
+namespace {
+
+namespace fs = std::filesystem;
+
+const InputDevice keyboard_64{"402000002 3803078f800d001 feffffdfffefffff fffffffffffffffe", "0",
+                              "0", "0"};
+const InputDevice keyboard_32{"4 2000002 3803078 f800d001 feffffdf ffefffff ffffffff fffffffe", "0",
+                              "0", "0"};
+const InputDevice mouse_64{"1f0000 0 0 0 0\n", "903\n", "0\n", "0\n"};
+const InputDevice mouse_32{"70000 0 0 0 0 0 0 0 0", "103", "0", "0"};
+
+TEST(Machine, CountsTheButtonsOfPointers)
+{
+    const std::pair<std::vector<InputDevice>, int> cases[] = {
+        {{}, 0},
+        {{keyboard_64}, 0},
+        {{keyboard_64, mouse_64}, 5},
+        {{mouse_32, keyboard_32}, 3},
+        {{keyboard_64, {"70000 0 0 0 0", "900", "3", "0"}}, 3},
+        {{keyboard_64, {"e520 10000 0 0 0 0", "0", "260800000000003", "5"}}, 2},
+        {{keyboard_64, {"e520 30000 0 0 0 0", "0", "260800000000003", "1"}}, 2},
+        {{keyboard_64, {"400 0 0 0 0 0", "0", "3", "2"}}, 0},
+        {{keyboard_64, {"1f0000 0 0 0 0", "100", "0", "0"}}, 0},
+        {{keyboard_64, {"ff0000 0 0 0 0", "3", "0", "0"}, mouse_64}, 8},
+        {{keyboard_64, {"zz0000 0 0 0 0", "3", "0", "0"}}, 0},
+        {{keyboard_64, {"11ffffffffffffffff 0 0 0 0", "3", "3", "4"}}, 0},
+    };
+    for (const auto& [devices, buttons] : cases)
+        EXPECT_EQ(mouse_buttons(devices), buttons) << (devices.empty() ? "" : devices.back().key);
+}
+
+TEST(Machine, ReadsARecordedMachine)
+{
+    const TemporaryFolder tree;
+    LinuxMachine machine(tree / "", {});
+    EXPECT_EQ(machine.GetOstrelum().dwNumberOfProcessors, 1U);
+    EXPECT_EQ(machine.GetSystemMetrics(SM_CMOUSEBUTTONS), 0);
+    tree.file("sys/devices/system/cpu/online", "0-3,6\n");
+    const auto add = [&](const std::string& device, const std::string& name, const char* keys) {
+        tree.file("sys/devices/" + device + "/capabilities/key", keys);
+        tree.file("sys/devices/" + device + "/capabilities/rel", "3\n");
+        fs::create_directories(tree / "sys/class/input");
+        fs::create_directory_symlink("../../devices/" + device, tree / ("sys/class/input/" + name));
+    };
+    add("platform/serio1/input/input2", "input2", "1f0000 0 0 0 0\n");
+    add("virtual/misc/uhid/1/input/input3", "input3", "3f0000 0 0 0 0\n");
+    add("virtual/input/input4", "input4", "ff0000 0 0 0 0\n");
+    add("platform/serio1/input/event9", "event9", "ff0000 0 0 0 0\n");
+    EXPECT_EQ(machine.GetOstrelum().dwNumberOfProcessors, 5U);
+    EXPECT_EQ(machine.GetSystemMetrics(SM_CMOUSEBUTTONS), 6);
+    EXPECT_EQ(machine.GetSystemMetrics(0), 0);
+}
+
+TEST(Machine, CountsAKernelList)
+{
+    const std::pair<std::string_view, std::uint32_t> cases[] = {
+        {"0\n", 1}, {"0-1\n", 2}, {"0-3,6,8-11\n", 9}, {"0-65535", 65536}, {"", 0},
+        {"\n", 0},  {"0-", 0},    {"3-1", 0},          {"0,", 0},          {"0-65536", 0},
+        {"0 1", 0}, {"-1", 0},    {"0-4294967295", 0},
+    };
+    for (const auto& [list, count] : cases)
+        EXPECT_EQ(count_in_list(list), count) << list;
+}
+
+TEST(Machine, FindsVariablesInAnyCase)
+{
+    const passwd* const account = ::getpwuid(::getuid());
+    const std::string own = account == nullptr ? "" : account->pw_name;
+    const std::tuple<Environment, const char*, std::string> cases[] = {
+        {{{"Path", "1"}, {"PATH", "2"}}, "PATH", "2"},
+        {{{"path", "1"}}, "PATH", "1"},
+        {{{"USERNAME", "ada"}, {"USER", "bob"}}, "UserName", "ada"},
+        {{{"USERNAME", ""}, {"USER", "bob"}, {"LOGNAME", "cid"}}, "UserName", "bob"},
+        {{{"LOGNAME", "c\xE9"}}, "UserName", "c\uFFFD"},
+        {{}, "UserName", own},
+        {{{"USER", "bob"}}, "User", "bob"},
+        {{{"USER", "bob"}}, "Name", ""},
+    };
+    for (const auto& [environment, name, value] : cases)
+        EXPECT_EQ(LinuxMachine("/", environment).Environ(name), value) << name;
+}
+
+TEST(Machine, TellsAFilesAttribute)
+{
+    const TemporaryFolder folder;
+    folder.file("fonts/SegoeUI.ttf");
+    fs::create_symlink("/dev/null", folder / "fonts/null");
+    LinuxMachine machine("/", {});
+    EXPECT_EQ(machine.GetAttr(folder / "fonts\\segoeui.ttf"), ATTR_ARCHIVE);
+    EXPECT_NE(machine.GetAttr(folder / "fonts"), ATTR_ARCHIVE);
+    EXPECT_NE(machine.GetAttr(folder / "fonts\\null"), ATTR_ARCHIVE);
+    for (const char* missing : {"fonts\\segoeuil.ttf", "none\\segoeui.ttf"})
+        EXPECT_THROW(machine.GetAttr(folder / missing), Failure) << missing;
+}
+
+TEST(Clock, ReadsTheRecordedTime)
+{
+    const TemporaryFolder tree;
+    EXPECT_EQ(LinuxClock(tree / "").timeGetTime(), 0U);
+    tree.file("proc/uptime", "4294968.33 1.00\n");
+    EXPECT_EQ(LinuxClock(tree / "").timeGetTime(), 1034U);
+    EXPECT_GT(LinuxClock("/").timeGetTime(), 0U);
+    EXPECT_EQ(uptime_ms("52.86 29.70\n"), 52860U);
+    for (const char* bad : {"", "52", "52.8", "x", "-1.00", "99999999999.00", "1.x0"})
+        EXPECT_EQ(uptime_ms(bad), std::nullopt) << bad;
+}
+
+} // namespace
+} // namespace ostrelum

@@ -1,0 +1,87 @@
+#include "platform/linux/SingleInstance.h"
+
+#include "tests/platform/linux/TemporaryFolder.h"
+
+#include <csignal>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace ostrelum {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A second process that holds the lock until it is killed.
+class Holder {
+public:
+    Holder(const Environment& environment, const std::string& shared)
+    {
+        int ready[2];
+        EXPECT_EQ(::pipe(ready), 0);
+        child_ = ::fork();
+        if (child_ == 0) {
+            SingleInstance instance(environment, shared);
+            const char other = instance.another_runs() ? 1 : 0;
+            if (::write(ready[1], &other, 1) == 1)
+                ::pause();
+            std::_Exit(1);
+        }
+        char other = 1;
+        EXPECT_EQ(::read(ready[0], &other, 1), 1);
+        EXPECT_EQ(other, 0) << "the lock was not free";
+        ::close(ready[0]);
+        ::close(ready[1]);
+    }
+    ~Holder()
+    {
+        ::kill(child_, SIGKILL);
+        ::waitpid(child_, nullptr, 0);
+    }
+
+private:
+    pid_t child_ = -1;
+};
+
+TEST(SingleInstance, TheSecondOneSeesTheFirstUntilItDies)
+{
+    const TemporaryFolder folder;
+    fs::create_directory(folder / "run");
+    fs::permissions(folder / "run", fs::perms(0700));
+    for (const Environment& environment :
+         {Environment{{"XDG_RUNTIME_DIR", folder / "run"}}, Environment{},
+          Environment{{"XDG_RUNTIME_DIR", folder / "missing"}}}) {
+        SingleInstance instance(environment, folder / ".");
+        {
+            const Holder holder(environment, folder / ".");
+            EXPECT_TRUE(instance.another_runs());
+            EXPECT_TRUE(instance.another_runs());
+        }
+        EXPECT_FALSE(instance.another_runs());
+        EXPECT_FALSE(instance.another_runs()) << "it sees itself";
+        EXPECT_TRUE(SingleInstance(environment, folder / ".").another_runs());
+    }
+}
+
+TEST(SingleInstance, StartsWhereNoLockCanBeMade)
+{
+    const TemporaryFolder folder;
+    const std::string own = "dervalin-ostrelum-" + std::to_string(::geteuid());
+    fs::create_directory(folder / "trap");
+    fs::create_directory_symlink(folder / "trap", folder / own);
+    folder.file("file");
+    EXPECT_FALSE(SingleInstance({}, folder / ".").another_runs());
+    EXPECT_TRUE(fs::is_empty(folder / "trap")) << "a link of somebody else's was followed";
+    EXPECT_FALSE(
+        SingleInstance({{"XDG_RUNTIME_DIR", folder / "file"}}, folder / "file").another_runs());
+
+    fs::create_directory(folder / "open");
+    fs::create_directory(folder / ("open/" + own));
+    fs::permissions(folder / ("open/" + own), fs::perms(0777));
+    EXPECT_FALSE(SingleInstance({}, folder / "open").another_runs());
+    EXPECT_TRUE(fs::is_empty(folder / ("open/" + own)))
+        << "a folder that anyone may write was used";
+}
+
+} // namespace
+} // namespace ostrelum
