@@ -181,7 +181,7 @@ void load_main_form()
     F1.handlers = main_form_handlers();
     F1.Seccion = F1.SeccionPrev = 0;
     F1.PanelOpen = F1.PanelReady = false;
-    F1.CopyRow = F1.MediaCount = 0;
+    F1.CopyRow = F1.MediaCount = F1.EmptyDrives = 0;
     F1.LangAtOpen.clear();
     F1.HueAtOpen = F1.ShineAtOpen = F1.TransAtOpen = 0;
     F1.ChkAtOpen = false;

@@ -86,6 +86,8 @@ public:
     std::uint8_t CopyRow = 0;
     /// Removable drives, or loaded CD/DVD drives, that the last visit to section 11 or 12 found.
     std::uint8_t MediaCount = 0;
+    /// CD/DVD drives without a disc that the last visit to section 12 found.
+    std::uint8_t EmptyDrives = 0;
     /// Settings as they stood when the customise panel opened.
     std::string LangAtOpen;
     std::int32_t HueAtOpen = 0;

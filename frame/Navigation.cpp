@@ -126,8 +126,7 @@ void LMenu_MouseDown(int index, int button, int, int, int)
 void ClearPage()
 {
     empty_rows(1, 12);
-    for (int row = 1; row <= 12; ++row)
-        F1.LT(row).ToolTipText.clear();
+    clear_title_tooltips(1, 12);
     hide(F1.LNoDrive, F1.Line1, F1.Iaviso, F1.Laviso, F1.LineInf);
     F1.Labelmi.Caption.clear();
     platform.toolkit->Refresh(F1);

@@ -28,11 +28,21 @@ void set_look(int row, Colour colour, bool italic)
 
 void enter_section(std::uint8_t section)
 {
-    if (F1.Seccion == section)
-        return;
+    if (F1.Seccion != section)
+        announce_section(section);
+}
+
+void announce_section(std::uint8_t section)
+{
     write(F1.Labelmi, Trad[34]);
     F1.Seccion = section;
     F1.Line2.Visible = false;
+}
+
+void place_line(Line& line, int row, int below)
+{
+    line.Y1 = line.Y2 = F1.LT(row).Top + below;
+    line.Visible = true;
 }
 
 void clear(std::array<std::string, 12>& values, int from, int to)
@@ -62,13 +72,23 @@ void set_heading(int row, const std::string& title)
 void set_title(int row, const std::string& title)
 {
     write(F1.LT(row), title);
+    place_value(row);
+}
+
+void place_value(int row)
+{
     F1.L(row).Left = F1.LT(row).Left + F1.LT(row).Width;
+}
+
+void set_bare_value(int row, const std::string& value)
+{
+    write(F1.L(row), value);
+    F1.L(row).ToolTipText = F1.L(row).Caption;
 }
 
 void set_value(int row, const std::string& value)
 {
-    write(F1.L(row), value.empty() ? unknown() : value);
-    F1.L(row).ToolTipText = F1.L(row).Caption;
+    set_bare_value(row, value.empty() ? unknown() : value);
 }
 
 void empty_rows(int from, int to)
@@ -78,6 +98,12 @@ void empty_rows(int from, int to)
         write(F1.L(row), "");
         F1.L(row).ToolTipText.clear();
     }
+}
+
+void clear_title_tooltips(int from, int to)
+{
+    for (int row = from; row <= to; ++row)
+        F1.LT(row).ToolTipText.clear();
 }
 
 } // namespace ostrelum

@@ -14,8 +14,15 @@ namespace ostrelum {
 /// tells that the page is being filled, F1.Seccion takes the section and Line2 is hidden.
 void enter_section(std::uint8_t section);
 
+/// The same for a page that is filled anew, also when it is the one on show.
+void announce_section(std::uint8_t section);
+
 /// Empties the slots `from` to `to` of a value buffer.
 void clear(std::array<std::string, 12>& values, int from, int to);
+
+/// Shows a line across the page, `below` pixels under the top of a row's title; its ends stay where
+/// they are from left to right.
+void place_line(Line& line, int row, int below);
 
 /// Hides controls.
 void hide(auto&... controls)
@@ -34,6 +41,12 @@ void set_heading(int row, const std::string& title);
 
 /// Writes a row's title and moves the value to directly behind it. `title` is written as it is.
 void set_title(int row, const std::string& title);
+
+/// Moves a row's value to directly behind its title.
+void place_value(int row);
+
+/// Writes a row's value as it is, also an empty one, and puts the same text into its tooltip.
+void set_bare_value(int row, const std::string& value);
 
 /// Writes a row's value, Trad 89 "Unknown" for an empty one, and puts the same text into its
 /// tooltip.
@@ -56,5 +69,8 @@ void set_row(int row, const std::string& title, const auto& value)
 
 /// Empties the rows `from` to `to`: titles, values and the values' tooltips.
 void empty_rows(int from, int to);
+
+/// Takes the tooltips off the titles of the rows `from` to `to`.
+void clear_title_tooltips(int from, int to);
 
 } // namespace ostrelum

@@ -11,8 +11,9 @@ void reset_shared_state()
     Trad.fill({});
     Idioma.clear();
     Datos.fill({});
+    DatosCD.fill({});
     TempStr.clear();
-    Cnt = Cnt2 = Num1 = Num2 = 0;
+    Cnt = Cnt2 = Num1 = Num2 = ram_total = 0;
     ColorValue = ColorAtOpen = 0;
     BaseR = BaseG = BaseB = 0;
     Shine = SkinR = SkinG = SkinB = 0;

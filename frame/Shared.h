@@ -27,6 +27,8 @@ inline std::string Idioma;
 
 /// Values of the page or report stage being built, slots 0 to 11.
 inline std::array<std::string, 12> Datos;
+/// The texts of the CDs and DVDs page, slots 1 to 7, kept as long as the page stays open.
+inline std::array<std::string, 8> DatosCD;
 /// Scratch text, meaningful only inside one operation.
 inline std::string TempStr;
 /// Loop counter; the window fades keep their level in it, in percent of transparency.
@@ -36,6 +38,9 @@ inline std::int32_t Cnt2 = 0;
 /// Working numbers of a page or report stage: sizes, totals, speeds.
 inline std::int32_t Num1 = 0;
 inline std::int32_t Num2 = 0;
+/// Total memory that the RAM page last found, in KB. Its ticks work on from here: a report that is
+/// made while the page is open uses Num1 for its own sums.
+inline std::int32_t ram_total = 0;
 
 /// Skin colour, 0x00BBGGRR, 255 to 16776960.
 inline std::int32_t ColorValue = 0;

@@ -27,8 +27,7 @@ void SecBIOS()
     set_row(3, Trad[107], Datos[3]);
     set_row(4, Trad[108], [] { return Datos[4].empty() ? std::string() : WmiDateText(Datos[4]); });
     set_row(5, Trad[74], Datos[5]);
-    for (int row = 3; row <= 5; ++row)
-        F1.LT(row).ToolTipText.clear();
+    clear_title_tooltips(3, 5);
     empty_rows(6, 12);
 }
 
