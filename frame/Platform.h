@@ -3,6 +3,7 @@
 #include "platform/system/Browser.h"
 #include "platform/system/Clipboard.h"
 #include "platform/system/Clock.h"
+#include "platform/system/FileWriter.h"
 #include "platform/system/Machine.h"
 #include "platform/system/Regional.h"
 #include "platform/system/Registry.h"
@@ -24,6 +25,7 @@ struct Platform {
     Registry* registry = nullptr;
     Clipboard* clipboard = nullptr;
     SaveDialog* save_dialog = nullptr;
+    FileWriter* file_writer = nullptr;
     Browser* browser = nullptr;
     Clock* clock = nullptr;
     Regional* regional = nullptr;

@@ -21,6 +21,7 @@ public:
                     .registry = &registry,
                     .clipboard = &clipboard,
                     .save_dialog = &save_dialog,
+                    .file_writer = &file_writer,
                     .browser = &browser,
                     .clock = &clock,
                     .regional = &regional,
@@ -59,6 +60,7 @@ public:
     MemoryRegistry registry;
     MemoryClipboard clipboard;
     MemorySaveDialog save_dialog;
+    MemoryFileWriter file_writer;
     MemoryBrowser browser;
     MemoryClock clock;
     MemoryRegional regional;

@@ -2,6 +2,7 @@
 
 #include "platform/linux/Clock.h"
 #include "platform/linux/Environment.h"
+#include "platform/linux/FileWriter.h"
 #include "platform/linux/Machine.h"
 #include "platform/linux/Regional.h"
 #include "platform/linux/Registry.h"
@@ -36,6 +37,7 @@ struct LinuxSystem {
     LinuxRegional regional;
     LinuxMachine machine;
     LinuxRegistry registry;
+    LinuxFileWriter file_writer;
 };
 
 } // namespace ostrelum

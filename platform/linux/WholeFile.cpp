@@ -54,10 +54,10 @@ std::string part_name(const fs::path& target)
 /// The part file, open and held by this process alone. What a killed process left is taken over.
 /// The name is looked at again once the lock is had: its last holder may have made the part the
 /// file itself.
-Descriptor held_part(const std::string& path)
+Descriptor held_part(const std::string& path, mode_t mode)
 {
     constexpr int flags = O_WRONLY | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
-    Descriptor file(::open(path.c_str(), flags, 0600));
+    Descriptor file(::open(path.c_str(), flags, mode));
     if (!file)
         fail(path);
     const struct stat opened = regular_status(file, path);
@@ -128,8 +128,8 @@ std::optional<std::string> read_whole_file(const std::string& path, std::size_t 
     }
 }
 
-FileReplacement::FileReplacement(const std::string& path)
-    : target_(followed(path)), part_(part_name(target_)), file_(held_part(part_))
+FileReplacement::FileReplacement(const std::string& path, mode_t new_mode)
+    : target_(followed(path)), part_(part_name(target_)), file_(held_part(part_, new_mode))
 {
 }
 

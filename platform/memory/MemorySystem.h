@@ -3,6 +3,7 @@
 #include "platform/system/Browser.h"
 #include "platform/system/Clipboard.h"
 #include "platform/system/Clock.h"
+#include "platform/system/FileWriter.h"
 #include "platform/system/Machine.h"
 #include "platform/system/Regional.h"
 #include "platform/system/Registry.h"
@@ -78,6 +79,20 @@ public:
     std::vector<OpenFileName> requests;
     /// What the user chooses; nothing for cancel.
     std::optional<ChosenFile> answer;
+};
+
+class MemoryFileWriter : public FileWriter {
+public:
+    void replace(const std::string& path, const std::string& bytes) override
+    {
+        if (fails)
+            throw Failure("the file cannot be written");
+        files[path] = bytes;
+    }
+
+    /// Files by path.
+    std::map<std::string, std::string> files;
+    bool fails = false;
 };
 
 class MemoryBrowser : public Browser {

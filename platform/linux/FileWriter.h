@@ -1,0 +1,14 @@
+#pragma once
+
+#include "platform/system/FileWriter.h"
+
+namespace ostrelum {
+
+/// Replaces a file in one step, as FileReplacement does; a new file gets the permissions that the
+/// user's programs give their files.
+class LinuxFileWriter : public FileWriter {
+public:
+    void replace(const std::string& path, const std::string& bytes) override;
+};
+
+} // namespace ostrelum

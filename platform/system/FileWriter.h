@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+
+namespace ostrelum {
+
+/// Writes the files that the user asks for.
+class FileWriter {
+public:
+    virtual ~FileWriter() = default;
+    /// Gives the file of that full path (UTF-8) `bytes` as its whole content, and makes it where
+    /// there is none. Throws Failure if that cannot be done; an earlier file is then as it was.
+    virtual void replace(const std::string& path, const std::string& bytes) = 0;
+};
+
+} // namespace ostrelum
