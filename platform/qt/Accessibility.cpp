@@ -1,0 +1,125 @@
+#include "platform/qt/Accessibility.h"
+
+#include "platform/qt/FocusFrame.h"
+#include "platform/qt/FormWindow.h"
+#include "platform/qt/LabelCarrier.h"
+#include "platform/qt/LineCarrier.h"
+#include "platform/qt/PictureWidget.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+
+#include <algorithm>
+
+namespace ostrelum {
+namespace {
+
+bool has_content(const QWidget& widget);
+
+/// Lines, and pictures without a name that hold nothing.
+bool is_decoration(const QWidget& widget)
+{
+    if (dynamic_cast<const LineWidget*>(&widget) || dynamic_cast<const FocusFrame*>(&widget))
+        return true;
+    return dynamic_cast<const PictureWidget*>(&widget) && widget.accessibleName().isEmpty() &&
+           widget.focusPolicy() == Qt::NoFocus && !has_content(widget);
+}
+
+QList<QWidget*> content_of(const QWidget& widget)
+{
+    QList<QWidget*> content;
+    for (QWidget* child : widget.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (!child->isWindow() && !is_decoration(*child))
+            content.append(child);
+    }
+    return content;
+}
+
+bool has_content(const QWidget& widget)
+{
+    return !content_of(widget).isEmpty();
+}
+
+/// What can be pressed by the keyboard can be pressed by a screen reader.
+template <class WidgetType>
+class PressableInterface : public QAccessibleWidget {
+public:
+    PressableInterface(WidgetType& widget, QAccessible::Role role)
+        : QAccessibleWidget(&widget, role), pressable_(widget)
+    {
+    }
+    QAccessible::Role role() const override
+    {
+        return can_press() ? QAccessible::Button : QAccessibleWidget::role();
+    }
+    QStringList actionNames() const override
+    {
+        QStringList names = QAccessibleWidget::actionNames();
+        if (can_press())
+            names.prepend(pressAction());
+        return names;
+    }
+    void doAction(const QString& name) override
+    {
+        if (name == pressAction() && can_press())
+            pressable_.press();
+        else
+            QAccessibleWidget::doAction(name);
+    }
+
+protected:
+    bool can_press() const { return pressable_.focusPolicy() != Qt::NoFocus; }
+
+    WidgetType& pressable_;
+};
+
+class LabelInterface : public PressableInterface<LabelWidget> {
+public:
+    explicit LabelInterface(LabelWidget& label) : PressableInterface(label, QAccessible::StaticText)
+    {
+    }
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Name ? pressable_.text() : PressableInterface::text(kind);
+    }
+};
+
+/// A window or a picture box: its children are those that a reader has something of.
+template <class Base>
+class HolderInterface : public Base {
+public:
+    using Base::Base;
+    int childCount() const override { return static_cast<int>(content_of(*this->widget()).size()); }
+    QAccessibleInterface* child(int index) const override
+    {
+        return QAccessible::queryAccessibleInterface(content_of(*this->widget()).value(index));
+    }
+    int indexOfChild(const QAccessibleInterface* child) const override
+    {
+        return static_cast<int>(
+            content_of(*this->widget()).indexOf(qobject_cast<QWidget*>(child->object())));
+    }
+};
+
+QAccessibleInterface* interface_of(const QString&, QObject* object)
+{
+    if (auto* label = dynamic_cast<LabelWidget*>(object))
+        return new LabelInterface(*label);
+    if (auto* picture = dynamic_cast<PictureWidget*>(object)) {
+        const bool holder = has_content(*picture);
+        return new HolderInterface<PressableInterface<PictureWidget>>(
+            *picture, holder ? QAccessible::Grouping : QAccessible::Graphic);
+    }
+    if (auto* window = dynamic_cast<FormWindow*>(object))
+        return new HolderInterface<QAccessibleWidget>(window, QAccessible::Window);
+    return nullptr;
+}
+
+} // namespace
+
+void install_accessibility()
+{
+    QAccessible::installFactory(interface_of);
+}
+
+} // namespace ostrelum

@@ -1,0 +1,108 @@
+#pragma once
+
+#include "platform/qt/Gate.h"
+#include "platform/qt/Pointers.h"
+#include "platform/toolkit/Toolkit.h"
+
+#include <QWidget>
+
+#include <memory>
+#include <optional>
+
+namespace ostrelum {
+
+/// What the parts of a form's window need of their surroundings.
+struct Surroundings {
+    const Form& form;
+    const Toolkit& toolkit;
+    Gate& gate;
+    const Pointers& pointers;
+};
+
+/// Carries one control over to its widget, and what the user does with the widget back.
+class Carrier {
+public:
+    Carrier() = default;
+    Carrier(const Carrier&) = delete;
+    Carrier& operator=(const Carrier&) = delete;
+    virtual ~Carrier() = default;
+
+    /// Makes the widget show what the control says.
+    virtual void carry() = 0;
+    /// The control's widget; nullptr for what has none.
+    virtual QWidget* widget() const = 0;
+    /// Presses the control in its middle as a mouse button would. False for a control that knows no
+    /// press.
+    virtual bool press(int button) = 0;
+    /// The window goes: nothing is to come of its own accord any more.
+    virtual void stop() = 0;
+};
+
+/// The carrier of a control, as a child of `parent`; nullptr for a menu and its entries.
+std::unique_ptr<Carrier> make_carrier(const ControlEntry& entry, QWidget& parent,
+                                      const Surroundings& around);
+
+/// Keeps a copy of the control that is on show.
+template <class ControlType>
+class CarrierOf : public Carrier {
+public:
+    CarrierOf(ControlType& control, const ControlEntry& entry, const Surroundings& around)
+        : control_(control), entry_(entry), around_(around)
+    {
+    }
+    void carry() final
+    {
+        if (shown_ == control_)
+            return;
+        apply();
+        shown_ = control_;
+    }
+    bool press(int) override { return false; }
+    void stop() override {}
+
+protected:
+    /// Carries over each field that differs: see changed().
+    virtual void apply() = 0;
+
+    /// One of the fields differs from what is on show.
+    template <class... Fields>
+    bool changed(Fields ControlType::*... fields) const
+    {
+        return !shown_ || ((*shown_.*fields != control_.*fields) || ...);
+    }
+    /// The user changed a field: the widget shows it already.
+    template <class Field>
+    void take(Field ControlType::*field, Field value)
+    {
+        control_.*field = value;
+        if (shown_)
+            *shown_.*field = value;
+    }
+    void raise(EventKind kind) { around_.gate.raise(around_.form, &entry_, {.kind = kind}); }
+    void place(QWidget& widget) const
+    {
+        if (changed(&ControlType::Left, &ControlType::Top, &ControlType::Width,
+                    &ControlType::Height))
+            widget.setGeometry(control_.Left, control_.Top, control_.Width, control_.Height);
+    }
+    /// Shows or hides the widget. The focus does not jump from a widget that goes to the next one,
+    /// but falls back to the window.
+    void appear(QWidget& widget) const
+    {
+        if (!changed(&ControlType::Visible))
+            return;
+        const QWidget* focus = widget.window()->focusWidget();
+        if (!control_.Visible && focus && (focus == &widget || widget.isAncestorOf(focus)))
+            widget.window()->setFocus(Qt::OtherFocusReason);
+        widget.setVisible(control_.Visible);
+    }
+
+    ControlType& control_;
+    const ControlEntry& entry_;
+    const Surroundings around_;
+
+private:
+    std::optional<ControlType> shown_;
+};
+
+} // namespace ostrelum

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/toolkit/Colour.h"
+
+#include <QColor>
+#include <QPalette>
+#include <QWidget>
+
+namespace ostrelum {
+
+inline QColor qt_colour(Colour colour)
+{
+    return QColor(red_of(colour), green_of(colour), blue_of(colour));
+}
+
+inline void paint_text(QWidget& widget, Colour colour)
+{
+    QPalette palette = widget.palette();
+    palette.setColor(QPalette::WindowText, qt_colour(colour));
+    widget.setPalette(palette);
+}
+
+/// The colours of the controls in a window. The window's own colours are given and light, so a
+/// desktop's dark scheme must not put white letters on them.
+inline QPalette window_palette(Colour ground)
+{
+    return QPalette(QColor(240, 240, 240), qt_colour(ground));
+}
+
+} // namespace ostrelum

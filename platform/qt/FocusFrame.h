@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QWidget>
+
+namespace ostrelum {
+
+/// The frame round the control that has the keyboard. It is a widget of its own over all others of
+/// the window, because a picture may lie over the control.
+class FocusFrame : public QWidget {
+public:
+    explicit FocusFrame(QWidget& window);
+    /// Shows round a widget of the window; nullptr hides it.
+    void follow(const QWidget* widget);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+} // namespace ostrelum

@@ -1,0 +1,64 @@
+#include "platform/qt/Fonts.h"
+
+#include <QFontMetrics>
+#include <QStringList>
+
+#include <algorithm>
+
+namespace ostrelum {
+namespace {
+
+/// Points are counted 96 to the inch, so that the layout is in pixels whatever the screen says of
+/// itself.
+int pixels_of(double points)
+{
+    return std::max(1, qRound(points * 96 / 72));
+}
+
+/// The family and its stand-ins. The common last resort of Linux desktops, DejaVu Sans, is a good
+/// tenth wider than all families that the window uses, so families of Arial's width come before it.
+QStringList families_of(const QString& name)
+{
+    QStringList families{name};
+    if (name == u"Segoe UI Light")
+        families << "Selawik Light"
+                 << "Open Sans Light"
+                 << "Noto Sans Light";
+    if (name == u"Segoe UI")
+        families << "Selawik";
+    if (name == u"Trebuchet MS")
+        families << "Fira Sans";
+    return families << "Arial"
+                    << "Liberation Sans"
+                    << "Arimo"
+                    << "Nimbus Sans"
+                    << "FreeSans"
+                    << "DejaVu Sans Condensed";
+}
+
+} // namespace
+
+QFont font_of(const FontSpec& spec)
+{
+    QFont font;
+    font.setFamilies(families_of(QString::fromStdString(spec.Name)));
+    font.setPixelSize(pixels_of(spec.Size));
+    font.setBold(spec.Bold);
+    font.setItalic(spec.Italic);
+    font.setUnderline(spec.Underline);
+    return font;
+}
+
+TextSize measure(const QString& text, const QFont& font)
+{
+    const QFontMetrics metrics(font);
+    const QSize box = metrics.size(0, text);
+    int width = box.width();
+    for (const QString& line : text.split(u'\n')) {
+        if (!line.isEmpty())
+            width = std::max(width, metrics.boundingRect(line).right() + 1);
+    }
+    return {width, box.height()};
+}
+
+} // namespace ostrelum

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/toolkit/Controls.h"
+#include "platform/toolkit/Toolkit.h"
+
+#include <QFont>
+
+namespace ostrelum {
+
+/// The font of a control. Where the named family is not installed, one of nearly the same width
+/// stands in.
+QFont font_of(const FontSpec& spec);
+
+/// Pixels that a text takes as a label draws it: the ink of slanted letters that lean beyond their
+/// own width is counted in.
+TextSize measure(const QString& text, const QFont& font);
+
+} // namespace ostrelum

@@ -1,0 +1,142 @@
+#include "platform/qt/FormWindow.h"
+
+#include "platform/qt/Colours.h"
+#include "platform/qt/Images.h"
+#include "platform/qt/MouseFeed.h"
+#include "platform/qt/Text.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QIcon>
+#include <QScreen>
+
+namespace ostrelum {
+namespace {
+
+Qt::WindowFlags frame_of(const Form& form)
+{
+    Qt::WindowFlags flags = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                            Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+    if (form.MinButton)
+        flags |= Qt::WindowMinimizeButtonHint;
+    return flags;
+}
+
+} // namespace
+
+FormWindow::FormWindow(const Surroundings& around, std::function<void()> asked_to_close)
+    : QWidget(nullptr, frame_of(around.form)), around_(around),
+      asked_to_close_(std::move(asked_to_close)), keyboard_(*this, carriers_, around_)
+{
+    // The window itself has the focus until the user moves it, so that no control starts marked.
+    setFocusPolicy(Qt::ClickFocus);
+    setFocus();
+    new MouseFeed(*this, nullptr, around_);
+    installEventFilter(this);
+    make_carriers();
+}
+
+void FormWindow::make_carriers()
+{
+    for (const ControlEntry& entry : around_.form.controls) {
+        QWidget* parent = this;
+        if (entry.container >= 0) {
+            const auto& holder = carriers_.at(static_cast<std::size_t>(entry.container));
+            parent = holder && holder->widget() ? holder->widget() : this;
+        }
+        carriers_.push_back(make_carrier(entry, *parent, around_));
+        if (const auto& made = carriers_.back(); made && made->widget())
+            made->widget()->installEventFilter(this);
+    }
+}
+
+void FormWindow::carry()
+{
+    carry_frame();
+    for (const auto& carrier : carriers_) {
+        if (carrier)
+            carrier->carry();
+    }
+    keyboard_.show_focus();
+}
+
+void FormWindow::carry_frame()
+{
+    const Form& form = around_.form;
+    const Frame wanted{form.Caption,
+                       {form.ClientWidth, form.ClientHeight},
+                       form.BackColor,
+                       form.Icon,
+                       form.MousePointer};
+    if (shown_ == wanted)
+        return;
+    setWindowTitle(qt_text(form.Caption));
+    setFixedSize(form.ClientWidth, form.ClientHeight);
+    setPalette(window_palette(form.BackColor));
+    around_.pointers.give(*this, form.MousePointer);
+    QIcon icon;
+    for (const Picture& picture : form.Icon)
+        icon.addPixmap(pixmap_of(picture));
+    setWindowIcon(icon);
+    shown_ = wanted;
+}
+
+void FormWindow::bring_up()
+{
+    if (!isVisible()) {
+        const QScreen* under_pointer = QGuiApplication::screenAt(QCursor::pos());
+        const QScreen* screen = under_pointer ? under_pointer : QGuiApplication::primaryScreen();
+        if (screen)
+            move(screen->availableGeometry().center() - rect().center());
+    }
+    show();
+    raise();
+    activateWindow();
+}
+
+void FormWindow::close_down()
+{
+    for (const auto& carrier : carriers_) {
+        if (carrier)
+            carrier->stop();
+    }
+    hide();
+    if (gone)
+        gone();
+}
+
+void FormWindow::closeEvent(QCloseEvent* event)
+{
+    event->ignore();
+    asked_to_close_();
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event)
+{
+    event->setAccepted(keyboard_.key(*event));
+}
+
+/// Menus come from presses of the mouse and from keyPressEvent().
+void FormWindow::contextMenuEvent(QContextMenuEvent* event)
+{
+    event->accept();
+}
+
+bool FormWindow::focusNextPrevChild(bool next)
+{
+    const bool moved = QWidget::focusNextPrevChild(next);
+    // Not where a control that goes gives its focus away.
+    if (!around_.gate.carrying())
+        keyboard_.set_in_use(true);
+    return moved;
+}
+
+/// Sees the events of the window and of all its widgets, before they get them.
+bool FormWindow::eventFilter(QObject*, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonPress)
+        keyboard_.set_in_use(false);
+    return false;
+}
+
+} // namespace ostrelum

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "platform/qt/Keyboard.h"
+
+namespace ostrelum {
+
+/// The window of a form, with a widget for each of its controls.
+class FormWindow : public QWidget {
+public:
+    /// `asked_to_close` runs when the user closes the window by its frame.
+    FormWindow(const Surroundings& around, std::function<void()> asked_to_close);
+
+    const Form& form() const { return around_.form; }
+    /// Carries over what differs.
+    void carry();
+    /// Brings the window up in the centre of the screen.
+    void bring_up();
+    /// Takes the window away for good: nothing comes from it any more.
+    void close_down();
+    /// Runs at the end of close_down().
+    std::function<void()> gone;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    void make_carriers();
+    void carry_frame();
+
+    const Surroundings around_;
+    std::function<void()> asked_to_close_;
+    Carriers carriers_;
+    Keyboard keyboard_;
+    /// Copies of what the frame shows.
+    struct Frame {
+        std::string Caption;
+        Point size;
+        Colour BackColor = White;
+        std::array<Picture, 2> Icon;
+        Pointer MousePointer = Pointer::Default;
+        bool operator==(const Frame&) const = default;
+    };
+    std::optional<Frame> shown_;
+};
+
+} // namespace ostrelum

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/toolkit/Picture.h"
+
+#include <QImage>
+#include <QPixmap>
+
+namespace ostrelum {
+
+/// A view of a bitmap's own bytes, which must stay; only a bitmap with coverage is copied. A null
+/// image for an empty or a torn bitmap.
+QImage image_of(const Bitmap& bitmap);
+
+/// A copy for icons and pointers.
+QPixmap pixmap_of(const Picture& picture);
+
+} // namespace ostrelum

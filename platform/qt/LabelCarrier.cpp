@@ -1,0 +1,68 @@
+#include "platform/qt/LabelCarrier.h"
+
+#include "platform/qt/Colours.h"
+#include "platform/qt/Fonts.h"
+#include "platform/qt/Text.h"
+
+namespace ostrelum {
+namespace {
+
+Qt::Alignment alignment_of(Align align)
+{
+    switch (align) {
+    case Align::Right: return Qt::AlignRight | Qt::AlignTop;
+    case Align::Centre: return Qt::AlignHCenter | Qt::AlignTop;
+    case Align::Left: break;
+    }
+    return Qt::AlignLeft | Qt::AlignTop;
+}
+
+} // namespace
+
+LabelCarrier::LabelCarrier(Label& label, const ControlEntry& entry, QWidget& parent,
+                           const Surroundings& around)
+    : CarrierOf(label, entry, around), widget_(new LabelWidget(&parent)),
+      feed_(new MouseFeed(*widget_, &entry, around))
+{
+    widget_->setTextFormat(Qt::PlainText);
+    widget_->setIndent(0);
+    widget_->press = [this] { press(LeftButton); };
+}
+
+bool LabelCarrier::press(int button)
+{
+    feed_->press(button);
+    return true;
+}
+
+void LabelCarrier::apply()
+{
+    apply_text();
+    place(*widget_);
+    if (changed(&Label::ForeColor))
+        paint_text(*widget_, control_.ForeColor);
+    if (changed(&Label::ToolTipText))
+        widget_->setToolTip(qt_text(control_.ToolTipText));
+    if (changed(&Label::MousePointer))
+        around_.pointers.give(*widget_, control_.MousePointer);
+    if (changed(&Label::TabStop))
+        widget_->setFocusPolicy(control_.TabStop ? Qt::StrongFocus : Qt::NoFocus);
+    appear(*widget_);
+}
+
+void LabelCarrier::apply_text()
+{
+    const bool sizes_itself = control_.AutoSize && !control_.WordWrap;
+    if (sizes_itself && changed(&Label::Caption, &Label::Font, &Label::AutoSize, &Label::WordWrap))
+        fit(around_.toolkit, control_);
+    if (changed(&Label::Font))
+        widget_->setFont(font_of(control_.Font));
+    if (changed(&Label::Alignment))
+        widget_->setAlignment(alignment_of(control_.Alignment));
+    if (changed(&Label::WordWrap))
+        widget_->setWordWrap(control_.WordWrap);
+    if (changed(&Label::Caption))
+        widget_->setText(qt_text(control_.Caption));
+}
+
+} // namespace ostrelum

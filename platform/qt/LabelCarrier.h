@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/qt/Carrier.h"
+#include "platform/qt/MouseFeed.h"
+
+#include <QLabel>
+
+namespace ostrelum {
+
+/// A label's widget.
+class LabelWidget : public QLabel {
+public:
+    using QLabel::QLabel;
+    /// Presses it as the left mouse button would.
+    std::function<void()> press;
+};
+
+class LabelCarrier : public CarrierOf<Label> {
+public:
+    LabelCarrier(Label& label, const ControlEntry& entry, QWidget& parent,
+                 const Surroundings& around);
+    QWidget* widget() const override { return widget_; }
+    bool press(int button) override;
+
+private:
+    void apply() override;
+    void apply_text();
+
+    LabelWidget* widget_;
+    MouseFeed* feed_;
+};
+
+} // namespace ostrelum

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "platform/qt/Carrier.h"
+
+#include <QMouseEvent>
+
+namespace ostrelum {
+
+/// Turns what the mouse does on a widget into events of its control, and shows its tooltip. A
+/// control to which nobody listens lets its mouse through to what holds it, in the end the form.
+class MouseFeed : public QObject {
+public:
+    /// `entry` is nullptr for the form's own window.
+    MouseFeed(QWidget& widget, const ControlEntry* entry, const Surroundings& around);
+
+    /// A press and a release in the middle of the widget, from the keyboard or a screen reader.
+    void press(int button);
+
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    bool button_down(const QMouseEvent& mouse);
+    bool button_up(const QMouseEvent& mouse);
+    bool moved(const QMouseEvent& mouse);
+    bool listens(EventKind kind) const;
+    /// `at` is a point of the target.
+    void raise(EventKind kind, int button, Qt::KeyboardModifiers modifiers, QPoint at) const;
+    QPoint in_target(const QMouseEvent& mouse) const;
+
+    QWidget& widget_;
+    const Surroundings around_;
+    /// The control that gets the events, nullptr for the form; and its widget.
+    const ControlEntry* target_;
+    QWidget* target_widget_;
+    Qt::MouseButtons pressed_;
+};
+
+} // namespace ostrelum

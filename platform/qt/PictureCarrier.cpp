@@ -1,0 +1,39 @@
+#include "platform/qt/PictureCarrier.h"
+
+#include "platform/qt/Text.h"
+
+namespace ostrelum {
+
+PictureCarrier::PictureCarrier(PictureBox& box, const ControlEntry& entry, QWidget& parent,
+                               const Surroundings& around)
+    : CarrierOf(box, entry, around), widget_(new PictureWidget(&parent)),
+      feed_(new MouseFeed(*widget_, &entry, around))
+{
+    widget_->press = [this] { press(LeftButton); };
+}
+
+bool PictureCarrier::press(int button)
+{
+    feed_->press(button);
+    return true;
+}
+
+void PictureCarrier::apply()
+{
+    place(*widget_);
+    if (changed(&PictureBox::Transparent, &PictureBox::BackColor))
+        widget_->set_ground(control_.Transparent, control_.BackColor);
+    if (changed(&PictureBox::Surface))
+        widget_->set_picture(control_.Surface);
+    if (changed(&PictureBox::ToolTipText))
+        widget_->setToolTip(qt_text(control_.ToolTipText));
+    if (changed(&PictureBox::AccessibleName))
+        widget_->setAccessibleName(qt_text(control_.AccessibleName));
+    if (changed(&PictureBox::MousePointer))
+        around_.pointers.give(*widget_, control_.MousePointer);
+    if (changed(&PictureBox::TabStop))
+        widget_->setFocusPolicy(control_.TabStop ? Qt::StrongFocus : Qt::NoFocus);
+    appear(*widget_);
+}
+
+} // namespace ostrelum

@@ -1,0 +1,203 @@
+#include "platform/qt/QtToolkit.h"
+
+#include "platform/qt/Accessibility.h"
+#include "platform/qt/Fonts.h"
+#include "platform/qt/PopupMenus.h"
+#include "platform/qt/Text.h"
+
+#include <QEventLoop>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QPointer>
+#include <QTranslator>
+#include <QWindow>
+
+namespace ostrelum {
+namespace {
+
+/// The desktop's words on the toolkit's own buttons, such as those of the save dialog.
+void translate_toolkit(QApplication& application)
+{
+    auto* words = new QTranslator(&application);
+    if (words->load(QLocale(), "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(words);
+}
+
+/// Wayland knows no opacity of a window, and the toolkit would complain at each try.
+bool has_opacity()
+{
+    return !QGuiApplication::platformName().startsWith("wayland");
+}
+
+} // namespace
+
+std::unique_ptr<Toolkit> make_qt_toolkit(int& argc, char** argv, const QtLook& look)
+{
+    return std::make_unique<QtToolkit>(argc, argv, look);
+}
+
+QtToolkit::QtToolkit(int& argc, char** argv, const QtLook& look)
+    : application_(argc, argv), pointers_(look.hand, look.hot_spot), gate_([this] {
+          for (const auto& [form, window] : windows_)
+              window->carry();
+      })
+{
+    // The program decides when it ends, not the last window.
+    QApplication::setQuitOnLastWindowClosed(false);
+    QGuiApplication::setDesktopFileName(qt_text(look.desktop_entry));
+    translate_toolkit(application_);
+    install_accessibility();
+}
+
+QtToolkit::~QtToolkit()
+{
+    for (const auto& [form, window] : windows_)
+        delete window;
+}
+
+/// The toolkit's controls need no preparation.
+void QtToolkit::InitCommonControls() {}
+
+TextSize QtToolkit::text_size(const std::string& text, const FontSpec& font) const
+{
+    return measure(qt_text(text), font_of(font));
+}
+
+FormWindow* QtToolkit::window_of(const Form& form) const
+{
+    const auto found = windows_.find(&form);
+    return found == windows_.end() ? nullptr : found->second;
+}
+
+FormWindow& QtToolkit::make_window(Form& form)
+{
+    if (FormWindow* window = window_of(form))
+        return *window;
+    const Surroundings around{form, *this, gate_, pointers_};
+    auto* window = new FormWindow(around, [this, &form] { user_closes(form); });
+    windows_[&form] = window;
+    // The native window is there before it shows, so that it comes up with its opacity.
+    window->winId();
+    apply_opacity(form);
+    return *window;
+}
+
+void QtToolkit::user_closes(Form& form)
+{
+    Unload(*this, form);
+    gate_.carry_over();
+}
+
+void QtToolkit::Show(Form& form)
+{
+    FormWindow& window = make_window(form);
+    gate_.carry_over();
+    window.bring_up();
+}
+
+void QtToolkit::ShowModal(Form& form)
+{
+    const QWidget* below = QApplication::activeWindow();
+    FormWindow& window = make_window(form);
+    window.setWindowModality(Qt::ApplicationModal);
+    if (below && below != &window)
+        window.windowHandle()->setTransientParent(below->windowHandle());
+    QEventLoop loop;
+    const QPointer<FormWindow> watched(&window);
+    window.gone = [&loop] { loop.quit(); };
+    Show(form);
+    loop.exec();
+    // The end of the whole program ends the loop as well.
+    if (watched)
+        watched->gone = nullptr;
+}
+
+void QtToolkit::Hide(Form& form)
+{
+    layers_.erase(&form);
+    FormWindow* window = window_of(form);
+    if (!window)
+        return;
+    windows_.erase(&form);
+    window->close_down();
+    // An event of one of its widgets may still run.
+    window->deleteLater();
+    if (windows_.empty())
+        QCoreApplication::quit();
+}
+
+void QtToolkit::Refresh(Form& form)
+{
+    gate_.carry_over();
+    if (FormWindow* window = window_of(form))
+        window->repaint();
+}
+
+void QtToolkit::DoEvents()
+{
+    gate_.carry_over();
+    QCoreApplication::processEvents();
+}
+
+void QtToolkit::popup(Form& form, PopupMenu& menu, std::optional<Point> at, const MenuItem* bold)
+{
+    FormWindow* window = window_of(form);
+    if (!window)
+        return;
+    QPoint place = gate_.keyboard_point.value_or(QCursor::pos());
+    if (at)
+        place = window->mapToGlobal(QPoint(at->x, at->y));
+    gate_.keyboard_point.reset();
+    pop_up(*window, gate_, menu, place, bold);
+}
+
+void QtToolkit::set_screen_pointer(Pointer pointer)
+{
+    pointers_.give_screen(pointer);
+}
+
+std::int32_t QtToolkit::GetWindowLongA(const Form& form, int index)
+{
+    const auto layer = layers_.find(&form);
+    if (layer == layers_.end() || !layer->second.longs.contains(index))
+        return 0;
+    return layer->second.longs.at(index);
+}
+
+void QtToolkit::SetWindowLongA(Form& form, int index, std::int32_t value)
+{
+    layers_[&form].longs[index] = value;
+    apply_opacity(form);
+}
+
+void QtToolkit::SetLayeredWindowAttributes(Form& form, Colour, std::uint8_t alpha,
+                                           std::uint32_t flags)
+{
+    // A window that is not layered has no alpha to set.
+    if (!layers_[&form].layered() || !(flags & LWA_ALPHA))
+        return;
+    layers_[&form].alpha = alpha;
+    apply_opacity(form);
+}
+
+bool QtToolkit::Layer::layered() const
+{
+    const auto style = longs.find(GWL_EXSTYLE);
+    return style != longs.end() && style->second & WS_EX_LAYERED;
+}
+
+void QtToolkit::apply_opacity(const Form& form)
+{
+    FormWindow* window = window_of(form);
+    const auto layer = layers_.find(&form);
+    if (!window || layer == layers_.end() || !has_opacity())
+        return;
+    window->setWindowOpacity(layer->second.layered() ? layer->second.alpha / 255.0 : 1.0);
+}
+
+int QtToolkit::run()
+{
+    return QApplication::exec();
+}
+
+} // namespace ostrelum

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "platform/qt/FormWindow.h"
+#include "platform/qt/QtBackEnd.h"
+
+#include <QApplication>
+
+#include <map>
+
+namespace ostrelum {
+
+class QtToolkit final : public Toolkit {
+public:
+    QtToolkit(int& argc, char** argv, const QtLook& look);
+    ~QtToolkit() override;
+
+    void InitCommonControls() override;
+    TextSize text_size(const std::string& text, const FontSpec& font) const override;
+    void Show(Form& form) override;
+    void ShowModal(Form& form) override;
+    void Hide(Form& form) override;
+    void Refresh(Form& form) override;
+    void DoEvents() override;
+    void popup(Form& form, PopupMenu& menu, std::optional<Point> at, const MenuItem* bold) override;
+    void set_screen_pointer(Pointer pointer) override;
+    std::int32_t GetWindowLongA(const Form& form, int index) override;
+    void SetWindowLongA(Form& form, int index, std::int32_t value) override;
+    void SetLayeredWindowAttributes(Form& form, Colour key, std::uint8_t alpha,
+                                    std::uint32_t flags) override;
+    int run() override;
+
+    /// The widget that shows a form; nullptr for a form without a window.
+    FormWindow* window_of(const Form& form) const;
+
+private:
+    /// Style and opacity of a form, which may be set before its window is there and go with it.
+    struct Layer {
+        std::map<int, std::int32_t> longs;
+        std::uint8_t alpha = 255;
+        bool layered() const;
+    };
+
+    FormWindow& make_window(Form& form);
+    void user_closes(Form& form);
+    void apply_opacity(const Form& form);
+
+    QApplication application_;
+    Pointers pointers_;
+    Gate gate_;
+    std::map<const Form*, FormWindow*> windows_;
+    std::map<const Form*, Layer> layers_;
+};
+
+} // namespace ostrelum

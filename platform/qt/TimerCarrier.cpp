@@ -1,0 +1,32 @@
+#include "platform/qt/TimerCarrier.h"
+
+#include <algorithm>
+
+namespace ostrelum {
+namespace {
+
+/// Milliseconds of a screen frame, the fastest tick.
+constexpr int FrameTime = 15;
+
+} // namespace
+
+TimerCarrier::TimerCarrier(Timer& timer, const ControlEntry& entry, const Surroundings& around)
+    : CarrierOf(timer, entry, around)
+{
+    clock_.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&clock_, &QTimer::timeout, &clock_, [this] {
+        // Switched off by an event that still runs and lets other events in.
+        if (control_.Enabled)
+            raise(EventKind::Timer);
+    });
+}
+
+void TimerCarrier::apply()
+{
+    if (control_.Enabled && control_.Interval > 0)
+        clock_.start(std::max(control_.Interval, FrameTime));
+    else
+        clock_.stop();
+}
+
+} // namespace ostrelum
