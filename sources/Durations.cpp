@@ -1,0 +1,34 @@
+#include "sources/Durations.h"
+
+#include "platform/system/Failure.h"
+
+namespace ostrelum {
+namespace {
+
+std::string two_digits(int number)
+{
+    return (number < 10 ? "0" : "") + std::to_string(number);
+}
+
+} // namespace
+
+std::string UptimeText(std::uint32_t milliseconds, Regional& regional)
+{
+    constexpr int DaySeconds = 24 * 60 * 60;
+    constexpr int LastDay = 28;
+    const int seconds = static_cast<int>(milliseconds / 1000);
+    if (seconds / DaySeconds > LastDay)
+        return "";
+    const int today = seconds % DaySeconds;
+    return regional.long_time({today / 3600, today / 60 % 60, today % 60});
+}
+
+std::string MinutesText(std::int32_t minutes)
+{
+    constexpr std::int32_t HoursLimit = 32768;
+    if (minutes < 0 || minutes / 60 >= HoursLimit)
+        throw Failure("no number of minutes that can be shown");
+    return two_digits(minutes / 60 % 24) + ":" + two_digits(minutes % 60);
+}
+
+} // namespace ostrelum

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+/// Upper and lower case of the Latin, Greek and Cyrillic letters, one character for one, the same
+/// in every locale. Other characters stay as they are.
+namespace ostrelum {
+
+char32_t upper_case(char32_t character);
+char32_t lower_case(char32_t character);
+
+/// The same for each character of UTF-8 text; bytes that are no UTF-8 stay.
+std::string upper_case(std::string_view text);
+std::string lower_case(std::string_view text);
+
+} // namespace ostrelum

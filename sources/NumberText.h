@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace ostrelum {
+
+/// The decimal digits of a number, with a minus sign where it is negative.
+std::string WholeText(std::int64_t number);
+
+/// A number with up to 15 significant digits and no trailing zeros, such as "2.394", "3" and "0.8".
+/// `decimal_sign` stands between whole part and fraction.
+std::string RealText(double number, std::string_view decimal_sign);
+
+/// The number rounded down. Throws Failure for what a signed 32-bit number cannot hold.
+std::int32_t rounded_down(double number);
+
+} // namespace ostrelum

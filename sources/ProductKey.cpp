@@ -1,0 +1,59 @@
+#include "sources/ProductKey.h"
+
+#include <algorithm>
+#include <span>
+#include <string_view>
+
+namespace ostrelum {
+namespace {
+
+constexpr std::string_view Digits = "BCDFGHJKMPQRTVWXY2346789";
+constexpr int KeyDigits = 25;
+constexpr int GroupDigits = 5;
+
+/// Size of the registry's value, and where the packed key stands in it.
+constexpr std::size_t ValueSize = 164;
+constexpr std::size_t PackedOffset = 52;
+
+/// Divides the number by the base and returns the remainder.
+std::size_t divide(PackedKey& number)
+{
+    std::size_t remainder = 0;
+    for (auto byte = number.rbegin(); byte != number.rend(); ++byte) {
+        const std::size_t value = remainder * 256 + *byte;
+        *byte = static_cast<std::uint8_t>(value / Digits.size());
+        remainder = value % Digits.size();
+    }
+    return remainder;
+}
+
+} // namespace
+
+std::string product_key(PackedKey packed)
+{
+    std::string key;
+    for (int digit = KeyDigits - 1; digit >= 0; --digit) {
+        key.insert(key.begin(), Digits[divide(packed)]);
+        if (digit % GroupDigits == 0 && digit != 0)
+            key.insert(key.begin(), '-');
+    }
+    return key;
+}
+
+std::string ProductKeyText(Registry& registry)
+{
+    const auto key =
+        registry.RegOpenKeyA(HKEY_LOCAL_MACHINE, "SOFTWARE\\MICROSOFT\\Windows NT\\CurrentVersion");
+    if (!key)
+        return "";
+    std::array<std::uint8_t, ValueSize> value{};
+    const auto length = registry.RegQueryValueExA(*key, "DigitalProductId", REG_BINARY, value);
+    registry.RegCloseKey(*key);
+    PackedKey packed;
+    if (!length || *length < PackedOffset + packed.size())
+        return "";
+    std::ranges::copy(std::span(value).subspan<PackedOffset, packed.size()>(), packed.begin());
+    return product_key(packed);
+}
+
+} // namespace ostrelum
