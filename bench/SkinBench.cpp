@@ -27,17 +27,15 @@ std::int64_t bytes_of(const std::vector<Bitmap>& bitmaps)
     return bytes;
 }
 
-/// What a tint does to the five pictures: each stored picture is copied and shifted.
+/// What a tint does to the five pictures.
 void TintFivePictures(benchmark::State& state)
 {
     const std::vector<Bitmap> stored = skin_bitmaps();
     std::vector<Bitmap> shown = stored;
     const TintColour colour{.red = 0, .green = 150, .blue = 255, .shine = 24};
     for (auto _ : state) {
-        for (std::size_t i = 0; i < stored.size(); ++i) {
-            std::memcpy(shown[i].bytes.data(), stored[i].bytes.data(), stored[i].bytes.size());
-            tint_pixels(shown[i], colour);
-        }
+        for (std::size_t i = 0; i < stored.size(); ++i)
+            tint_pixels(shown[i], stored[i], colour);
         benchmark::DoNotOptimize(shown.data());
         benchmark::ClobberMemory();
     }

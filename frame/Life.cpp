@@ -124,15 +124,26 @@ constexpr Handler table[] = {
     OSTRELUM_ON(Quit_Click),      OSTRELUM_ON(Form_Unload), OSTRELUM_ON(TUnload_Timer),
 };
 
-} // namespace
-
-const HandlerTable life_handlers{table};
-
-void start_program()
+void put_to_first_state()
 {
     reset_shared_state();
     F6.reset();
     load_main_form();
+}
+
+} // namespace
+
+const HandlerTable life_handlers{table};
+
+void load_program()
+{
+    put_to_first_state();
+    F1.raise("Form", {.kind = EventKind::Load});
+}
+
+void start_program()
+{
+    put_to_first_state();
     F1.raise("Form", {.kind = EventKind::Initialize});
     F1.raise("Form", {.kind = EventKind::Load});
     platform.toolkit->Show(F1);

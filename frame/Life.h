@@ -2,6 +2,9 @@
 
 namespace ostrelum {
 
+/// Loads the main window and opens its first page without showing it. The platform must be filled.
+void load_program();
+
 /// Runs the program's start: a second instance ends here; else the main window is loaded and shown.
 /// The platform must be filled.
 void start_program();

@@ -27,8 +27,9 @@ void Tint(PictureBox& pic)
     pic.Cls();
     if (pic.Stored.empty())
         return;
-    Bitmap pixels = pic.Stored.bitmap();
-    tint_pixels(pixels, {.red = BaseR, .green = BaseG, .blue = BaseB, .shine = Shine});
+    const Bitmap& grey = pic.Stored.bitmap();
+    Bitmap pixels(grey.width, grey.height);
+    tint_pixels(pixels, grey, {.red = BaseR, .green = BaseG, .blue = BaseB, .shine = Shine});
     pic.Surface = pic.Stored.redrawn(std::move(pixels));
 }
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 
 namespace ostrelum {
 namespace {
@@ -10,56 +9,60 @@ namespace {
 /// With a base byte of 220 and the highest shine, 24, a level stays as it is.
 constexpr int Unchanged = 220 + 24;
 
-/// Pixels of a stretch whose offsets lie side by side: 16 of them are three whole vectors of 16
-/// bytes, so that a compiler adds and clamps them without a loop over channels.
-constexpr std::size_t StretchPixels = 16;
-constexpr std::size_t StretchBytes = StretchPixels * 3;
+/// Pixels of a stretch whose shifts lie side by side: 16 of them are three whole vectors of 16
+/// bytes, so that a compiler shifts them without a loop over channels.
+constexpr std::size_t StretchBytes = 16 * 3;
 
-/// The offset of each byte of a stretch, split into what is added and what is taken off: one of the
-/// two is 0, so that saturating bytes serve.
-struct Offsets {
-    std::array<std::uint8_t, StretchBytes> plus{};
-    std::array<std::uint8_t, StretchBytes> minus{};
+/// How each byte of a stretch is shifted. A level is held between `lowest` and `highest` first, so
+/// that adding `offset` to it cannot leave the byte: no step needs more than 8 bits.
+struct Shift {
+    std::array<std::uint8_t, StretchBytes> lowest{};
+    std::array<std::uint8_t, StretchBytes> highest{};
+    std::array<std::uint8_t, StretchBytes> offset{};
 };
 
-Offsets offsets_of(const TintColour& colour)
+Shift shift_of(const TintColour& colour)
 {
     const std::array<int, 3> base{colour.blue, colour.green, colour.red};
-    Offsets offsets;
+    Shift shift;
     for (std::size_t i = 0; i < StretchBytes; ++i) {
         const int offset = base[i % 3] + colour.shine - Unchanged;
-        offsets.plus[i] = static_cast<std::uint8_t>(std::clamp(offset, 0, 255));
-        offsets.minus[i] = static_cast<std::uint8_t>(std::clamp(-offset, 0, 255));
+        shift.lowest[i] = static_cast<std::uint8_t>(std::clamp(-offset, 0, 255));
+        shift.highest[i] = static_cast<std::uint8_t>(std::clamp(255 - offset, 0, 255));
+        shift.offset[i] = static_cast<std::uint8_t>(offset);
     }
-    return offsets;
+    return shift;
 }
 
-void shift_bytes(std::uint8_t* bytes, std::size_t count, const Offsets& offsets)
+/// `__restrict`: what is written is neither read again nor the shift itself.
+void shift_bytes(std::uint8_t* __restrict dest, const std::uint8_t* __restrict grey,
+                 std::size_t count, const Shift& shift)
 {
     for (std::size_t i = 0; i < count; ++i) {
-        const int level = bytes[i] + offsets.plus[i] - offsets.minus[i];
-        bytes[i] = static_cast<std::uint8_t>(std::clamp(level, 0, 255));
+        // By value: std::min and std::max take references, which hides the two instructions from
+        // the compiler.
+        const std::uint8_t low = shift.lowest[i];
+        const std::uint8_t high = shift.highest[i];
+        std::uint8_t level = grey[i];
+        level = level > low ? level : low;
+        level = level < high ? level : high;
+        dest[i] = static_cast<std::uint8_t>(level + shift.offset[i]);
     }
-}
-
-/// The same for a whole stretch: the fixed count lets the compiler use whole vectors.
-void shift_stretch(std::uint8_t* bytes, const Offsets& offsets)
-{
-    shift_bytes(bytes, StretchBytes, offsets);
 }
 
 } // namespace
 
-void tint_pixels(Bitmap& bitmap, const TintColour& colour)
+void tint_pixels(Bitmap& dest, const Bitmap& grey, const TintColour& colour)
 {
-    const Offsets offsets = offsets_of(colour);
-    const auto row_bytes = static_cast<std::size_t>(bitmap.width) * 3;
-    for (int y = 0; y < bitmap.height; ++y) {
-        std::uint8_t* row = bitmap.row(y);
+    const Shift shift = shift_of(colour);
+    const auto row_bytes = static_cast<std::size_t>(std::min(dest.width, grey.width)) * 3;
+    for (int y = 0; y < std::min(dest.height, grey.height); ++y) {
+        std::uint8_t* to = dest.row(y);
+        const std::uint8_t* from = grey.row(y);
         std::size_t x = 0;
         for (; x + StretchBytes <= row_bytes; x += StretchBytes)
-            shift_stretch(row + x, offsets);
-        shift_bytes(row + x, row_bytes - x, offsets);
+            shift_bytes(to + x, from + x, StretchBytes, shift);
+        shift_bytes(to + x, from + x, row_bytes - x, shift);
     }
 }
 

@@ -16,9 +16,10 @@ struct TintColour {
     int shine = 0;
 };
 
-/// Tints a grey bitmap in place: each channel becomes its grey level + the colour's byte + shine -
-/// 244, held within 0 to 255. The bytes that fill a row up are not touched.
-void tint_pixels(Bitmap& bitmap, const TintColour& colour);
+/// Writes the tinted form of a grey bitmap into another one of its size: each channel becomes the
+/// grey level + the colour's byte + shine - 244, held within 0 to 255. The bytes that fill a row up
+/// are not touched.
+void tint_pixels(Bitmap& dest, const Bitmap& grey, const TintColour& colour);
 
 /// Draws `source` over `dest` in place with a constant opacity of alpha / 255, stretched to the
 /// size of `dest` by the nearest pixel where the sizes differ.

@@ -37,7 +37,7 @@ TEST(Tinting, ShiftsEachChannelByColourAndShineAndLeavesTheFillingAlone)
                 }
             }
             Bitmap tinted = grey;
-            tint_pixels(tinted, colour);
+            tint_pixels(tinted, grey, colour);
             EXPECT_TRUE(tinted == expected) << width << "x" << height << " red " << int{colour.red};
         }
     }
@@ -52,7 +52,7 @@ TEST(Tinting, GivesTheLevelsOfTheDefaultColour)
     for (const auto& row : rows) {
         Bitmap pixel(1, 1);
         std::fill_n(pixel.bytes.begin(), 3, row.grey);
-        tint_pixels(pixel, {.red = 0, .green = 150, .blue = 255, .shine = 24});
+        tint_pixels(pixel, Bitmap(pixel), {.red = 0, .green = 150, .blue = 255, .shine = 24});
         EXPECT_EQ(pixel.bytes[0], row.blue) << int{row.grey};
         EXPECT_EQ(pixel.bytes[1], row.green) << int{row.grey};
         EXPECT_EQ(pixel.bytes[2], row.red) << int{row.grey};

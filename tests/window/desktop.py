@@ -89,6 +89,17 @@ class Desktop:
             self.call("xdotool", "key", key)
             time.sleep(0.1)
 
+    def press_close(self, window, times=1):
+        """Asks the window manager to close the window, as its close button does."""
+        self.call("xdotool", "windowfocus", "--sync", window)
+        self.call("xdotool", "key", "--delay", "20", *["alt+F4"] * times)
+
+    def clipboard(self):
+        """The clipboard's text, line ends as they are."""
+        done = subprocess.run(["xclip", "-selection", "clipboard", "-o"], env=self.environment,
+                              capture_output=True, timeout=30, check=False)
+        return done.stdout.decode("utf-8")
+
     def pixel(self, window, x, y):
         """The colour of a pixel of the window's client area as it is on the screen."""
         place = dict(line.split("=") for line in
@@ -120,6 +131,8 @@ class Desktop:
                 except subprocess.TimeoutExpired:
                     process.kill()
                     process.wait()
+            if process.stdout:
+                process.stdout.close()
         shutil.rmtree(self.home, ignore_errors=True)
 
     def __enter__(self):

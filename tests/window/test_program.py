@@ -32,7 +32,7 @@ class ProgramTest(unittest.TestCase):
             for name, default in (("Language", "English"), ("ColorValue", "16750080"), ("ShineValue", "48"),
                                   ("ChkTrans", "1"), ("Transparency", "0")):
                 self.assertRegex(desktop.read_settings(), f"(?m)^{name}\\b.*{default}")
-            desktop.call("xdotool", "windowquit", window)
+            desktop.press_close(window)
             self.assertEqual(program.wait(10), 0)
 
     def test_window_is_as_transparent_as_the_settings_say(self):
@@ -49,7 +49,7 @@ class ProgramTest(unittest.TestCase):
             program = desktop.start_program()
             window = desktop.window()
             self.assertTrue(wait_for(lambda: near(desktop.pixel(window, *PAGE), (255, 255, 255), 0)))
-            desktop.call("xdotool", "windowquit", window)
+            desktop.press_close(window)
             self.assertEqual(program.wait(10), 0)
 
     def test_a_second_instance_shows_nothing_and_a_killed_one_leaves_no_lock(self):
@@ -86,7 +86,7 @@ class ProgramTest(unittest.TestCase):
             desktop.click(window, *PAGE, button=3)
             time.sleep(0.5)
             desktop.call("xdotool", "key", "Up", "Return")
-            copied = wait_for(lambda: desktop.call("xclip", "-selection", "clipboard", "-o"))
+            copied = wait_for(desktop.clipboard)
             self.assertIsNotNone(copied)
             self.assertTrue(copied.startswith("Bios\r\n\r\nName: "), copied)
 
@@ -111,8 +111,7 @@ class ProgramTest(unittest.TestCase):
         with Desktop() as desktop:
             program = desktop.start_program()
             window = desktop.window()
-            for _ in range(3):
-                desktop.call("xdotool", "windowquit", window)
+            desktop.press_close(window, times=3)
             self.assertEqual(program.wait(10), 0)
 
 
