@@ -40,22 +40,6 @@ void SecCPU()
 {
     open_empty_page(5);
 }
-void SecRAM()
-{
-    open_empty_page(6);
-}
-void SecDisks()
-{
-    open_empty_page(7);
-}
-void SecDisplay()
-{
-    open_empty_page(9);
-}
-void SecInput()
-{
-    open_empty_page(10);
-}
 void SecRemovable()
 {
     open_empty_page(11);

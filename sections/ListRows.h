@@ -1,0 +1,13 @@
+#pragma once
+
+#include "frame/Volumes.h"
+
+#include <string>
+
+namespace ostrelum {
+
+/// Sets a row to a list without the separator behind its last entry, as it is. A list without an
+/// entry leaves the value that the row had, and its tooltip takes that.
+void set_list_row(int row, const std::string& title, const std::string& list, std::size_t tail);
+
+} // namespace ostrelum

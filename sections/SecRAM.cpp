@@ -1,0 +1,50 @@
+#include "frame/MemoryModules.h"
+#include "frame/Page.h"
+#include "sections/MemoryRows.h"
+#include "sections/Sections.h"
+#include "sources/MemoryCodes.h"
+
+namespace ostrelum {
+namespace {
+
+void read_use_of_memory()
+{
+    Num2 = 0;
+    query("Select FreePhysicalMemory, LargeSystemCache from Win32_OperatingSystem");
+    first(WmiResult, [](const Instance& item) {
+        attempt([&] { Num2 = item["FreePhysicalMemory"].whole(); });
+        attempt([&] { Datos[5] = trimmed(item["LargeSystemCache"]); });
+    });
+}
+
+} // namespace
+
+void SecRAM()
+{
+    if (F1.Seccion != 6)
+        F1.Line1.Visible = false;
+    enter_section(6);
+    hide(F1.LNoDrive, F1.Iaviso, F1.Laviso);
+
+    read_memory_modules();
+    ram_total = Num1;
+    read_use_of_memory();
+
+    F1.Titulo.Caption = Trad[16];
+    plain_title(1);
+    plain_title(8);
+    set_row(1, Trad[61], memory_type_text(Datos[1]));
+    set_row(2, Trad[90], form_factor_text(Datos[2]));
+    set_row(3, Trad[91], total_memory());
+    set_title(4, Trad[92] + " ");
+    set_title(5, Trad[93] + " ");
+    set_memory_values();
+    set_row(6, Trad[94], modules_installed());
+    set_row(7, Trad[95], memory_width());
+    set_row(8, Trad[96], favoured_use());
+    clear_title_tooltips(3, 5);
+    empty_rows(9, 12);
+    F1.Timer1.Enabled = true;
+}
+
+} // namespace ostrelum
