@@ -1,0 +1,26 @@
+#include "report/Body.h"
+
+#include "report/Documents.h"
+#include "report/ReportForm.h"
+
+namespace ostrelum {
+
+void write_heading(const std::string& title)
+{
+    F2.Tb += "^a" + title + "^b" + std::string(CRLF);
+}
+
+void write_rows(std::initializer_list<ReportRow> rows)
+{
+    for (const ReportRow& row : rows) {
+        F2.Tb += (&row == rows.begin() ? "^c" : "^f") + row.label + "^d" + row.value;
+        F2.Tb += (&row + 1 == rows.end() ? "^g" : "^e") + std::string(CRLF);
+    }
+}
+
+std::string known(const std::string& value)
+{
+    return value.empty() ? Trad[89] : value;
+}
+
+} // namespace ostrelum

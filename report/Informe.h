@@ -1,0 +1,15 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+/// The pipeline of a report: heads, twelve stages, feet.
+namespace ostrelum {
+
+/// Tick of the clock at which the report began, in milliseconds.
+inline std::uint32_t ReportStart = 0;
+
+/// Makes the four documents, one stage after the other, and returns when they are finished.
+void InfStart();
+
+} // namespace ostrelum

@@ -1,0 +1,48 @@
+#include "frame/Program.h"
+#include "frame/StringTable.h"
+#include "report/Documents.h"
+
+namespace ostrelum {
+namespace {
+
+/// A middle dot between two blanks.
+const std::string bullet = " · ";
+
+// A line of the document is a line here.
+// clang-format off
+std::string head(const ReportLook& look)
+{
+    return "\r\n" +
+           bullet + look.title + "\r\n"
+           "\r\n"
+           "\r\n";
+}
+
+Expansions expansions(const ReportLook&)
+{
+    return {
+        " ",
+        "\r\n" + hyphens(18),
+        bullet,
+        " ",
+        "",
+        bullet,
+        "\r\n"
+        "\r\n",
+    };
+}
+
+std::string foot(const ReportLook&)
+{
+    return "\r\n" +
+           Trad[164] + "\r\n" +
+           hyphens(54) + "\r\n" +
+           std::string(WebAddress) + "\r\n";
+}
+// clang-format on
+
+} // namespace
+
+const DocumentFormat plain_text_format{head, expansions, nullptr, foot};
+
+} // namespace ostrelum

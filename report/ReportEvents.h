@@ -1,0 +1,15 @@
+#pragma once
+
+#include "platform/toolkit/Events.h"
+
+#include <vector>
+
+namespace ostrelum {
+
+/// The tables of handlers of the report dialog.
+std::vector<HandlerTable> report_form_handlers();
+
+extern const HandlerTable report_dialog_handlers;
+extern const HandlerTable save_handlers;
+
+} // namespace ostrelum
