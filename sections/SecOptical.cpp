@@ -1,0 +1,128 @@
+#include "frame/Figures.h"
+#include "frame/Page.h"
+#include "sections/ListRows.h"
+#include "sections/MediaPage.h"
+#include "sections/Sections.h"
+
+namespace ostrelum {
+namespace {
+
+/// Whether the page is open with discs on it: it is then drawn again from what it holds.
+bool values_are_kept()
+{
+    return F1.Seccion == 12 && !DatosCD[1].empty() && !DatosCD[2].empty() && !DatosCD[4].empty();
+}
+
+/// A drive or volume without a disc has no size.
+bool is_loaded(const Instance& item)
+{
+    return holds([&] { return !item["Size"].is_null() && item["Size"].number() > 0; });
+}
+
+void add_disc(const Instance& item)
+{
+    count_up(F1.MediaCount);
+    add_name(DatosCD[1], item, "VolumeName");
+    add_letter(DatosCD[2], item, "Name");
+    attempt([&] { Num1 = whole_kilobytes(item["Size"]); });
+    add_capacity(DatosCD[3], SizeByDigits(SizeUse::DiscCapacity, Num1));
+    add_name(DatosCD[6], item, "FileSystem");
+    add_name(DatosCD[7], item, "VolumeSerialNumber");
+}
+
+void read_discs()
+{
+    query("Select DriveType, Size, VolumeName, Name, Size, FileSystem, VolumeSerialNumber from "
+          "Win32_LogicalDisk where DriveType = 5");
+    each(WmiResult, [](const Instance& item) {
+        count_up(F1.EmptyDrives);
+        if (is_loaded(item))
+            add_disc(item);
+    });
+    F1.EmptyDrives = static_cast<std::uint8_t>(F1.EmptyDrives - F1.MediaCount);
+}
+
+void read_loaded_drives()
+{
+    query("Select Size, Name, MediaType from Win32_CDROMDrive");
+    each(WmiResult, [](const Instance& item) {
+        if (!is_loaded(item))
+            return;
+        add_name(DatosCD[4], item, "Name");
+        add_name(DatosCD[5], item, "MediaType");
+    });
+}
+
+void collect()
+{
+    announce_section(12);
+    DatosCD.fill({});
+    DatosCD[3] = "(";
+    F1.EmptyDrives = F1.MediaCount = 0;
+    Num1 = 0;
+    read_discs();
+    if (F1.MediaCount != 0)
+        read_loaded_drives();
+}
+
+int notice_top()
+{
+    if (FontsOk != 32)
+        return 220;
+    if (Idioma == "English")
+        return 210;
+    return Idioma == "Spanish" ? 205 : 200;
+}
+
+void show_no_disc()
+{
+    F1.Titulo.Caption = Trad[22];
+    show_notice(170, notice_top(), 180);
+    show_alert(NothingFound, Trad[148] + "\r\n" + Trad[149]);
+    F1.Line1.Visible = false;
+}
+
+/// A count in words: the text of `one` for 1, else the text of `many` with the number filled in.
+std::string counted(std::uint8_t count, std::size_t one, std::size_t many)
+{
+    return count == 1 ? Trad[one] : FillMark(Trad[many], "(#)", WholeText(count));
+}
+
+std::string count_text()
+{
+    const std::string empty = F1.EmptyDrives == 0 ? Trad[147] : counted(F1.EmptyDrives, 145, 146);
+    return counted(F1.MediaCount, 143, 144) + "\r\n" + empty;
+}
+
+void show_discs()
+{
+    F1.Titulo.Caption = Trad[22];
+    hide(F1.LNoDrive);
+    plain_title(1);
+    set_list_row(1, Trad[36], DatosCD[1], NameTail);
+    set_list_row(2, Trad[100], DatosCD[2], NameTail);
+    set_list_row(3, Trad[140], DatosCD[3], SizeTail);
+    set_list_row(4, Trad[104], DatosCD[4], NameTail);
+    set_list_row(5, Trad[141], DatosCD[5], NameTail);
+    set_list_row(6, Trad[105], DatosCD[6], NameTail);
+    set_list_row(7, Trad[74], DatosCD[7], NameTail);
+    clear_title_tooltips(3, 5);
+    show_alert(MediaFound, count_text());
+    place_line(F1.Line1, 8, 4);
+}
+
+} // namespace
+
+void SecOptical()
+{
+    const bool kept = values_are_kept();
+    if (!kept)
+        collect();
+    if (kept || F1.MediaCount != 0)
+        show_discs();
+    else
+        show_no_disc();
+    empty_rows(8, 12);
+}
+
+} // namespace ostrelum

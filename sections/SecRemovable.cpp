@@ -1,0 +1,119 @@
+#include "frame/Figures.h"
+#include "frame/Page.h"
+#include "sections/ListRows.h"
+#include "sections/MediaPage.h"
+#include "sections/Sections.h"
+
+namespace ostrelum {
+namespace {
+
+void count_media()
+{
+    F1.MediaCount = 0;
+    query("Select Size from Win32_LogicalDisk where DriveType = 2");
+    each(WmiResult, [](const Instance& item) {
+        attempt([&] {
+            if (item["Size"].number() > 0)
+                count_up(F1.MediaCount);
+        });
+    });
+}
+
+void show_no_drive()
+{
+    F1.Titulo.Caption = Trad[21];
+    if (Idioma == "Dutch")
+        show_notice(169, FontsOk == 32 ? 135 : 160, FontsOk == 32 ? 280 : 260);
+    else
+        show_notice(169, FontsOk == 32 ? 170 : 190, 220);
+    show_alert(NothingFound, Trad[138] + "\r\n" + Trad[139]);
+    F1.Line1.Visible = false;
+}
+
+void add_volume_name(const Instance& item)
+{
+    add_entry(Datos[1], [&] {
+        const Value& name = item["VolumeName"];
+        if (name.is_null())
+            return std::string(" - ");
+        return (name.text().empty() ? Trad[135] : name.text()) + " - ";
+    });
+}
+
+/// A drive without a medium is listed too: it has the sizes of the one before it.
+void add_sizes(const Instance& item)
+{
+    attempt([&] { Num1 = whole_kilobytes(item["Size"]); });
+    add_capacity(Datos[3], SizeByDigits(SizeUse::RemovableCapacity, Num1));
+    attempt([&] { Num2 = whole_kilobytes(item["Freespace"]); });
+    add_share(Datos[5], SizeByDigits(SizeUse::RemovableFree, Num2), Num2, Num1);
+    attempt([&] {
+        const std::int32_t used = Value(std::int64_t{Num1} - Num2).whole();
+        add_share(Datos[4], SizeByDigits(SizeUse::RemovableUsed, used), used, Num1);
+    });
+}
+
+void read_volumes()
+{
+    query("Select VolumeName, Caption, Size, Freespace, FileSystem, VolumeSerialNumber from "
+          "Win32_LogicalDisk where DriveType = 2");
+    each(WmiResult, [](const Instance& item) {
+        add_volume_name(item);
+        add_letter(Datos[2], item, "Caption");
+        add_sizes(item);
+        add_name(Datos[7], item, "FileSystem");
+        add_name(Datos[8], item, "VolumeSerialNumber");
+    });
+    query("Select InterfaceType, Caption from Win32_DiskDrive");
+    each(WmiResult, [](const Instance& item) {
+        if (hangs_on(item, "USB", "1394"))
+            add_name(Datos[6], item, "Caption");
+    });
+}
+
+std::string count_text()
+{
+    if (F1.MediaCount == 1)
+        return "\r\n" + Trad[136];
+    return "\r\n" + FillMark(Trad[137], "(#)", WholeText(F1.MediaCount));
+}
+
+void show_drives()
+{
+    F1.Titulo.Caption = Trad[21];
+    hide(F1.LNoDrive);
+    plain_title(1);
+    plain_title(8);
+    set_list_row(1, Trad[36], Datos[1], NameTail);
+    set_list_row(2, Trad[100], Datos[2], NameTail);
+    set_list_row(3, Trad[101], Datos[3], SizeTail);
+    set_list_row(4, Trad[102], Datos[4], SizeTail);
+    set_list_row(5, Trad[103], Datos[5], SizeTail);
+    set_list_row(6, Trad[104], Datos[6], NameTail);
+    set_list_row(7, Trad[105], Datos[7], NameTail);
+    set_list_row(8, Trad[74], Datos[8], NameTail);
+    clear_title_tooltips(3, 5);
+    place_line(F1.Line1, 9, 4);
+    show_alert(MediaFound, count_text());
+}
+
+} // namespace
+
+void SecRemovable()
+{
+    enter_section(11);
+    clear(Datos, 1, 8);
+    Datos[3] = Datos[4] = Datos[5] = "(";
+    Num1 = Num2 = 0;
+
+    count_media();
+    if (F1.MediaCount == 0) {
+        show_no_drive();
+    } else {
+        read_volumes();
+        show_drives();
+    }
+    empty_rows(9, 12);
+}
+
+} // namespace ostrelum
