@@ -1,14 +1,17 @@
 #include "frame/F1Events.h"
 
 #include "commands/Commands.h"
+#include "report/Report.h"
+#include "sections/Sections.h"
 #include "skin/Skin.h"
 
 namespace ostrelum {
 
 std::vector<HandlerTable> main_form_handlers()
 {
-    return {life_handlers,     navigation_handlers, page_menu_handlers,
-            language_handlers, cross_fade_handlers, copy_handlers};
+    return {life_handlers,         navigation_handlers,    page_menu_handlers,
+            language_handlers,     cross_fade_handlers,    copy_handlers,
+            live_refresh_handlers, report_command_handlers};
 }
 
 } // namespace ostrelum

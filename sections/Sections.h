@@ -1,6 +1,9 @@
 #pragma once
 
-/// The collectors of the thirteen section pages. Each one queries anew and writes the page of F1.
+#include "platform/toolkit/Events.h"
+
+/// The collectors of the thirteen section pages, each of which queries anew and writes the page of
+/// F1, and the live refresh.
 namespace ostrelum {
 
 void SecSummary();
@@ -16,5 +19,8 @@ void SecInput();
 void SecRemovable();
 void SecOptical();
 void SecOther();
+
+/// The tick that keeps the figures of the open page current.
+extern const HandlerTable live_refresh_handlers;
 
 } // namespace ostrelum

@@ -1,0 +1,89 @@
+#include "frame/OperatingSystem.h"
+#include "frame/Page.h"
+#include "sections/BatteryRows.h"
+#include "sections/MemoryRows.h"
+#include "sections/Sections.h"
+#include "sections/SystemRows.h"
+
+/// The figures that change while their page is open, once a second. A tick asks for no more than
+/// what changes, and writes the values in place.
+namespace ostrelum {
+namespace {
+
+void stop()
+{
+    F1.Timer1.Enabled = false;
+}
+
+void refresh_user()
+{
+    const std::string time = usage_time();
+    if (time.empty())
+        stop();
+    else
+        set_value(9, time);
+    F1.L(9).ToolTipText = F1.L(9).Caption;
+}
+
+void refresh_system()
+{
+    TempStr.clear();
+    Num1 = Num2 = 0;
+    query("Select FreeVirtualMemory, NumberOfProcesses, TotalVirtualMemorySize from "
+          "Win32_OperatingSystem");
+    first(WmiResult, [](const Instance& item) {
+        attempt([&] { TempStr = item["NumberOfProcesses"].text(); });
+        attempt([&] { Num1 = virtual_memory(item); });
+        attempt([&] { Num2 = virtual_memory_in_use(item); });
+    });
+    place_value(9);
+    set_value(9, process_count(TempStr));
+    set_title(11, Trad[81] + " ");
+    set_virtual_memory_row();
+}
+
+void refresh_memory()
+{
+    Num1 = ram_total;
+    Num2 = 0;
+    query("Select FreePhysicalMemory from Win32_OperatingSystem");
+    first(WmiResult, [](const Instance& item) {
+        attempt([&] { Num2 = item["FreePhysicalMemory"].whole(); });
+    });
+    place_value(4);
+    place_value(5);
+    set_memory_values();
+}
+
+void refresh_battery()
+{
+    clear(Datos, 1, 3);
+    query("Select DesignVoltage, EstimatedChargeRemaining, EstimatedRunTime from Win32_Battery");
+    first(WmiResult, [](const Instance& item) {
+        attempt([&] { Datos[1] = trimmed(item["DesignVoltage"]); });
+        attempt([&] { Datos[2] = trimmed(item["EstimatedChargeRemaining"]); });
+        attempt([&] { Datos[3] = trimmed(item["EstimatedRunTime"]); });
+    });
+    if (Datos[1].empty() && Datos[2].empty() && Datos[3].empty())
+        stop();
+    set_battery_values(Datos[1], Datos[2], Datos[3]);
+}
+
+void Timer1_Timer()
+{
+    switch (F1.Seccion) {
+    case 2: return refresh_user();
+    case 4: return refresh_system();
+    case 6: return refresh_memory();
+    case 13: return refresh_battery();
+    default: return stop();
+    }
+}
+
+constexpr Handler table[] = {OSTRELUM_ON(Timer1_Timer)};
+
+} // namespace
+
+const HandlerTable live_refresh_handlers{table};
+
+} // namespace ostrelum

@@ -1,0 +1,24 @@
+#include "sections/SystemRows.h"
+
+#include "frame/Figures.h"
+#include "frame/Page.h"
+
+namespace ostrelum {
+
+std::string usage_time()
+{
+    const std::string time = UptimeText();
+    return time.empty() ? "" : FillMark(Trad[54], "(HHMMSS)", time);
+}
+
+void set_virtual_memory_row()
+{
+    if (Num1 <= 0)
+        set_value(11, std::string());
+    else if (Num2 > 0 && Num2 < Num1)
+        set_row(11, Trad[81], [] { return UsedOfTotal(Num2, Num1); });
+    else
+        set_row(11, Trad[161], WholeText(Num1) + " MB");
+}
+
+} // namespace ostrelum
