@@ -58,7 +58,7 @@ std::string desktop_folder()
 std::string ShowSaveDialog(const std::string& title, std::string& filter, const std::string& name)
 {
     std::ranges::replace(filter, '|', '\0');
-    const auto target = [&filter](const std::string& path, int index) {
+    const auto target = [filter](const std::string& path, int index) {
         return full_path(path, extension_of(filter, index));
     };
     const auto chosen = platform.save_dialog->GetSaveFileNameA({.title = title,

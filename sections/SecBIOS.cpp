@@ -1,4 +1,4 @@
-#include "frame/Figures.h"
+#include "frame/Firmware.h"
 #include "frame/Page.h"
 #include "sections/Sections.h"
 
@@ -7,17 +7,7 @@ namespace ostrelum {
 void SecBIOS()
 {
     enter_section(8);
-    clear(Datos, 1, 5);
-
-    query(
-        "Select Name, Manufacturer, SMBIOSBIOSVersion, ReleaseDate, SerialNumber from Win32_BIOS");
-    first(WmiResult, [](const Instance& item) {
-        attempt([&] { Datos[1] = trimmed(item["Name"]); });
-        attempt([&] { Datos[2] = trimmed(item["Manufacturer"]); });
-        attempt([&] { Datos[3] = trimmed(item["SMBIOSBIOSVersion"]); });
-        attempt([&] { Datos[4] = trimmed(item["ReleaseDate"]); });
-        attempt([&] { Datos[5] = trimmed(item["SerialNumber"]); });
-    });
+    read_firmware();
 
     F1.Titulo.Caption = Trad[18];
     hide(F1.LNoDrive, F1.Line1, F1.Iaviso, F1.Laviso);
@@ -25,7 +15,7 @@ void SecBIOS()
     set_row(1, Trad[36], Datos[1]);
     set_row(2, Trad[59], Datos[2]);
     set_row(3, Trad[107], Datos[3]);
-    set_row(4, Trad[108], [] { return Datos[4].empty() ? std::string() : WmiDateText(Datos[4]); });
+    set_row(4, Trad[108], release_date);
     set_row(5, Trad[74], Datos[5]);
     clear_title_tooltips(3, 5);
     empty_rows(6, 12);

@@ -1,0 +1,43 @@
+#include "frame/HardDrives.h"
+#include "frame/Numbers.h"
+#include "frame/Shared.h"
+#include "frame/Volumes.h"
+#include "report/Body.h"
+#include "report/Stages.h"
+
+namespace ostrelum {
+namespace {
+
+/// A list of volumes or drives; unknown where it has none.
+std::string list(std::size_t slot, std::size_t tail)
+{
+    return known([&] { return without_tail(Datos.at(slot), tail); });
+}
+
+} // namespace
+
+void InfDisks()
+{
+    read_hard_drives({.names = 1,
+                      .letters = 2,
+                      .capacities = 3,
+                      .used = 4,
+                      .free = 0,
+                      .internal_names = 5,
+                      .file_systems = 6,
+                      .serials = 7,
+                      .partitions = 8});
+
+    write_rows({
+        {Trad[36], list(1, NameTail)},
+        {Trad[100], list(2, NameTail)},
+        {Trad[101], list(3, SizeTail)},
+        {Trad[102], list(4, SizeTail)},
+        {Trad[104], list(5, NameTail)},
+        {Trad[105], list(6, NameTail)},
+        {Trad[74], list(7, NameTail)},
+        {Trad[106], at_least(Datos[8], 1) ? Datos[8] : Trad[89]},
+    });
+}
+
+} // namespace ostrelum

@@ -1,0 +1,208 @@
+#include "tests/report/ReportTest.h"
+
+#include "frame/PictureForm.h"
+
+namespace ostrelum {
+namespace {
+
+class ReportDialog : public ReportTest {
+protected:
+    /// Opens the dialog and does with it what a user would.
+    void open(const std::function<void()>& user)
+    {
+        toolkit.modal = [&](Form& form) {
+            EXPECT_EQ(&form, &F2);
+            user();
+        };
+        F1.raise("CrearInforme", {.kind = EventKind::Click});
+    }
+    static void tick(std::string_view timer, int times = 1)
+    {
+        for (; times > 0; --times)
+            F2.raise(timer, {.kind = EventKind::Timer});
+    }
+    bool on_show() const { return std::ranges::find(toolkit.shown, &F2) != toolkit.shown.end(); }
+    std::vector<std::string> timers_on() const
+    {
+        std::vector<std::string> names;
+        for (const ControlEntry& entry : F2.controls) {
+            if (auto* const* timer = std::get_if<Timer*>(&entry.control);
+                timer && (*timer)->Enabled)
+                names.emplace_back(entry.name);
+        }
+        return names;
+    }
+    using Names = std::vector<std::string>;
+};
+
+TEST_F(ReportDialog, OpensInItsFirstState)
+{
+    TransEnabled = false;
+    FontsOk = 32;
+    F1.Timer1.Enabled = true;
+    open([&] {
+        EXPECT_FALSE(F1.Timer1.Enabled);
+        EXPECT_TRUE(on_show());
+        EXPECT_EQ(F2.Icon, F1.Icon);
+        EXPECT_EQ(F2.Desc1.Caption, "Make and save report as...");
+        EXPECT_EQ(F2.Desc1.Font, (FontSpec{.Name = "Segoe UI", .Size = 12}));
+        EXPECT_EQ(F2.LStatus.Top, 99);
+        EXPECT_EQ(F2.LStatus.Caption, "");
+        EXPECT_FALSE(F2.BSave.Enabled || F2.BClose.Enabled);
+        EXPECT_EQ(timers_on(), Names{"Descargador"});
+        EXPECT_TRUE(toolkit.alphas[&F2].empty()) << "never see-through";
+    });
+    FontsOk = 0;
+    open([] {
+        EXPECT_EQ(F2.Desc1.Font, (FontSpec{.Name = "Trebuchet MS", .Size = 12}));
+        EXPECT_EQ(F2.Desc2.Font, (FontSpec{.Name = "Tahoma", .Size = 8}));
+        EXPECT_EQ(F2.LStatus.Font, (FontSpec{.Name = "Tahoma", .Size = 9}));
+        EXPECT_EQ(F2.LStatus.Top, 98);
+        EXPECT_EQ(F2.BClose.Font, F2.Desc2.Font);
+    });
+}
+
+TEST_F(ReportDialog, EveryHandlerHasItsControl)
+{
+    load_report_form();
+    for (const HandlerTable& table : F2.handlers) {
+        for (const Handler& handler : table)
+            EXPECT_TRUE(handler.control == "Form" || F2.find(handler.control)) << handler.control;
+    }
+}
+
+TEST_F(ReportDialog, PaintsEachStepBeforeItsQueries)
+{
+    std::vector<std::pair<std::string, std::size_t>> painted;
+    WatchingToolkit watching(
+        [&] { painted.emplace_back(F2.LStatus.Caption, script.asked.size()); });
+    script.asked.clear();
+    make_report();
+    const std::array<std::size_t, 12> asked{0, 2, 3, 4, 5, 7, 9, 10, 12, 12, 14, 14};
+    ASSERT_EQ(painted.size(), asked.size());
+    for (std::size_t i = 0; i < asked.size(); ++i) {
+        const std::string step = "Making report, step " + std::to_string(i + 1) + "/12";
+        EXPECT_EQ(painted[i], std::pair(step, asked[i]));
+    }
+    EXPECT_EQ(script.asked, queries);
+}
+
+TEST_F(ReportDialog, WithoutTransparencyBuildsAtTheFirstTickAndClosesAtOnce)
+{
+    TransEnabled = false;
+    open([&] {
+        tick("Descargador");
+        EXPECT_EQ(timers_on(), Names{"TAlphaB"});
+        EXPECT_EQ(F2.LStatus.Caption, "Report made at 0 second/s");
+        EXPECT_TRUE(F2.BSave.Enabled && F2.BClose.Enabled);
+        EXPECT_TRUE(F2.Tb.empty());
+        EXPECT_FALSE(F2.Tb1.empty() || F2.Tb2.empty() || F2.Tb3.empty() || F2.Tb4.empty());
+        click("BClose");
+        EXPECT_FALSE(on_show());
+        EXPECT_EQ(F2.Tb1 + F2.Tb2 + F2.Tb3 + F2.Tb4, "");
+        EXPECT_TRUE(F1.Timer1.Enabled);
+    });
+}
+
+TEST_F(ReportDialog, FadesInBuildsAndFadesOut)
+{
+    TransEnabled = true;
+    Transparency = 0;
+    open([&] {
+        EXPECT_EQ(timers_on(), Names{"TLoad"});
+        tick("TLoad", 11);
+        EXPECT_EQ(Cnt, 1);
+        EXPECT_EQ(F2.Tb4, "") << "no report before the dialog has come up";
+        tick("TLoad");
+        EXPECT_EQ(Cnt, -8);
+        EXPECT_EQ(timers_on(), Names{"TAlphaB"});
+        EXPECT_EQ(toolkit.alphas[&F2].front(), 0);
+        EXPECT_EQ(toolkit.alphas[&F2].back(), 255);
+
+        click("BClose");
+        EXPECT_TRUE(on_show());
+        EXPECT_TRUE(F1.Timer1.Enabled);
+        tick("TUnload", 11);
+        EXPECT_EQ(Cnt, 99);
+        click("BSave");
+        EXPECT_TRUE(save_dialog.requests.empty()) << "its documents are gone";
+        EXPECT_FALSE(Unload(toolkit, F2)) << "closing again changes nothing";
+        EXPECT_EQ(Cnt, 99);
+        tick("TUnload");
+        EXPECT_FALSE(on_show());
+    });
+}
+
+TEST_F(ReportDialog, TheFadesRestAtTheTransparencyOfTheWindow)
+{
+    TransEnabled = true;
+    Transparency = 80;
+    open([&] {
+        tick("TLoad", 3);
+        EXPECT_EQ(toolkit.alphas[&F2], (std::vector<int>{0, 22, 45, 68, 51}));
+        Unload(toolkit, F2);
+        EXPECT_FALSE(F2.Tb4.empty()) << "the frame's button leaves the documents alone";
+        tick("TUnload", 3);
+        EXPECT_FALSE(on_show());
+        EXPECT_TRUE(F1.Timer1.Enabled);
+    });
+}
+
+TEST_F(ReportDialog, ClosedBeforeItHasBegunItNeverBegins)
+{
+    for (const bool fading : {true, false}) {
+        TransEnabled = fading;
+        open([&] {
+            tick("TLoad", fading ? 5 : 0);
+            Unload(toolkit, F2);
+            EXPECT_EQ(timers_on(), fading ? Names{"TUnload"} : Names{});
+            EXPECT_EQ(Cnt, 55) << "from the level that it has reached";
+            tick("TUnload", fading ? 5 : 0);
+            EXPECT_FALSE(on_show());
+            EXPECT_EQ(F2.Tb4, "");
+            EXPECT_TRUE(F1.Timer1.Enabled);
+        });
+        Cnt = 55;
+    }
+}
+
+TEST_F(ReportDialog, ThePictureCrossesOverInNineteenBlends)
+{
+    TransEnabled = false;
+    open([&] {
+        const Picture design = F2.Pic1.Stored;
+        ASSERT_FALSE(design.empty());
+        tick("Descargador");
+        tick("TAlphaB", 19);
+        EXPECT_EQ(F2.BlendLevel, 247);
+        EXPECT_EQ(F2.Pic1.Stored, design);
+        EXPECT_NE(F2.Pic1.Surface, design);
+        tick("TAlphaB");
+        EXPECT_EQ(F2.Pic1.Stored, F6->Made.Stored);
+        EXPECT_EQ(F2.Pic1.Surface, F6->Made.Stored);
+        EXPECT_EQ(timers_on(), Names{});
+        click("BClose");
+    });
+    open([&] { EXPECT_NE(F2.Pic1.Stored, F6->Made.Stored) << "the next report starts anew"; });
+}
+
+TEST_F(ReportDialog, LeavesTheRefreshOfTheRamPageItsTotal)
+{
+    script.results["Select FreePhysicalMemory, LargeSystemCache from Win32_OperatingSystem"] =
+        script.results["Select FreePhysicalMemory from Win32_OperatingSystem"] = {
+            Instance({{"FreePhysicalMemory", "1048576"}, {"LargeSystemCache", 0}})};
+    F1.raise("LMenu", {.kind = EventKind::MouseDown, .index = 6, .button = LeftButton});
+    const std::string in_use = F1.L(4).Caption;
+    ASSERT_EQ(in_use, "3072 MB (75%)");
+    TransEnabled = false;
+    open([&] {
+        tick("Descargador");
+        click("BClose");
+    });
+    F1.L(4).Caption.clear();
+    F1.raise("Timer1", {.kind = EventKind::Timer});
+    EXPECT_EQ(F1.L(4).Caption, in_use);
+}
+
+} // namespace
+} // namespace ostrelum

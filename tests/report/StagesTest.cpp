@@ -1,0 +1,89 @@
+#include "tests/report/ReportTest.h"
+
+namespace ostrelum {
+namespace {
+
+class Stages : public ReportTest {
+protected:
+    static int count(const std::string& text, const std::string& part)
+    {
+        int found = 0;
+        for (auto at = text.find(part); at != std::string::npos; at = text.find(part, at + 1))
+            ++found;
+        return found;
+    }
+};
+
+/// The rules themselves are tested with the pages; here is what a report does its own way.
+TEST_F(Stages, ShowAFallbackWhereAPageWouldKeepItsCaption)
+{
+    const struct {
+        const char* class_name;
+        const char* property;
+        Value value;
+        const char* section;
+        const char* label;
+        const char* shown;
+    } cases[] = {
+        {"Win32_NetworkLoginProfile", "LastLogon", "soon", "User account",
+         "Start time:", "Unknown"},
+        {"Win32_OperatingSystem", "InstallDate", "20110230101112", "Operating system",
+         "Date of installation:", "Unknown"},
+        {"Win32_OperatingSystem", "TotalVirtualMemorySize", "1000", "Operating system",
+         "Total virtual memory:", "Unknown"},
+        {"Win32_Processor", "CurrentClockSpeed", 2400, "Processor", "Speed:", "2400 Mhz"},
+        {"Win32_Processor", "MaxClockSpeed", 0, "Processor", "Speed:", "Unknown"},
+        {"Win32_Processor", "L3CacheSize", "none", "Processor", "L3 cache size:", "Unknown"},
+        {"Win32_LogicalDisk", "Caption", {}, "Hard drives", "Drive letter:", "(D:)"},
+        {"Win32_DiskDrive", "Partitions", {}, "Hard drives", "Total partitions:", "3"},
+        {"Win32_BIOS", "ReleaseDate", "long ago", "Bios", "Released:", "Unknown"},
+        {"Win32_VideoController", "MinRefreshRate", {}, "Display", "Maximum update rate:", "75 Hz"},
+        {"Win32_VideoController", "DriverDate", "none", "Graphics card", "Driver date:", "Unknown"},
+    };
+    const auto recorded = script.results;
+    for (const auto& each : cases) {
+        script.results = recorded;
+        change(each.class_name, each.property, each.value);
+        make_report();
+        EXPECT_EQ(row(each.section, each.label), each.shown) << each.property;
+    }
+}
+
+TEST_F(Stages, WithoutAServiceAReportHasAllSectionsAndItsFoot)
+{
+    make_report();
+    script.results.clear();
+    store.values.clear();
+    machine.metrics.clear();
+    machine.environment.clear();
+    make_report();
+    EXPECT_EQ(count(F2.Tb4, "\r\n------------------\r\n"), 12);
+    EXPECT_EQ(count(F2.Tb1, "\\b0  \\i "), 78);
+    EXPECT_EQ(count(F2.Tb4, " Unknown\r\n"), 75) << "nothing is left of the report before";
+    EXPECT_EQ(row("Operating system", "Version and build:"), "");
+    EXPECT_EQ(row("Operating system", "Service pack:"), "None");
+    EXPECT_EQ(row("Processor", "Number of cores:"), "4");
+    EXPECT_TRUE(F2.Tb2.ends_with("</html>"));
+    EXPECT_EQ(F2.LStatus.Caption, "Report made at 0 second/s");
+}
+
+TEST_F(Stages, AnOlderSystemIsAskedWithoutItsNewestProperty)
+{
+    for (const auto& [class_name, newest] : {std::pair("Win32_OperatingSystem", ", OSArchitecture"),
+                                             std::pair("Win32_Processor", ", L3CacheSize")}) {
+        const std::string& wql = query_about(class_name);
+        std::string shorter = wql;
+        shorter.erase(shorter.find(newest), std::string(newest).size());
+        auto moved = script.results.extract(wql);
+        moved.key() = shorter;
+        script.results.insert(std::move(moved));
+    }
+    make_report();
+    EXPECT_EQ(row("Operating system", "Type:"), "Unknown");
+    EXPECT_EQ(row("Operating system", "Version and build:"), "6.1, 7601");
+    EXPECT_EQ(row("Processor", "L3 cache size:"), "Unknown");
+    EXPECT_EQ(row("Processor", "Socket:"), "Socket 1");
+}
+
+} // namespace
+} // namespace ostrelum
