@@ -6,7 +6,9 @@ target_include_directories(ostrelum_rules INTERFACE ${CMAKE_SOURCE_DIR})
 target_compile_options(ostrelum_rules INTERFACE
     -Wall -Wextra -Wpedantic -Werror -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
     -Woverloaded-virtual -Wold-style-cast -Wcast-qual -Wformat=2 -Wmissing-declarations
-    -Wno-missing-field-initializers)
+    -Wno-missing-field-initializers
+    # GCC 12 finds overlaps in "literal" + string where there are none (GCC bug 105651).
+    $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 if(OSTRELUM_SANITIZE)
     target_compile_options(ostrelum_rules INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
