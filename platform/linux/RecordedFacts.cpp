@@ -1,0 +1,94 @@
+#include "platform/linux/Facts.h"
+#include "platform/linux/Text.h"
+
+namespace ostrelum {
+namespace {
+
+/// The numbers that stand behind a path in the line that begins with it. Paths can hold blanks:
+/// only a line with nothing but numbers behind the path is that path's.
+std::optional<std::vector<std::uint64_t>> numbers_of(std::string_view lines, std::string_view path,
+                                                     std::size_t count)
+{
+    for (const std::string_view line : lines_of(lines)) {
+        if (!line.starts_with(path))
+            continue;
+        const auto words = words_of(line.substr(path.size()));
+        std::vector<std::uint64_t> numbers;
+        for (const std::string_view word : words) {
+            if (const auto number = whole_number(word))
+                numbers.push_back(*number);
+        }
+        if (words.size() == count && numbers.size() == count)
+            return numbers;
+    }
+    return std::nullopt;
+}
+
+class RecordedFacts : public Facts {
+public:
+    explicit RecordedFacts(const Sysroot& root)
+        : spaces_(record(root, "statvfs")), births_(record(root, "btime")),
+          uname_(record(root, "uname")), id_(record(root, "id")), environment_(record(root, "env"))
+    {
+    }
+
+    std::optional<VolumeSpace> space(const std::string& path) override
+    {
+        const auto told = numbers_of(spaces_, path, 4);
+        if (!told)
+            return std::nullopt;
+        return VolumeSpace{(*told)[0], (*told)[1], (*told)[2], (*told)[3]};
+    }
+
+    std::optional<std::int64_t> birth_time(const std::string& path) override
+    {
+        const auto told = numbers_of(births_, path, 1);
+        if (!told)
+            return std::nullopt;
+        return static_cast<std::int64_t>(told->front());
+    }
+
+    /// The last word but one: behind it stands the name of the system alone.
+    std::optional<std::string> processor_kind() override
+    {
+        const auto words = words_of(trimmed_space(uname_));
+        return words.size() < 2 ? std::nullopt : text_or_none(words[words.size() - 2]);
+    }
+
+    /// "uid=1000(name) gid=...".
+    std::optional<std::uint32_t> user_id() override
+    {
+        const auto uid = value_behind(id_, "uid", '=');
+        const auto number = uid ? whole_number(uid->substr(0, uid->find('('))) : std::nullopt;
+        return number ? std::optional(static_cast<std::uint32_t>(*number)) : std::nullopt;
+    }
+
+    std::optional<std::string> variable(std::string_view name) override
+    {
+        const auto value = value_behind(environment_, name, '=');
+        return value ? std::optional<std::string>(*value) : std::nullopt;
+    }
+
+    int utc_offset(std::int64_t) override { return 0; }
+
+private:
+    static std::string record(const Sysroot& root, const std::string& name)
+    {
+        return root.read("/.facts/" + name).value_or("");
+    }
+
+    std::string spaces_;
+    std::string births_;
+    std::string uname_;
+    std::string id_;
+    std::string environment_;
+};
+
+} // namespace
+
+std::unique_ptr<Facts> recorded_facts(const Sysroot& root)
+{
+    return std::make_unique<RecordedFacts>(root);
+}
+
+} // namespace ostrelum

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "platform/linux/Descriptor.h"
+#include "platform/linux/Resolve.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace ostrelum {
+
+/// Reads the files of a machine under its root folder: "/", or the folder of a recorded machine,
+/// which no symbolic link leads out of. Paths are absolute, as the machine itself has them.
+///
+/// Nothing here throws once the root is open: what cannot be had, for whatever reason, is not
+/// there. A device can vanish between two calls. Device nodes, pipes and sockets are never opened.
+class Sysroot {
+public:
+    /// How a path is found under the root; by hand for tests.
+    using Resolver = Descriptor (*)(int root, const std::string& path, LastLink last);
+
+    /// Throws Failure if the path is no folder that can be opened.
+    explicit Sysroot(const std::string& path, Resolver resolver = resolve_in_root);
+
+    /// This very machine, not a recorded one.
+    bool is_live() const;
+
+    bool exists(const std::string& path) const;
+
+    /// All bytes of a regular file, to its end whatever size it claims; nothing for one of more
+    /// than `limit` bytes.
+    std::optional<std::string> read(const std::string& path,
+                                    std::size_t limit = default_limit) const;
+
+    /// The first line of a file, or what stands before its first NUL: trimmed, valid UTF-8, not
+    /// empty.
+    std::optional<std::string> text(const std::string& path) const;
+
+    /// The whole number that is the first line of a file.
+    std::optional<std::uint64_t> number(const std::string& path) const;
+
+    /// The names in a folder, sorted so that "input10" comes after "input2".
+    std::vector<std::string> list(const std::string& path) const;
+
+    /// The text of a symbolic link.
+    std::optional<std::string> link(const std::string& path) const;
+
+private:
+    static constexpr std::size_t default_limit = std::size_t{4} << 20;
+
+    Descriptor root_;
+    Resolver resolver_;
+};
+
+} // namespace ostrelum

@@ -1,0 +1,70 @@
+#include "platform/linux/Text.h"
+
+#include "platform/linux/Utf8.h"
+
+#include <algorithm>
+#include <charconv>
+
+namespace ostrelum {
+
+std::string_view trimmed_space(std::string_view text)
+{
+    constexpr std::string_view space = " \t\r\n\v\f";
+    const std::size_t start = std::min(text.find_first_not_of(space), text.size());
+    return text.substr(start, text.find_last_not_of(space) + 1 - start);
+}
+
+std::vector<std::string_view> lines_of(std::string_view text)
+{
+    std::vector<std::string_view> lines;
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find('\n'), text.size());
+        lines.push_back(text.substr(0, end));
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return lines;
+}
+
+std::vector<std::string_view> words_of(std::string_view text)
+{
+    constexpr std::string_view blanks = " \t";
+    std::vector<std::string_view> words;
+    for (std::size_t start = text.find_first_not_of(blanks); start != std::string_view::npos;
+         start = text.find_first_not_of(blanks, start)) {
+        const std::size_t end = std::min(text.find_first_of(blanks, start), text.size());
+        words.push_back(text.substr(start, end - start));
+        start = end;
+    }
+    return words;
+}
+
+std::optional<std::string_view> value_behind(std::string_view text, std::string_view label,
+                                             char separator)
+{
+    for (const std::string_view line : lines_of(text)) {
+        const std::size_t sign = line.find(separator);
+        if (sign != std::string_view::npos && trimmed_space(line.substr(0, sign)) == label)
+            return trimmed_space(line.substr(sign + 1));
+    }
+    return std::nullopt;
+}
+
+std::optional<std::uint64_t> whole_number(std::string_view text, int base)
+{
+    std::uint64_t number = 0;
+    const char* const end = text.data() + text.size();
+    const auto read = std::from_chars(text.data(), end, number, base);
+    if (read.ec != std::errc() || read.ptr != end)
+        return std::nullopt;
+    return number;
+}
+
+std::optional<std::string> text_or_none(std::string_view raw)
+{
+    const std::string_view text = trimmed_space(raw);
+    if (text.empty())
+        return std::nullopt;
+    return made_valid_utf8(text);
+}
+
+} // namespace ostrelum
