@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string_view>
+#include <vector>
+
+/// Reading the firmware's table of the machine (DMTF DSP0134, System Management BIOS Reference
+/// Specification, chapter 6), without its entry point.
+namespace ostrelum {
+
+using Bytes = std::span<const std::uint8_t>;
+
+/// A structure of the table. It points into the table's bytes.
+class SmbiosStructure {
+public:
+    SmbiosStructure(Bytes formatted, Bytes strings) : formatted_(formatted), strings_(strings) {}
+
+    std::uint8_t type() const { return formatted_[0]; }
+
+    /// A field by its offset in the structure, as the specification numbers them. Nothing for one
+    /// that ends behind the structure: older firmware has shorter ones.
+    std::optional<std::uint8_t> byte(std::size_t offset) const;
+    std::optional<std::uint16_t> word(std::size_t offset) const;
+    std::optional<std::uint32_t> dword(std::size_t offset) const;
+
+    /// The string that the field at `offset` gives the number of, as the firmware wrote it. Nothing
+    /// for number 0, which means none, and for a number that the structure has no string for.
+    std::optional<std::string_view> string(std::size_t offset) const;
+
+private:
+    Bytes formatted_;
+    Bytes strings_;
+};
+
+/// The structures in their order, up to the end-of-table structure, or to the first one that is too
+/// short to be one or leads out of the table. Strings that the table's end cuts off are left out.
+std::vector<SmbiosStructure> smbios_structures(Bytes table);
+
+} // namespace ostrelum
