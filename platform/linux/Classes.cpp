@@ -1,0 +1,21 @@
+#include "platform/linux/Classes.h"
+
+namespace ostrelum {
+namespace {
+
+constexpr const LinuxClass* classes[] = {
+    &Win32_BaseBoard,
+    &Win32_BIOS,
+};
+
+} // namespace
+
+const LinuxClass* find_linux_class(std::string_view name)
+{
+    const auto found = std::ranges::find_if(classes, [&](const LinuxClass* each) {
+        return same_ascii_letters(each->schema->name, name);
+    });
+    return found == std::end(classes) ? nullptr : *found;
+}
+
+} // namespace ostrelum

@@ -1,0 +1,41 @@
+#include "platform/linux/LinuxManagementService.h"
+
+#include "platform/linux/ClassQuery.h"
+#include "platform/linux/Classes.h"
+#include "platform/linux/Wql.h"
+#include "platform/system/Failure.h"
+
+#include <utility>
+
+namespace ostrelum {
+namespace {
+
+class LinuxManagementService : public ManagementService {
+public:
+    explicit LinuxManagementService(MachineView machine) : machine_(std::move(machine)) {}
+
+    ResultSet ExecQuery(std::string_view wql) override
+    {
+        const WqlQuery query = parse_wql(wql);
+        const LinuxClass* asked = find_linux_class(query.class_name);
+        if (!asked)
+            throw Failure("no such class: " + query.class_name);
+        return run_query(query, *asked, machine_);
+    }
+
+private:
+    MachineView machine_;
+};
+
+} // namespace
+
+std::unique_ptr<ManagementService> make_linux_management_service(const std::string& root,
+                                                                 SessionFactsSource session)
+{
+    Sysroot sysroot(root);
+    auto facts = sysroot.is_live() ? live_facts() : recorded_facts(sysroot);
+    return std::make_unique<LinuxManagementService>(
+        MachineView{std::move(sysroot), std::move(facts), std::move(session)});
+}
+
+} // namespace ostrelum

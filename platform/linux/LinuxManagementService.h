@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/system/Screens.h"
+#include "sources/ManagementService.h"
+
+#include <memory>
+#include <string>
+
+namespace ostrelum {
+
+/// The management service on Linux. It reads the machine under `root`: "/", or the folder of a
+/// recorded machine. `session` tells what only the desktop session knows and may be empty. Throws
+/// Failure if `root` is no folder.
+std::unique_ptr<ManagementService> make_linux_management_service(const std::string& root,
+                                                                 SessionFactsSource session);
+
+} // namespace ostrelum
