@@ -6,6 +6,9 @@ namespace {
 constexpr const LinuxClass* classes[] = {
     &Win32_BaseBoard,
     &Win32_BIOS,
+    &Win32_CDROMDrive,
+    &Win32_DiskDrive,
+    &Win32_LogicalDisk,
 };
 
 } // namespace

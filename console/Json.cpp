@@ -1,0 +1,37 @@
+#include "console/Json.h"
+
+#include <nlohmann/json.hpp>
+
+namespace ostrelum {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+Json value_of(const Value& value)
+{
+    if (value.is_null())
+        return nullptr;
+    if (value.is_boolean())
+        return value.truth();
+    if (value.is_whole())
+        return static_cast<std::int64_t>(value.number());
+    if (value.is_real())
+        return value.number();
+    return value.text();
+}
+
+} // namespace
+
+std::string as_json(const ResultSet& objects)
+{
+    Json array = Json::array();
+    for (const Instance& object : objects) {
+        Json row = Json::object();
+        for (const auto& [name, value] : object.properties())
+            row[name] = value_of(value);
+        array.push_back(std::move(row));
+    }
+    return array.dump(2, ' ', false, Json::error_handler_t::replace);
+}
+
+} // namespace ostrelum

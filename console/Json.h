@@ -1,0 +1,13 @@
+#pragma once
+
+#include "sources/ManagementService.h"
+
+#include <string>
+
+namespace ostrelum {
+
+/// The objects as a JSON array in UTF-8: null, booleans and numbers as such, all other values as
+/// strings; keys in the objects' own order.
+std::string as_json(const ResultSet& objects);
+
+} // namespace ostrelum

@@ -1,0 +1,68 @@
+#include "console/Machine.h"
+
+#include "frame/Life.h"
+#include "frame/MainForm.h"
+#include "frame/Navigation.h"
+#include "frame/Platform.h"
+#include "frame/SettingRows.h"
+#include "frame/Shared.h"
+#include "platform/linux/LinuxManagementService.h"
+
+namespace ostrelum {
+namespace {
+
+Environment environment_of(const Options& options)
+{
+    Environment environment = process_environment();
+    if (options.user)
+        environment["UserName"] = *options.user;
+    return environment;
+}
+
+std::string with_lf(const std::string& text)
+{
+    std::string out;
+    for (const char c : text) {
+        if (c != '\r')
+            out += c;
+    }
+    return out;
+}
+
+} // namespace
+
+ConsoleMachine::ConsoleMachine(const Options& options)
+    : system_(options.sysroot, environment_of(options))
+{
+    // Bound here once, so that a folder that is not there is told instead of passed over.
+    auto service = make_linux_management_service(options.sysroot, SessionFactsSource());
+    store_.values[full_name(LanguageName)] = options.language;
+    platform = {
+        .toolkit = &toolkit_,
+        .registry = &system_.registry,
+        .clipboard = &clipboard_,
+        .save_dialog = &save_dialog_,
+        .file_writer = &system_.file_writer,
+        .browser = &browser_,
+        .clock = &system_.clock,
+        .regional = &system_.regional,
+        .machine = &system_.machine,
+        .GetObject = [&](const std::string&) { return std::move(service); },
+        .CreateObject = [&](const std::string&) { return std::make_unique<MemoryShell>(store_); }};
+    load_program();
+}
+
+ConsoleMachine::~ConsoleMachine()
+{
+    reset_shared_state();
+    platform = {};
+}
+
+std::string ConsoleMachine::page(int section)
+{
+    LMenu_MouseDown(section, LeftButton, 0, 0, 0);
+    F1.raise("CopyAll", {.kind = EventKind::Click});
+    return with_lf(clipboard_.text.value_or(""));
+}
+
+} // namespace ostrelum

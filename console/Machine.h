@@ -1,0 +1,36 @@
+#pragma once
+
+#include "console/Options.h"
+#include "platform/linux/LinuxSystem.h"
+#include "platform/memory/MemorySystem.h"
+#include "platform/memory/MemoryToolkit.h"
+#include "sources/ManagementService.h"
+
+#include <memory>
+#include <string>
+
+namespace ostrelum {
+
+/// The program on a terminal: the collectors run as in the window, on the memory toolkit, and
+/// answer from the machine that the options name. One can be at a time.
+class ConsoleMachine {
+public:
+    /// Starts the program on the machine. Throws Failure if the machine's folder is not there.
+    explicit ConsoleMachine(const Options& options);
+    ConsoleMachine(const ConsoleMachine&) = delete;
+    ConsoleMachine& operator=(const ConsoleMachine&) = delete;
+    ~ConsoleMachine();
+
+    /// What Copy all takes from a section's page, 1 to 13, with LF line ends.
+    std::string page(int section);
+
+private:
+    MemoryToolkit toolkit_;
+    MemoryClipboard clipboard_;
+    MemorySaveDialog save_dialog_;
+    MemoryBrowser browser_;
+    MemoryStore store_;
+    LinuxSystem system_;
+};
+
+} // namespace ostrelum

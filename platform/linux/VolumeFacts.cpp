@@ -1,0 +1,147 @@
+#include "platform/linux/VolumeFacts.h"
+
+#include "platform/linux/BlockDevices.h"
+#include "platform/linux/UdevDatabase.h"
+
+#include <cctype>
+#include <chrono>
+#include <future>
+#include <mutex>
+#include <set>
+#include <thread>
+
+namespace ostrelum {
+namespace {
+
+constexpr std::chrono::seconds LongestWait{2};
+
+/// Paths whose answer is outstanding. Lives as long as the process: a worker may outlive all else.
+struct Outstanding {
+    std::mutex mutex;
+    std::set<std::string> paths;
+
+    bool begin(const std::string& path)
+    {
+        const std::lock_guard lock(mutex);
+        return paths.insert(path).second;
+    }
+    void end(const std::string& path)
+    {
+        const std::lock_guard lock(mutex);
+        paths.erase(path);
+    }
+};
+
+Outstanding& outstanding()
+{
+    static auto* const lasting = new Outstanding;
+    return *lasting;
+}
+
+bool is_hex(std::string_view text)
+{
+    return std::ranges::all_of(
+        text, [](char c) { return std::isxdigit(static_cast<unsigned char>(c)) != 0; });
+}
+
+std::string upper(std::string_view hex)
+{
+    std::string text(hex);
+    for (char& c : text)
+        c = c >= 'a' && c <= 'f' ? static_cast<char>(c - 'a' + 'A') : c;
+    return text;
+}
+
+} // namespace
+
+std::optional<VolumeSpace> space_in_time(const MachineView& machine, const std::string& path)
+{
+    if (!machine.root.is_live())
+        return machine.facts->space(path);
+    if (!outstanding().begin(path))
+        return std::nullopt;
+    std::promise<std::optional<VolumeSpace>> promise;
+    auto answer = promise.get_future();
+    std::thread([path, promise = std::move(promise)]() mutable {
+        auto space = live_facts()->space(path);
+        // Before the answer is given: who has it may ask again at once.
+        outstanding().end(path);
+        promise.set_value(space);
+    }).detach();
+    if (answer.wait_for(LongestWait) != std::future_status::ready)
+        return std::nullopt;
+    return answer.get();
+}
+
+std::optional<std::string> serial_of_identity(std::string_view identity)
+{
+    constexpr std::size_t Digits = 8;
+    std::string digits;
+    if (identity.size() == 9 && identity[4] == '-')
+        digits = std::string(identity.substr(0, 4)) + std::string(identity.substr(5));
+    else if (identity.size() == 16 && is_hex(identity))
+        digits = identity.substr(identity.size() - Digits);
+    else if (identity.size() == 36 && identity[8] == '-')
+        digits = identity.substr(0, Digits);
+    if (digits.empty() || !is_hex(digits))
+        return std::nullopt;
+    return upper(digits);
+}
+
+FileSystemFacts::FileSystemFacts(const Sysroot& root, std::string device)
+    : root_(root), device_(std::move(device))
+{
+}
+
+std::optional<std::string> FileSystemFacts::udev(std::string_view key) const
+{
+    const auto number = device_number(root_, device_);
+    return number ? UdevRecord(root_, "b" + *number).text(key) : std::nullopt;
+}
+
+std::optional<std::string> FileSystemFacts::link_name(const std::string& folder) const
+{
+    if (device_.empty())
+        return std::nullopt;
+    for (const std::string& name : root_.list(folder)) {
+        const std::string target = root_.link(folder + "/" + name).value_or("");
+        if (target.substr(target.rfind('/') + 1) == device_)
+            return udev_decoded(name);
+    }
+    return std::nullopt;
+}
+
+std::optional<std::string> FileSystemFacts::label() const
+{
+    const auto label = udev("ID_FS_LABEL_ENC");
+    return label ? label : link_name("/dev/disk/by-label");
+}
+
+std::optional<std::string> FileSystemFacts::serial() const
+{
+    auto identity = udev("ID_FS_UUID");
+    if (!identity)
+        identity = link_name("/dev/disk/by-uuid");
+    return identity ? serial_of_identity(*identity) : std::nullopt;
+}
+
+std::optional<std::string> FileSystemFacts::type(std::string_view mounted_as) const
+{
+    std::string type(mounted_as);
+    // Drivers in user space bear one type for all file systems.
+    if (type.empty() || type == "fuseblk")
+        type = udev("ID_FS_TYPE").value_or(type);
+    if (type == "vfat" || type == "msdos")
+        return udev("ID_FS_VERSION").value_or("FAT32");
+    if (type == "ntfs" || type == "ntfs3" || type == "fuseblk")
+        return "NTFS";
+    if (type == "exfat")
+        return "exFAT";
+    if (type == "iso9660")
+        return "CDFS";
+    if (type == "udf")
+        return "UDF";
+    return type.empty() ? std::nullopt : std::optional(type);
+}
+
+} // namespace ostrelum
