@@ -1,10 +1,12 @@
 #pragma once
 
+#include "platform/system/Failure.h"
 #include "sources/Ascii.h"
 #include "sources/SchemaTables.h"
 
 #include <algorithm>
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace ostrelum {
@@ -50,10 +52,11 @@ constexpr const Row* find_named(std::span<const Row> rows, std::string_view name
     return row == rows.end() ? nullptr : &*row;
 }
 
-/// The class of that name, known at compile time: a misspelt one does not compile.
-consteval const ClassSchema& schema_of(std::string_view name)
+/// The class of that name. Throws Failure if there is none; in a constant that does not compile.
+constexpr const ClassSchema& schema_of(std::string_view name)
 {
-    return *find_named(class_schemas(), name);
+    const ClassSchema* found = find_named(class_schemas(), name);
+    return found ? *found : throw Failure("no such class: " + std::string(name));
 }
 
 /// The type as the schema's own language writes it, such as "uint32".

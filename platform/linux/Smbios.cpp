@@ -13,8 +13,9 @@ constexpr std::uint8_t end_of_table = 127;
 std::size_t strings_length(Bytes rest)
 {
     constexpr std::uint8_t end[] = {0, 0};
-    const auto found = std::ranges::search(rest, end);
-    return static_cast<std::size_t>(found.end() - rest.begin());
+    const auto found = std::search(rest.begin(), rest.end(), std::begin(end), std::end(end));
+    const auto length = static_cast<std::size_t>(found - rest.begin());
+    return std::min(length + std::size(end), rest.size());
 }
 
 } // namespace
