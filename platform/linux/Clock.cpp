@@ -1,6 +1,6 @@
 #include "platform/linux/Clock.h"
 
-#include "platform/linux/WholeFile.h"
+#include "platform/linux/Sysroot.h"
 #include "platform/system/Failure.h"
 
 #include <charconv>
@@ -23,7 +23,7 @@ std::tm local_now()
 std::uint64_t recorded_ms(const std::string& root)
 {
     try {
-        return uptime_ms(read_whole_file(root + "/proc/uptime", 4096).value_or("")).value_or(0);
+        return uptime_ms(Sysroot(root).read("/proc/uptime").value_or("")).value_or(0);
     } catch (const Failure&) {
         return 0;
     }

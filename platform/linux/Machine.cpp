@@ -1,16 +1,17 @@
 #include "platform/linux/Machine.h"
 
-#include "platform/linux/FolderEntries.h"
 #include "platform/linux/MouseButtons.h"
+#include "platform/linux/Sysroot.h"
 #include "platform/linux/UserFolders.h"
 #include "platform/linux/Utf8.h"
-#include "platform/linux/WholeFile.h"
 #include "platform/system/Failure.h"
 #include "sources/Ascii.h"
 
 #include <algorithm>
 #include <charconv>
 #include <cstdlib>
+#include <filesystem>
+#include <optional>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <vector>
@@ -19,39 +20,37 @@ namespace ostrelum {
 
 namespace {
 
-namespace fs = std::filesystem;
-
 constexpr int ATTR_DIRECTORY = 16;
 
-/// A file of the kernel; empty if it cannot be read.
-std::string fact(const fs::path& path)
+/// The files of a machine; nothing if its folder is not there.
+std::optional<Sysroot> files_of(const std::string& root)
 {
     try {
-        return read_whole_file(path.native(), 4096).value_or("");
+        return Sysroot(root);
     } catch (const Failure&) {
-        return "";
+        return std::nullopt;
     }
 }
 
 /// Programs that remap keys make devices of their own, with every button there is.
-bool made_by_program(const fs::path& device)
+bool made_by_program(const Sysroot& root, const std::string& device)
 {
-    std::error_code error;
-    const std::string target = fs::read_symlink(device, error).native();
+    const std::string target = root.link(device).value_or("");
     return target.find("/virtual/input/") != std::string::npos;
 }
 
-std::vector<InputDevice> input_devices(const std::string& root)
+std::vector<InputDevice> input_devices(const Sysroot& root)
 {
+    const std::string folder = "/sys/class/input";
     std::vector<InputDevice> devices;
-    int budget = 1024;
-    any_entry(root + "/sys/class/input", budget, [&](const fs::directory_entry& entry) {
-        const fs::path& path = entry.path();
-        if (path.filename().native().starts_with("input") && !made_by_program(path))
-            devices.push_back({fact(path / "capabilities/key"), fact(path / "capabilities/rel"),
-                               fact(path / "capabilities/abs"), fact(path / "properties")});
-        return false;
-    });
+    for (const std::string& name : root.list(folder)) {
+        const std::string device = folder + "/" + name + "/";
+        if (!name.starts_with("input") || made_by_program(root, folder + "/" + name))
+            continue;
+        const auto fact = [&](const char* file) { return root.read(device + file).value_or(""); };
+        devices.push_back({fact("capabilities/key"), fact("capabilities/rel"),
+                           fact("capabilities/abs"), fact("properties")});
+    }
     return devices;
 }
 
@@ -94,7 +93,9 @@ LinuxMachine::LinuxMachine(std::string root, Environment environment)
 
 SystemInfo LinuxMachine::GetOstrelum()
 {
-    std::uint32_t count = count_in_list(fact(root_ + "/sys/devices/system/cpu/online"));
+    const auto files = files_of(root_);
+    const auto online = files ? files->read("/sys/devices/system/cpu/online") : std::nullopt;
+    std::uint32_t count = count_in_list(online.value_or(""));
     // A sandbox may hide the list; the processors of this machine are then asked for directly.
     if (count == 0 && root_ == "/")
         count = static_cast<std::uint32_t>(std::max(::sysconf(_SC_NPROCESSORS_ONLN), 1L));
@@ -103,7 +104,8 @@ SystemInfo LinuxMachine::GetOstrelum()
 
 int LinuxMachine::GetSystemMetrics(int index)
 {
-    return index == SM_CMOUSEBUTTONS ? mouse_buttons(input_devices(root_)) : 0;
+    const auto files = files_of(root_);
+    return files && index == SM_CMOUSEBUTTONS ? mouse_buttons(input_devices(*files)) : 0;
 }
 
 std::string LinuxMachine::Environ(const std::string& name)
@@ -124,7 +126,7 @@ int LinuxMachine::GetAttr(const std::string& path)
 {
     std::string slashes = path;
     std::replace(slashes.begin(), slashes.end(), '\\', '/');
-    const fs::path wanted = slashes;
+    const std::filesystem::path wanted = slashes;
     const auto found = file_in_folder(wanted.parent_path().native(), wanted.filename().native());
     struct stat status = {};
     if (!found || ::stat(found->c_str(), &status) != 0)
