@@ -73,14 +73,14 @@ std::optional<VolumeSpace> space_in_time(const MachineView& machine, const std::
     return answer.get();
 }
 
-std::optional<std::string> serial_of_identity(std::string_view identity)
+std::optional<std::string> serial_of_identity(std::string_view identity, std::string_view type)
 {
     constexpr std::size_t Digits = 8;
     std::string digits;
     if (identity.size() == 9 && identity[4] == '-')
         digits = std::string(identity.substr(0, 4)) + std::string(identity.substr(5));
     else if (identity.size() == 16 && is_hex(identity))
-        digits = identity.substr(identity.size() - Digits);
+        digits = identity.substr(type == "NTFS" ? identity.size() - Digits : 0, Digits);
     else if (identity.size() == 36 && identity[8] == '-')
         digits = identity.substr(0, Digits);
     if (digits.empty() || !is_hex(digits))
@@ -117,12 +117,14 @@ std::optional<std::string> FileSystemFacts::label() const
     return label ? label : link_name("/dev/disk/by-label");
 }
 
-std::optional<std::string> FileSystemFacts::serial() const
+std::optional<std::string> FileSystemFacts::serial(std::string_view mounted_as) const
 {
     auto identity = udev("ID_FS_UUID");
     if (!identity)
         identity = link_name("/dev/disk/by-uuid");
-    return identity ? serial_of_identity(*identity) : std::nullopt;
+    if (!identity)
+        return std::nullopt;
+    return serial_of_identity(*identity, type(mounted_as).value_or(""));
 }
 
 std::optional<std::string> FileSystemFacts::type(std::string_view mounted_as) const

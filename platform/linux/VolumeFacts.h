@@ -21,7 +21,7 @@ public:
 
     std::optional<std::string> label() const;
     /// The serial number: eight upper-case hexadecimal digits of the file system's identity.
-    std::optional<std::string> serial() const;
+    std::optional<std::string> serial(std::string_view mounted_as) const;
     /// The name under which users know a file system type; `mounted_as` is the kernel's, empty for
     /// a volume that is not mounted.
     std::optional<std::string> type(std::string_view mounted_as) const;
@@ -34,8 +34,8 @@ private:
     std::string device_;
 };
 
-/// Eight digits of an identity: those of FAT, the last of NTFS, the first of a UUID. Nothing for
-/// any other form.
-std::optional<std::string> serial_of_identity(std::string_view identity);
+/// Eight digits of an identity: those of FAT, the last of NTFS, the first of UDF and of a UUID.
+/// Nothing for any other form. `type` is as FileSystemFacts gives it: NTFS and UDF have one form.
+std::optional<std::string> serial_of_identity(std::string_view identity, std::string_view type);
 
 } // namespace ostrelum

@@ -81,7 +81,7 @@ Value file_system(const Disk& disk)
 
 Value serial(const Disk& disk)
 {
-    return value_of(disk.facts().serial());
+    return value_of(disk.facts().serial(disk.volume.mount.type));
 }
 
 /// 64-bit numbers are text; nothing for a product beyond 64 bits.
