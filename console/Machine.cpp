@@ -7,6 +7,7 @@
 #include "frame/SettingRows.h"
 #include "frame/Shared.h"
 #include "platform/linux/LinuxManagementService.h"
+#include "report/Report.h"
 
 namespace ostrelum {
 namespace {
@@ -19,17 +20,13 @@ Environment environment_of(const Options& options)
     return environment;
 }
 
-std::string with_lf(const std::string& text)
-{
-    std::string out;
-    for (const char c : text) {
-        if (c != '\r')
-            out += c;
-    }
-    return out;
-}
-
 } // namespace
+
+std::string with_lf(std::string text)
+{
+    std::erase(text, '\r');
+    return text;
+}
 
 ConsoleMachine::ConsoleMachine(const Options& options)
     : system_(options.sysroot, environment_of(options))
@@ -63,6 +60,21 @@ std::string ConsoleMachine::page(int section)
     LMenu_MouseDown(section, LeftButton, 0, 0, 0);
     F1.raise("CopyAll", {.kind = EventKind::Click});
     return with_lf(clipboard_.text.value_or(""));
+}
+
+const std::string& ConsoleMachine::report(std::string_view format)
+{
+    make_report();
+    for (const ReportDocument& document : made_documents()) {
+        if (document.format == format)
+            return *document.text;
+    }
+    throw Failure("no such format: " + std::string(format));
+}
+
+void ConsoleMachine::save(const std::string& path, const std::string& document)
+{
+    platform.file_writer->replace(path, ansi_file(document));
 }
 
 } // namespace ostrelum

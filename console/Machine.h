@@ -8,8 +8,12 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace ostrelum {
+
+/// A text with the line ends of a terminal.
+std::string with_lf(std::string text);
 
 /// The program on a terminal: the collectors run as in the window, on the memory toolkit, and
 /// answer from the machine that the options name. One can be at a time.
@@ -23,6 +27,14 @@ public:
 
     /// What Copy all takes from a section's page, 1 to 13, with LF line ends.
     std::string page(int section);
+
+    /// Makes the report; a document of it by its format as report/Report.h names them, UTF-8 with
+    /// CRLF line ends.
+    const std::string& report(std::string_view format);
+
+    /// Writes a file as saving does. Throws Failure if it cannot be written; an earlier file is
+    /// then as it was.
+    void save(const std::string& path, const std::string& document);
 
 private:
     MemoryToolkit toolkit_;

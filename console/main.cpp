@@ -2,8 +2,10 @@
 #include "console/Machine.h"
 #include "console/Options.h"
 #include "platform/linux/LinuxManagementService.h"
+#include "report/Report.h"
 #include "sources/Schema.h"
 
+#include <algorithm>
 #include <charconv>
 #include <iostream>
 
@@ -48,6 +50,28 @@ int run_page(const Options& options, const Arguments& arguments)
     return Done;
 }
 
+bool is_format(const std::string& word)
+{
+    const auto documents = made_documents();
+    return std::ranges::any_of(
+        documents, [&](const ReportDocument& document) { return word == document.format; });
+}
+
+int run_report(const Options& options, const Arguments& arguments)
+{
+    const bool to_file =
+        arguments.size() == 3 && arguments[1] == "--output" && !arguments[2].empty();
+    if ((arguments.size() != 1 && !to_file) || !is_format(arguments[0]))
+        return WrongUsage;
+    ConsoleMachine machine(options);
+    const std::string& document = machine.report(arguments[0]);
+    if (to_file)
+        machine.save(arguments[2], document);
+    else
+        std::cout << with_lf(document);
+    return Done;
+}
+
 int run_classes(const Options&, const Arguments& arguments)
 {
     if (!arguments.empty())
@@ -65,7 +89,8 @@ struct Command {
     int (*run)(const Options&, const Arguments&);
 };
 
-constexpr Command commands[] = {{"query", run_query}, {"page", run_page}, {"classes", run_classes}};
+constexpr Command commands[] = {
+    {"query", run_query}, {"page", run_page}, {"report", run_report}, {"classes", run_classes}};
 
 int run(const Options& options)
 {
