@@ -7,6 +7,7 @@
 #include "frame/SettingRows.h"
 #include "frame/Shared.h"
 #include "platform/linux/LinuxManagementService.h"
+#include "platform/linux/MachineShell.h"
 #include "report/Report.h"
 
 namespace ostrelum {
@@ -34,18 +35,21 @@ ConsoleMachine::ConsoleMachine(const Options& options)
     // Bound here once, so that a folder that is not there is told instead of passed over.
     auto service = make_linux_management_service(options.sysroot, SessionFactsSource());
     store_.values[full_name(LanguageName)] = options.language;
-    platform = {
-        .toolkit = &toolkit_,
-        .registry = &system_.registry,
-        .clipboard = &clipboard_,
-        .save_dialog = &save_dialog_,
-        .file_writer = &system_.file_writer,
-        .browser = &browser_,
-        .clock = &system_.clock,
-        .regional = &system_.regional,
-        .machine = &system_.machine,
-        .GetObject = [&](const std::string&) { return std::move(service); },
-        .CreateObject = [&](const std::string&) { return std::make_unique<MemoryShell>(store_); }};
+    platform = {.toolkit = &toolkit_,
+                .registry = &system_.registry,
+                .clipboard = &clipboard_,
+                .save_dialog = &save_dialog_,
+                .file_writer = &system_.file_writer,
+                .browser = &browser_,
+                .clock = &system_.clock,
+                .regional = &system_.regional,
+                .machine = &system_.machine,
+                .GetObject = [&](const std::string&) { return std::move(service); },
+                .CreateObject =
+                    [this, root = options.sysroot](const std::string&) {
+                        return std::make_unique<MachineShell>(
+                            root, std::make_unique<MemoryShell>(store_));
+                    }};
     load_program();
 }
 

@@ -3,6 +3,7 @@
 #include "frame/Platform.h"
 #include "platform/linux/LinuxManagementService.h"
 #include "platform/linux/LinuxSystem.h"
+#include "platform/linux/MachineShell.h"
 #include "platform/qt/QtBackEnd.h"
 
 using namespace ostrelum;
@@ -49,7 +50,9 @@ int main(int argc, char** argv)
                         return make_linux_management_service("/", qt_session_facts());
                     },
                 .CreateObject =
-                    [&](const std::string& class_name) { return system.CreateObject(class_name); }};
+                    [&](const std::string& class_name) {
+                        return std::make_unique<MachineShell>("/", system.CreateObject(class_name));
+                    }};
     start_program();
     return toolkit->run();
 }
