@@ -13,9 +13,9 @@
 namespace ostrelum {
 namespace {
 
-Qt::WindowFlags frame_of(const Form& form)
+Qt::WindowFlags frame_of(const Form& form, Qt::WindowType kind)
 {
-    Qt::WindowFlags flags = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+    Qt::WindowFlags flags = kind | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                             Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
     if (form.MinButton)
         flags |= Qt::WindowMinimizeButtonHint;
@@ -24,8 +24,9 @@ Qt::WindowFlags frame_of(const Form& form)
 
 } // namespace
 
-FormWindow::FormWindow(const Surroundings& around, std::function<void()> asked_to_close)
-    : QWidget(nullptr, frame_of(around.form)), around_(around),
+FormWindow::FormWindow(const Surroundings& around, Qt::WindowType kind,
+                       std::function<void()> asked_to_close)
+    : QWidget(nullptr, frame_of(around.form, kind)), around_(around),
       asked_to_close_(std::move(asked_to_close)), keyboard_(*this, carriers_, around_)
 {
     // The window itself has the focus until the user moves it, so that no control starts marked.

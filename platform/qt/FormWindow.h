@@ -7,8 +7,10 @@ namespace ostrelum {
 /// The window of a form, with a widget for each of its controls.
 class FormWindow : public QWidget {
 public:
-    /// `asked_to_close` runs when the user closes the window by its frame.
-    FormWindow(const Surroundings& around, std::function<void()> asked_to_close);
+    /// `kind` is a window of its own or a dialog, which a desktop keeps over the window it came
+    /// from. `asked_to_close` runs when the user closes the window by its frame.
+    FormWindow(const Surroundings& around, Qt::WindowType kind,
+               std::function<void()> asked_to_close);
 
     const Form& form() const { return around_.form; }
     /// Carries over what differs.

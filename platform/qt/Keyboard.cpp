@@ -1,19 +1,8 @@
 #include "platform/qt/Keyboard.h"
 
 #include <QAbstractButton>
-#include <QComboBox>
 
 namespace ostrelum {
-namespace {
-
-bool shows_its_own_focus(const QWidget& widget)
-{
-    return widget.isWindow() || qobject_cast<const QAbstractButton*>(&widget) ||
-           qobject_cast<const QComboBox*>(&widget);
-}
-
-} // namespace
-
 Keyboard::Keyboard(QWidget& window, const Carriers& carriers, const Surroundings& around)
     : window_(window), carriers_(carriers), around_(around), frame_(window)
 {
@@ -49,7 +38,7 @@ void Keyboard::set_in_use(bool in_use)
 void Keyboard::show_focus()
 {
     const QWidget* focus = window_.focusWidget();
-    frame_.follow(in_use_ && focus && !shows_its_own_focus(*focus) ? focus : nullptr);
+    frame_.follow(in_use_ && focus != &window_ ? focus : nullptr);
 }
 
 bool Keyboard::key(const QKeyEvent& key)

@@ -69,12 +69,12 @@ FormWindow* QtToolkit::window_of(const Form& form) const
     return found == windows_.end() ? nullptr : found->second;
 }
 
-FormWindow& QtToolkit::make_window(Form& form)
+FormWindow& QtToolkit::make_window(Form& form, Qt::WindowType kind)
 {
     if (FormWindow* window = window_of(form))
         return *window;
     const Surroundings around{form, *this, gate_, pointers_};
-    auto* window = new FormWindow(around, [this, &form] { user_closes(form); });
+    auto* window = new FormWindow(around, kind, [this, &form] { user_closes(form); });
     windows_[&form] = window;
     // The native window is there before it shows, so that it comes up with its opacity.
     window->winId();
@@ -90,7 +90,7 @@ void QtToolkit::user_closes(Form& form)
 
 void QtToolkit::Show(Form& form)
 {
-    FormWindow& window = make_window(form);
+    FormWindow& window = make_window(form, Qt::Window);
     gate_.carry_over();
     window.bring_up();
 }
@@ -98,7 +98,7 @@ void QtToolkit::Show(Form& form)
 void QtToolkit::ShowModal(Form& form)
 {
     const QWidget* below = QApplication::activeWindow();
-    FormWindow& window = make_window(form);
+    FormWindow& window = make_window(form, Qt::Dialog);
     window.setWindowModality(Qt::ApplicationModal);
     if (below && below != &window)
         window.windowHandle()->setTransientParent(below->windowHandle());
@@ -193,6 +193,9 @@ void QtToolkit::apply_opacity(const Form& form)
     if (!window || layer == layers_.end() || !has_opacity())
         return;
     window->setWindowOpacity(layer->second.layered() ? layer->second.alpha / 255.0 : 1.0);
+    // On X11 the new opacity stays in the connection's buffer until something is painted: without
+    // this, a fade that nothing else accompanies stands still after its first step.
+    window->update(0, 0, 1, 1);
 }
 
 int QtToolkit::run()

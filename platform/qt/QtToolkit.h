@@ -40,7 +40,7 @@ private:
         bool layered() const;
     };
 
-    FormWindow& make_window(Form& form);
+    FormWindow& make_window(Form& form, Qt::WindowType kind);
     void user_closes(Form& form);
     void apply_opacity(const Form& form);
 
