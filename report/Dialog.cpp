@@ -1,13 +1,13 @@
 #include "frame/MainForm.h"
 #include "frame/Opacity.h"
+#include "frame/PassOver.h"
 #include "frame/PictureForm.h"
 #include "frame/Platform.h"
-#include "frame/Shared.h"
 #include "report/Informe.h"
 #include "report/Report.h"
 #include "report/ReportEvents.h"
 #include "report/ReportForm.h"
-#include "skin/Skin.h"
+#include "skin/BlendPicture.h"
 
 /// The life of the report dialog: fade in, run the chain, offer the documents, fade out.
 namespace ostrelum {
@@ -65,12 +65,20 @@ void Form_Load()
     F2.MayClose = false;
 }
 
+void collect()
+{
+    ReportStart = platform.clock->timeGetTime();
+    attempt(InfStart);
+}
+
+/// What the user pressed while the window did not react meets buttons that are still disabled, so
+/// that an impatient Escape does not close a dialog that has just become ready.
 void StartReport()
 {
     if (!TransEnabled)
         F2.Descargador.Enabled = false;
-    ReportStart = platform.clock->timeGetTime();
-    InfStart();
+    collect();
+    platform.toolkit->DoEvents();
     F2.BSave.Enabled = F2.BClose.Enabled = true;
     F2.BlendLevel = 0;
     F2.TAlphaB.Enabled = true;
@@ -163,8 +171,7 @@ std::vector<HandlerTable> report_form_handlers()
 void make_report()
 {
     load_report_form();
-    F2.raise("Form", {.kind = EventKind::Load});
-    StartReport();
+    collect();
 }
 
 std::array<ReportDocument, 4> made_documents()

@@ -1,7 +1,7 @@
 #include "frame/MainForm.h"
 #include "frame/PictureForm.h"
 #include "frame/Shared.h"
-#include "skin/Pixels.h"
+#include "skin/BlendPicture.h"
 #include "skin/Skin.h"
 
 namespace ostrelum {
@@ -68,26 +68,9 @@ void TAlphaB_Timer()
 
 constexpr Handler rows[] = {OSTRELUM_ON(TAlphaB_Timer)};
 
-/// The white page, for a box that stores no picture yet.
-Bitmap white_bitmap(int width, int height)
-{
-    Bitmap bitmap(width, height);
-    std::fill(bitmap.bytes.begin(), bitmap.bytes.end(), std::uint8_t{255});
-    return bitmap;
-}
-
 } // namespace
 
 const HandlerTable cross_fade_handlers{rows};
-
-void BlendPicture(PictureBox& dest, const PictureBox& source, std::uint8_t alpha)
-{
-    dest.Cls();
-    Bitmap pixels =
-        dest.Stored.empty() ? white_bitmap(dest.Width, dest.Height) : dest.Stored.bitmap();
-    blend_pixels(pixels, source.Stored.bitmap(), alpha);
-    dest.Surface = source.Stored.redrawn(std::move(pixels));
-}
 
 void start_cross_fade()
 {

@@ -20,10 +20,6 @@ void Tint(PictureBox& pic);
 /// Tints the five skin pictures of the main window.
 void tint_skin();
 
-/// Draws the picture that `source` stores over the one that `dest` stores, with an opacity of alpha
-/// / 255.
-void BlendPicture(PictureBox& dest, const PictureBox& source, std::uint8_t alpha);
-
 /// Starts the cross-fade of the page picture to the one of the page on show.
 void start_cross_fade();
 
