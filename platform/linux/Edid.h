@@ -1,0 +1,54 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// What a monitor tells of itself (VESA Enhanced EDID Standard, release A, revision 2, with the
+/// extension block of CTA-861).
+namespace ostrelum {
+
+/// A mode that the monitor describes in full.
+struct EdidTiming {
+    /// Pixels.
+    int width = 0;
+    int height = 0;
+    /// Thousandths of a hertz; of an interlaced mode, half pictures.
+    int refresh_mHz = 0;
+    bool operator==(const EdidTiming&) const = default;
+};
+
+/// Refresh rates in hertz.
+struct RefreshLimits {
+    int lowest = 0;
+    int highest = 0;
+    bool operator==(const RefreshLimits&) const = default;
+};
+
+struct Edid {
+    /// Three letters that UEFI's PNP registry gives to makers, such as "SAM"; empty if they are
+    /// none.
+    std::string maker;
+    /// The maker's number for the model.
+    std::uint16_t product = 0;
+    /// Name of the product; empty for none.
+    std::string name;
+    /// Free text, in which makers of built-in panels write the part number: the last of several.
+    /// Empty for none.
+    std::string free_text;
+    /// Vertical rates that the monitor says it follows.
+    std::optional<RefreshLimits> limits;
+    /// Vertical rates between those of all modes that it lists.
+    std::optional<RefreshLimits> rates_of_modes;
+    /// The preferred mode comes first.
+    std::vector<EdidTiming> detailed;
+};
+
+/// Reads blocks of 128 bytes. Nothing for other data and for a first block whose check sum is
+/// wrong; an extension with a wrong one, or that ends early, is passed over. The texts
+/// are ASCII without blanks round them.
+std::optional<Edid> read_edid(std::string_view bytes);
+
+} // namespace ostrelum

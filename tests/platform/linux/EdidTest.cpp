@@ -1,0 +1,168 @@
+#include "platform/linux/Edid.h"
+
+#include <gtest/gtest.h>
+#include <numeric>
+
+namespace ostrelum {
+namespace {
+
+/// Makes the sum of the last block right.
+std::string summed(std::string block)
+{
+    const unsigned sum =
+        std::accumulate(block.end() - 128, block.end() - 1, 0U,
+                        [](unsigned a, char b) { return a + static_cast<unsigned char>(b); });
+    block.back() = static_cast<char>(256 - sum % 256);
+    return block;
+}
+
+/// A monitor XYZ 1234h without any mode: descriptors are set in by `with`.
+std::string monitor(std::string descriptors = "", int extensions = 0)
+{
+    std::string block(128, '\0');
+    block.replace(1, 6, 6, '\xFF');
+    block[8] = 0x63; // X = 24, Y = 25, Z = 26
+    block[9] = 0x3A;
+    block[10] = 0x34;
+    block[11] = 0x12;
+    block.replace(38, 16, 16, '\x01');
+    block.replace(54, descriptors.size(), descriptors);
+    block[126] = static_cast<char>(extensions);
+    return summed(block);
+}
+
+std::string descriptor(unsigned char kind, std::string content, unsigned char flags = 0)
+{
+    std::string bytes = {0, 0, 0, static_cast<char>(kind), static_cast<char>(flags)};
+    content.resize(13, ' ');
+    return bytes + content;
+}
+
+/// A mode with 100 columns of blanking.
+std::string mode(unsigned clock, unsigned width, unsigned height, unsigned blank_lines,
+                 bool interlaced = false)
+{
+    std::string bytes(18, '\0');
+    const auto put = [&](std::size_t at, unsigned value) { bytes[at] = static_cast<char>(value); };
+    put(0, clock & 255);
+    put(1, clock >> 8);
+    put(2, width & 255);
+    put(3, 100);
+    put(4, (width >> 8) << 4);
+    put(5, height & 255);
+    put(6, blank_lines);
+    put(7, (height >> 8) << 4);
+    put(17, interlaced ? 0x80 : 0);
+    return bytes;
+}
+
+std::string cta_block(unsigned first_mode, const std::string& modes)
+{
+    std::string block(128, '\0');
+    block[0] = 2;
+    block[1] = 3;
+    block[2] = static_cast<char>(first_mode);
+    block.replace(first_mode, modes.size(), modes);
+    return summed(block);
+}
+
+TEST(Edid, TellsMakerNameAndModel)
+{
+    const auto edid =
+        read_edid(monitor(descriptor(0xFE, "First\n") + descriptor(0xFE, "AB\x81Q1 ") +
+                          descriptor(0xFC, "Thirteen char")));
+    ASSERT_TRUE(edid);
+    EXPECT_EQ(edid->maker, "XYZ");
+    EXPECT_EQ(edid->product, 0x1234);
+    EXPECT_EQ(edid->name, "Thirteen char");
+    EXPECT_EQ(edid->free_text, "AB Q1");
+    EXPECT_FALSE(edid->limits);
+    EXPECT_FALSE(edid->rates_of_modes);
+    EXPECT_TRUE(edid->detailed.empty());
+}
+
+TEST(Edid, ReadsRangeLimitsWithTheirOffsets)
+{
+    struct Case {
+        unsigned char flags;
+        std::string bytes;
+        std::optional<RefreshLimits> limits;
+    };
+    for (const Case& each : {
+             Case{0, "\x30\x4B", RefreshLimits{48, 75}},
+             Case{2, "\x30\x19", RefreshLimits{48, 280}},
+             Case{3, "\x01\x2D", RefreshLimits{256, 300}},
+             Case{0, "\x4B\x30", std::nullopt},
+             Case{0, std::string("\0\x4B", 2), std::nullopt},
+         }) {
+        const auto edid = read_edid(monitor(descriptor(0xFD, each.bytes, each.flags)));
+        ASSERT_TRUE(edid);
+        EXPECT_EQ(edid->limits, each.limits) << int{each.flags};
+    }
+}
+
+TEST(Edid, ComputesTheRefreshOfDetailedModes)
+{
+    // 154 MHz over 1900 + 100 columns and 1245 lines; and half pictures of 540 + 22 and a half.
+    const auto edid =
+        read_edid(monitor(mode(15400, 1900, 1200, 45) + mode(7425, 1920, 540, 22, true)));
+    ASSERT_TRUE(edid);
+    const std::vector<EdidTiming> expected = {{1900, 1200, 61847}, {1920, 1080, 65347}};
+    EXPECT_EQ(edid->detailed, expected);
+    EXPECT_EQ(edid->rates_of_modes, (RefreshLimits{62, 65}));
+}
+
+TEST(Edid, TakesAllListsOfModesIntoTheExtremes)
+{
+    std::string standard =
+        monitor(descriptor(0xFA, "\x81\x59\x01\x01\x01\x01\x01\x01\x01\x01\x01\x01\n"));
+    standard[36] = 0x08; // 1024x768 at 60 Hz
+    standard[38] = '\xD1';
+    standard[39] = '\xC0' + 10; // 70 Hz
+    const auto edid = read_edid(summed(standard));
+    ASSERT_TRUE(edid);
+    EXPECT_EQ(edid->rates_of_modes, (RefreshLimits{60, 85}));
+    EXPECT_TRUE(edid->detailed.empty());
+}
+
+TEST(Edid, FollowsExtensionsThatAreWhole)
+{
+    const std::string base = monitor(mode(15400, 1900, 1200, 45), 2);
+    const std::string fast = cta_block(6, mode(30800, 1900, 1200, 45));
+    std::string broken = fast;
+    broken[6] = 1;
+    const auto modes = [](const std::string& bytes) { return read_edid(bytes)->detailed.size(); };
+    EXPECT_EQ(modes(base + fast + fast), 3U);
+    EXPECT_EQ(modes(base + broken + fast), 2U);
+    EXPECT_EQ(modes(base + fast.substr(0, 127)), 1U);
+    EXPECT_EQ(modes(base + cta_block(3, mode(30800, 1900, 1200, 45))), 1U) << "no modes in it";
+    EXPECT_EQ(modes(base + cta_block(109, mode(30800, 1900, 1200, 45))), 2U) << "the last place";
+    // Some drivers give the whole twice: the first block's count holds.
+    EXPECT_EQ(modes(base + fast + fast + fast), 3U);
+}
+
+TEST(Edid, RefusesWhatIsNoMonitorsData)
+{
+    std::string wrong_sum = monitor();
+    wrong_sum[20] = 1;
+    std::string wrong_header = monitor();
+    wrong_header[1] = '\0';
+    for (const std::string& bytes :
+         {std::string(), monitor().substr(0, 127), wrong_sum, summed(wrong_header)})
+        EXPECT_FALSE(read_edid(bytes));
+}
+
+TEST(Edid, LeavesOutWhatIsNoLetterAndNoMode)
+{
+    std::string bytes =
+        monitor(mode(1, 4000, 4000, 45) + mode(65535, 1, 1, 0) + mode(15400, 0, 1200, 45));
+    bytes[8] = 0;
+    const auto edid = read_edid(summed(bytes));
+    ASSERT_TRUE(edid);
+    EXPECT_EQ(edid->maker, "");
+    EXPECT_TRUE(edid->detailed.empty());
+    EXPECT_FALSE(edid->rates_of_modes);
+}
+
+} // namespace
+} // namespace ostrelum
