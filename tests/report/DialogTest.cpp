@@ -87,6 +87,24 @@ TEST_F(ReportDialog, PaintsEachStepBeforeItsQueries)
     EXPECT_EQ(script.asked, queries);
 }
 
+TEST_F(ReportDialog, WhatIsPressedWhileItBuildsMeetsDisabledButtons)
+{
+    class Impatient : public MemoryToolkit {
+    public:
+        void DoEvents() override
+        {
+            EXPECT_FALSE(F2.Tb4.empty() || F2.BClose.Enabled || F2.BSave.Enabled);
+            Unload(*this, F2);
+        }
+    } impatient;
+    TransEnabled = false;
+    open([&] {
+        platform.toolkit = &impatient;
+        tick("Descargador");
+        EXPECT_TRUE(F1.Timer1.Enabled) << "the frame's button closes it as soon as it can";
+    });
+}
+
 TEST_F(ReportDialog, WithoutTransparencyBuildsAtTheFirstTickAndClosesAtOnce)
 {
     TransEnabled = false;
