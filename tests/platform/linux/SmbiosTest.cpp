@@ -1,0 +1,100 @@
+#include "platform/linux/Smbios.h"
+
+#include <gtest/gtest.h>
+#include <string>
+
+namespace ostrelum {
+namespace {
+
+using namespace std::string_literals;
+
+/// A structure: its type, the fields behind the header, and its strings, each with its NUL.
+std::string structure(int type, const std::string& fields, const std::string& strings)
+{
+    const auto length = static_cast<char>(4 + fields.size());
+    return static_cast<char>(type) + (length + "\1\0"s) + fields +
+           (strings.empty() ? "\0"s : strings) + "\0"s;
+}
+
+Bytes bytes_of(const std::string& table)
+{
+    return {reinterpret_cast<const std::uint8_t*>(table.data()), table.size()};
+}
+
+using Text = std::optional<std::string_view>;
+
+const std::string firmware = structure(0, "\1\2\0\xF0\3"s, "Maker\0001.0\00001/02/2003\0"s);
+const std::string board = structure(2, "\1\2"s, "Board Co.\0B-1\0"s);
+const std::string end = structure(127, "", "");
+
+TEST(Smbios, GivesFieldsAndStrings)
+{
+    const std::string table = firmware + structure(1, "", "") + board + end + board;
+    const auto found = smbios_structures(bytes_of(table));
+    ASSERT_EQ(found.size(), 3U);
+    EXPECT_EQ(found[0].type(), 0);
+    EXPECT_EQ(found[0].string(4), "Maker");
+    EXPECT_EQ(found[0].string(8), "01/02/2003");
+    EXPECT_EQ(found[0].byte(7), 0xF0);
+    EXPECT_EQ(found[0].word(6), 0xF000);
+    EXPECT_EQ(found[0].dword(5), 0x03F00002U);
+    EXPECT_EQ(found[1].string(4), Text());
+    EXPECT_EQ(found[2].string(5), "B-1");
+}
+
+TEST(Smbios, HasNoFieldBehindTheStructure)
+{
+    const auto found = smbios_structures(bytes_of(firmware));
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_EQ(found[0].byte(9), std::nullopt);
+    EXPECT_EQ(found[0].word(8), std::nullopt);
+    EXPECT_EQ(found[0].dword(6), std::nullopt);
+    EXPECT_EQ(found[0].string(9), Text());
+    EXPECT_EQ(found[0].dword(static_cast<std::size_t>(-1)), std::nullopt);
+}
+
+TEST(Smbios, HasNoStringForAWrongNumber)
+{
+    for (const char number : {'\0', '\3', '\xFF'}) {
+        const std::string table = structure(2, std::string(1, number), "Board\0B-1\0"s) + board;
+        const auto found = smbios_structures(bytes_of(table));
+        ASSERT_EQ(found.size(), 2U);
+        EXPECT_EQ(found[0].string(4), Text());
+    }
+}
+
+TEST(Smbios, StopsAtALengthThatCannotBe)
+{
+    const auto count = [](const std::string& table) {
+        return smbios_structures(bytes_of(table)).size();
+    };
+    for (const char length : {'\0', '\3', '\xFF'})
+        EXPECT_EQ(count(board + "\1"s + length + "\1\0"s + firmware), 1U);
+    // 255 bytes that are all there are a structure.
+    const std::string longest = "\1\xFF\1\0"s + std::string(251, '\1') + "Text\0\0"s;
+    EXPECT_EQ(count(longest + board), 2U);
+    EXPECT_EQ(smbios_structures(bytes_of(longest))[0].string(254), "Text");
+    EXPECT_EQ(count(longest.substr(0, 254)), 0U);
+}
+
+TEST(Smbios, GivesWhatIsWholeOfATableCutAtAnyByte)
+{
+    const std::string table = firmware + board;
+    for (std::size_t size = 0; size < table.size(); ++size) {
+        // Of its own size, so that a sanitizer sees a read behind it.
+        const std::vector<std::uint8_t> cut(table.begin(),
+                                            table.begin() + static_cast<std::ptrdiff_t>(size));
+        const auto found = smbios_structures(cut);
+        const std::size_t begun = size - std::min(size, firmware.size());
+        EXPECT_EQ(found.size(), (size >= 9 ? 1U : 0U) + (begun >= 6 ? 1U : 0U)) << size;
+        if (!found.empty()) {
+            EXPECT_EQ(found[0].string(4), size >= 15 ? Text("Maker") : Text()) << size;
+        }
+        if (found.size() == 2) {
+            EXPECT_EQ(found[1].string(5), begun >= 20 ? Text("B-1") : Text()) << size;
+        }
+    }
+}
+
+} // namespace
+} // namespace ostrelum
