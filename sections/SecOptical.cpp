@@ -115,10 +115,9 @@ void show_discs()
 
 void SecOptical()
 {
-    const bool kept = values_are_kept();
-    if (!kept)
+    if (!values_are_kept())
         collect();
-    if (kept || F1.MediaCount != 0)
+    if (F1.MediaCount != 0)
         show_discs();
     else
         show_no_disc();

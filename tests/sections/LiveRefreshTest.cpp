@@ -123,11 +123,13 @@ TEST_F(LiveRefresh, ProcessesAndVirtualMemory)
     };
     for (const auto& c : cases) {
         leave_open(4);
+        F1.L(9).Left = 0;
         tick_with(System, Instance({{"FreeVirtualMemory", c.free},
                                     {"NumberOfProcesses", c.processes},
                                     {"TotalVirtualMemorySize", c.total}}));
         EXPECT_EQ(shown(9), std::string("old title") + c.count);
         EXPECT_EQ(F1.L(9).ToolTipText, c.count);
+        EXPECT_EQ(F1.L(9).Left, F1.LT(9).Left + F1.LT(9).Width);
         EXPECT_EQ(shown(11), c.memory);
         EXPECT_EQ(F1.L(11).ToolTipText, F1.L(11).Caption);
         EXPECT_EQ(F1.L(11).Left, F1.LT(11).Left + F1.LT(11).Width);

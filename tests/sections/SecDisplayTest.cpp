@@ -108,12 +108,12 @@ TEST_F(SecDisplayPage, TheModeNeedsAllFourFiguresAndPassesOverNulls)
         Card card;
         const char* mode;
     } cases[] = {
+        {{.bits = {}}, "1280 x 1024 pixels, (2) bits, 60 Hz"},
         {{.width = 0}, "Unknown"},
         {{.rate = 0}, "Unknown"},
         {{.width = {}}, "Unknown"},
         {{.height = {}}, "Unknown"},
         {{.rate = {}}, "Unknown"},
-        {{.bits = {}}, "1280 x 1024 pixels, (2) bits, 60 Hz"},
         {{.width = {}, .bits = 0}, "Unknown"},
     };
     for (const auto& c : cases) {

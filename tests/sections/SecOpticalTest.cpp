@@ -1,5 +1,6 @@
 #include "tests/Stage.h"
 #include "tests/sections/PageRows.h"
+#include "tests/sections/Volumes.h"
 
 #include <gmock/gmock.h>
 
@@ -13,19 +14,9 @@ constexpr const char* Volumes = "Select DriveType, Size, VolumeName, Name, Size,
                                 "VolumeSerialNumber from Win32_LogicalDisk where DriveType = 5";
 constexpr const char* Drives = "Select Size, Name, MediaType from Win32_CDROMDrive";
 
-std::string kilobytes(std::int64_t count)
+Instance disc(const Value& size, const Value& name = " Disc ", const char* letter = "D:")
 {
-    return std::to_string(count * 1024);
-}
-
-Instance volume(const Value& size, const Value& name = " Disc ", const char* letter = "D:")
-{
-    return Instance({{"DriveType", 5},
-                     {"FileSystem", "UDF"},
-                     {"Name", letter},
-                     {"Size", size},
-                     {"VolumeName", name},
-                     {"VolumeSerialNumber", "77"}});
+    return volume(size, {}, name, letter, "UDF");
 }
 
 Instance drive(const Value& size, const char* name)
@@ -53,14 +44,14 @@ protected:
 TEST_F(SecOpticalPage, ListsLoadedDrivesAndCountsTheEmptyOnes)
 {
     F1.LNoDrive.Visible = F1.Line2.Visible = true;
-    open({volume(kilobytes(4700000)), volume({}, {}, "E:"), volume(kilobytes(700000), "Two", "F:")},
+    open({disc(kilobytes(4700000)), disc({}, {}, "E:"), disc(kilobytes(700000), "Two", "F:")},
          {drive("4812800000", " Burner "), drive({}, "Empty"), drive(716800000, "Reader")});
     EXPECT_EQ(F1.Titulo.Caption, "CDs/DVDs");
     EXPECT_THAT(shown(1, 12),
                 ElementsAre("Name: Disc - Two", "Drive letter: (D:) - (F:)",
                             "Size: (4.48 GB) - (683.5 MB)", "Internal name: Burner - Reader",
                             "Drive type: DVD Writer - DVD Writer", "File system: UDF - UDF",
-                            "Serial number: 77 - 77", "", "", "", "", ""));
+                            "Serial number: 1A2B - 1A2B", "", "", "", "", ""));
     EXPECT_EQ(F1.MediaCount, 2);
     EXPECT_EQ(F1.EmptyDrives, 1);
     EXPECT_EQ(F1.Laviso.Caption, "2 drives are loaded.\r\n1 drive is empty.");
@@ -75,7 +66,7 @@ TEST_F(SecOpticalPage, ListsLoadedDrivesAndCountsTheEmptyOnes)
 TEST_F(SecOpticalPage, WithoutADiscTheNoticeStandsAloneOnThePage)
 {
     F1.Line1.Visible = true;
-    open({volume({}), volume("0"), volume(-1)}, {drive({}, "Burner")});
+    open({disc({}), disc("0"), disc(-1)}, {drive({}, "Burner")});
     EXPECT_THAT(shown(1, 12), Each(""));
     EXPECT_EQ(rows_with_title_tooltips(), 0b1111000000000);
     EXPECT_EQ(F1.MediaCount, 0);
@@ -110,25 +101,21 @@ TEST_F(SecOpticalPage, TheNoticeStandsByLanguageAndFont)
 
 TEST_F(SecOpticalPage, CountsInWords)
 {
-    const ResultSet all{volume("1024"), volume({}), volume({}), volume("1024")};
-    const auto text = [&](std::initializer_list<int> chosen) {
-        ResultSet volumes;
-        for (const int i : chosen)
-            volumes.push_back(all[static_cast<std::size_t>(i)]);
-        open_anew(volumes);
-        return F1.Laviso.Caption;
-    };
-    EXPECT_EQ(text({0, 1}), "1 drive is loaded.\r\n1 drive is empty.");
-    EXPECT_EQ(text({0, 3}), "2 drives are loaded.\r\nNone CD/DVD drive is empty.");
-    EXPECT_EQ(text({1, 0, 2}), "1 drive is loaded.\r\n2 drives are empties.");
+    const Instance loaded = disc("1024"), empty = disc({});
+    open_anew({loaded, empty});
+    EXPECT_EQ(F1.Laviso.Caption, "1 drive is loaded.\r\n1 drive is empty.");
+    open_anew({loaded, loaded});
+    EXPECT_EQ(F1.Laviso.Caption, "2 drives are loaded.\r\nNone CD/DVD drive is empty.");
+    open_anew({empty, loaded, empty});
+    EXPECT_EQ(F1.Laviso.Caption, "1 drive is loaded.\r\n2 drives are empties.");
 }
 
 TEST_F(SecOpticalPage, AClickOnTheOpenPageDrawsTheKeptValuesWithoutAQuery)
 {
-    open({volume("1024"), volume({})}, {drive("1024", "Burner")});
+    open({disc("1024"), disc({})}, {drive("1024", "Burner")});
     script.asked.clear();
     Datos.fill("used elsewhere");
-    open({volume("1024", "Other")}, {drive("1024", "Other")});
+    open({disc("1024", "Other")}, {drive("1024", "Other")});
     EXPECT_TRUE(script.asked.empty());
     EXPECT_EQ(shown(1), "Name: Disc");
     EXPECT_EQ(shown(4), "Internal name: Burner");
@@ -136,17 +123,17 @@ TEST_F(SecOpticalPage, AClickOnTheOpenPageDrawsTheKeptValuesWithoutAQuery)
     EXPECT_EQ(F1.Laviso.Caption, "1 drive is loaded.\r\n1 drive is empty.");
     EXPECT_EQ(F1.Labelmi.Caption, "Done");
 
-    open_anew({volume("1024", "Other")}, {drive("1024", "Other")});
+    open_anew({disc("1024", "Other")}, {drive("1024", "Other")});
     EXPECT_EQ(shown(1), "Name: Other") << "from another page all is asked anew";
 }
 
 TEST_F(SecOpticalPage, AMissingNameMakesTheNextClickAskAnew)
 {
-    open({volume("1024", {})}, {drive("1024", "Burner")});
+    open({disc("1024", {})}, {drive("1024", "Burner")});
     EXPECT_EQ(shown(1), "Name: kept");
     EXPECT_EQ(F1.L(1).ToolTipText, "kept");
     F1.Line2.Visible = true;
-    open({volume("1024", "Now")}, {drive("1024", "Burner")});
+    open({disc("1024", "Now")}, {drive("1024", "Burner")});
     EXPECT_EQ(shown(1), "Name: Now");
     EXPECT_FALSE(F1.Line2.Visible);
 }
@@ -161,7 +148,7 @@ TEST_F(SecOpticalPage, SizesRoundKilobytesDownAndEndAtEightDigits)
         {"102400000000", "kept"}, {"2199023255552", "(0 KB)"},
     };
     for (const auto& c : cases) {
-        open_anew({volume(c.bytes)});
+        open_anew({disc(c.bytes)});
         EXPECT_EQ(F1.L(3).Caption, c.shown) << c.bytes;
     }
 }

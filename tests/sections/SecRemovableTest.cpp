@@ -1,5 +1,6 @@
 #include "tests/Stage.h"
 #include "tests/sections/PageRows.h"
+#include "tests/sections/Volumes.h"
 
 #include <gmock/gmock.h>
 
@@ -14,31 +15,10 @@ constexpr const char* Volumes = "Select VolumeName, Caption, Size, Freespace, Fi
                                 "VolumeSerialNumber from Win32_LogicalDisk where DriveType = 2";
 constexpr const char* Drives = "Select InterfaceType, Caption from Win32_DiskDrive";
 
-std::string kilobytes(std::int64_t count)
-{
-    return std::to_string(count * 1024);
-}
-
-Instance volume(const Value& size, const Value& free, const Value& name = "DATA",
-                const Value& letter = "E:")
-{
-    return Instance({{"Caption", letter},
-                     {"FileSystem", "vfat"},
-                     {"FreeSpace", free},
-                     {"Size", size},
-                     {"VolumeName", name},
-                     {"VolumeSerialNumber", " 1A2B "}});
-}
-
 /// A slot of a card reader without a card.
 Instance empty_slot(const char* letter)
 {
-    return Instance({{"Caption", letter},
-                     {"FileSystem", {}},
-                     {"FreeSpace", {}},
-                     {"Size", {}},
-                     {"VolumeName", {}},
-                     {"VolumeSerialNumber", {}}});
+    return volume({}, {}, {}, letter, {});
 }
 
 Instance drive(const Value& bus, const char* name)
@@ -61,7 +41,7 @@ protected:
 TEST_F(SecRemovablePage, ListsTheVolumesAndTheDrivesOutside)
 {
     F1.LNoDrive.Visible = F1.Line2.Visible = true;
-    open({volume(kilobytes(7812000), kilobytes(5242880)),
+    open({volume(kilobytes(7812000), kilobytes(5242880), "DATA"),
           volume(kilobytes(99999), kilobytes(0), "", " F: ")},
          {drive("USB", " Stick "), drive("IDE", "Disk"), drive("1394", "Box"), drive({}, "None")});
     EXPECT_EQ(F1.Titulo.Caption, "Removable memory");
@@ -132,7 +112,7 @@ TEST_F(SecRemovablePage, ASlotWithoutACardTakesTheSizesOfTheOneBefore)
 {
     open({empty_slot("E:"), volume(kilobytes(10240), kilobytes(5120)), empty_slot("G:")});
     EXPECT_EQ(F1.Laviso.Caption, "\r\n1 removable drive is conected.");
-    EXPECT_THAT(shown(1, 5), ElementsAre("Name:  - DATA - ", "Drive letter: (E:) - (E:) - (G:)",
+    EXPECT_THAT(shown(1, 5), ElementsAre("Name:  -  Data  - ", "Drive letter: (E:) - (E:) - (G:)",
                                          "Capacity: (10 MB) - (10 MB)",
                                          "Space in use: (0 KB - 5 MB - 50%) - (5 MB - 50%)",
                                          "Free space: (0 KB - 5 MB - 50%) - (5 MB - 50%)"));
@@ -141,17 +121,10 @@ TEST_F(SecRemovablePage, ASlotWithoutACardTakesTheSizesOfTheOneBefore)
     EXPECT_EQ(shown(7), "File system: vfat");
 }
 
-TEST_F(SecRemovablePage, NamesAreNotTrimmedAndAnEmptyRowIsNotUnknown)
-{
-    open({volume("1024", "0", "  ")});
-    EXPECT_EQ(F1.L(1).Caption, "  ");
-    open({volume("1024", "0", {})});
-    EXPECT_EQ(F1.L(1).Caption + F1.L(1).ToolTipText, "");
-}
-
 TEST_F(SecRemovablePage, KilobytesAreRoundedDownAndSmallVolumesHaveNoCapacity)
 {
-    open({volume("10239999", "1023999")});
+    open({volume("10239999", "1023999", {})});
+    EXPECT_EQ(F1.L(1).Caption + F1.L(1).ToolTipText, "") << "no name, and no word for it";
     EXPECT_EQ(F1.L(3).Caption, "kept") << "9999 KB";
     EXPECT_EQ(F1.L(5).Caption, "(999 KB - 10%)");
     EXPECT_EQ(F1.L(4).Caption, "(8.7 MB - 90%)");
