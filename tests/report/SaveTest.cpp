@@ -10,6 +10,7 @@ protected:
     SavingAReport()
     {
         make_report();
+        F2.BSave.Enabled = F2.BClose.Enabled = true;
         F2.Tb1 = "rtf";
         F2.Tb2 = "html";
         F2.Tb3 = "bbcode";
