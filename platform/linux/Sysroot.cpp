@@ -68,8 +68,13 @@ bool Sysroot::exists(const std::string& path) const
 
 std::optional<std::string> Sysroot::read(const std::string& path, std::size_t limit) const
 {
-    const Descriptor file = opened(resolver_(root_.number(), path, LastLink::Follow));
+    const Descriptor file = open(path);
     return file ? read_to_end(file, limit) : std::nullopt;
+}
+
+Descriptor Sysroot::open(const std::string& path) const
+{
+    return opened(resolver_(root_.number(), path, LastLink::Follow));
 }
 
 std::optional<std::string> Sysroot::text(const std::string& path) const

@@ -34,6 +34,9 @@ public:
     std::optional<std::string> read(const std::string& path,
                                     std::size_t limit = default_limit) const;
 
+    /// A regular file, open for reading, for libraries that take a file and not its bytes.
+    Descriptor open(const std::string& path) const;
+
     /// The first line of a file, or what stands before its first NUL: trimmed, valid UTF-8, not
     /// empty.
     std::optional<std::string> text(const std::string& path) const;

@@ -1,0 +1,38 @@
+#include "platform/linux/HardwareDatabase.h"
+
+#include "platform/linux/Placeholder.h"
+
+namespace ostrelum {
+namespace {
+
+/// Where systemd itself looks, in its order.
+constexpr const char* places[] = {
+    "/etc/systemd/hwdb/hwdb.bin", "/etc/udev/hwdb.bin",     "/usr/lib/systemd/hwdb/hwdb.bin",
+    "/lib/systemd/hwdb/hwdb.bin", "/usr/lib/udev/hwdb.bin", "/lib/udev/hwdb.bin",
+};
+
+sd_hwdb* opened(const Sysroot& root)
+{
+    for (const char* place : places) {
+        const Descriptor file = root.open(place);
+        const std::string path = "/proc/self/fd/" + std::to_string(file.number());
+        sd_hwdb* database = nullptr;
+        if (file && sd_hwdb_new_from_path(path.c_str(), &database) >= 0)
+            return database;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+HardwareDatabase::HardwareDatabase(const Sysroot& root) : database_(opened(root), sd_hwdb_unref) {}
+
+std::optional<std::string> HardwareDatabase::text(const std::string& alias, const char* key) const
+{
+    const char* value = nullptr;
+    if (!database_ || sd_hwdb_get(database_.get(), alias.c_str(), key, &value) < 0)
+        return std::nullopt;
+    return told_text(value);
+}
+
+} // namespace ostrelum

@@ -1,0 +1,75 @@
+#include "platform/linux/DeviceNames.h"
+
+#include "tests/platform/linux/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+namespace ostrelum {
+namespace {
+
+void put(std::string& bytes, std::initializer_list<std::uint64_t> numbers)
+{
+    for (const std::uint64_t number : numbers) {
+        for (unsigned shift = 0; shift < 64; shift += 8)
+            bytes += static_cast<char>(number >> shift);
+    }
+}
+
+/// A compiled hardware database (its trie, version 1) in which devices with that beginning of their
+/// alias have one maker.
+std::string database(const std::string& beginning, const std::string& maker)
+{
+    constexpr std::uint64_t header = 80, node = 24, child = 16, value = 16;
+    constexpr std::uint64_t strings = header + node + value;
+    const std::string key = std::string(" ID_VENDOR_FROM_DATABASE") + '\0';
+    const std::string prefix = beginning + "*" + '\0';
+    const std::string text = '\0' + prefix + key + maker + '\0';
+    std::string bytes = "KSLPHHRH";
+    put(bytes, {252, strings + text.size(), header, node, child, value, header, node + value,
+                text.size()});
+    put(bytes,
+        {strings + 1, 0, 1, strings + 1 + prefix.size(), strings + 1 + prefix.size() + key.size()});
+    return bytes + text;
+}
+
+TEST(DeviceNames, PublishedOnesComeBeforeTheDatabase)
+{
+    const TemporaryFolder machine;
+    const std::string slot = "0000:01:00.0";
+    machine.file("sys/bus/pci/devices/" + slot + "/vendor", "0x10de\n");
+    machine.file("sys/bus/pci/devices/" + slot + "/device", "0x1287\n");
+    const Sysroot root(machine / "");
+    EXPECT_FALSE(pci_names(root, slot).vendor);
+
+    machine.file("usr/lib/udev/hwdb.bin", database("pci:v000010DE", "Database maker"));
+    EXPECT_EQ(pci_names(root, slot).vendor, "Database maker");
+    EXPECT_FALSE(pci_names(root, slot).model);
+
+    machine.file("run/udev/data/+pci:" + slot, "E:ID_VENDOR_FROM_DATABASE=Published maker\n");
+    EXPECT_EQ(pci_names(root, slot).vendor, "Published maker");
+}
+
+TEST(DeviceNames, AMachineWithoutADatabaseHasNoneOfThisSystem)
+{
+    const TemporaryFolder machine;
+    const Sysroot root(machine / "");
+    EXPECT_FALSE(usb_vendor(root, 0x046D));
+    EXPECT_EQ(monitor_maker(root, "LGD"), "LG Display");
+    EXPECT_EQ(monitor_maker(root, "ZZZ"), "ZZZ");
+
+    machine.file("etc/udev/hwdb.bin", "no database");
+    EXPECT_FALSE(usb_vendor(root, 0x046D));
+    machine.file("usr/lib/udev/hwdb.bin", database("usb:v046D", "Mouse maker"));
+    EXPECT_EQ(usb_vendor(root, 0x046D), "Mouse maker");
+    EXPECT_FALSE(usb_vendor(root, 0x046E));
+}
+
+TEST(DeviceNames, TakesTheNameBetweenBrackets)
+{
+    EXPECT_EQ(bracketed_name("GK208B [GeForce GT 730]"), "GeForce GT 730");
+    EXPECT_EQ(bracketed_name("HD Graphics 620"), "HD Graphics 620");
+    EXPECT_EQ(bracketed_name("Odd ] one [of these"), "Odd ] one [of these");
+}
+
+} // namespace
+} // namespace ostrelum
