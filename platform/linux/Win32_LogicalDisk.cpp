@@ -131,7 +131,7 @@ std::vector<Disk> disks(const MachineView& machine)
     std::vector<Disk> discs;
     std::string system_device;
     for (const std::string& drive : optical_drives(machine.root))
-        discs.push_back({machine, {}, drive, {}});
+        discs.push_back({machine, Volume(), drive, std::string()});
     for (Volume& volume : mounted_volumes(machine.root)) {
         const std::string device =
             volume.network ? "" : device_of_mount(machine.root, volume.mount);
