@@ -102,15 +102,16 @@ TEST_F(SecSummaryPage, TellsTheSpeedByItsDigitsAndTheProcessors)
 
 TEST_F(SecSummaryPage, RoundsEachModuleAndEachDiskDownBeforeTheSum)
 {
-    const auto half_over = [](const char* property) {
-        return only(property, std::to_string((std::int64_t{600} << 20) + (1 << 19)));
+    const auto three_quarters_over = [](const char* property) {
+        return only(property, std::to_string((100 << 20) + (3 << 18)));
     };
     script.results = {
-        {Modules, {half_over("Capacity"), only("Capacity", {}), half_over("Capacity")}},
-        {Disks, {half_over("Freespace"), Instance(), half_over("Freespace")}}};
+        {Modules,
+         {three_quarters_over("Capacity"), only("Capacity", {}), three_quarters_over("Capacity")}},
+        {Disks, {three_quarters_over("Freespace"), Instance(), three_quarters_over("Freespace")}}};
     open();
-    EXPECT_EQ(F1.L(4).Caption, "1 GB");
-    EXPECT_EQ(F1.L(6).Caption, "1.1 GB") << "1200 MB";
+    EXPECT_EQ(F1.L(4).Caption, "200 MB");
+    EXPECT_EQ(F1.L(6).Caption, "200 MB");
 }
 
 TEST_F(SecSummaryPage, ShowsEveryAmountOfFreeSpace)
