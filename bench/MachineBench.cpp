@@ -1,0 +1,53 @@
+#include "console/Machine.h"
+#include "frame/MainForm.h"
+#include "frame/Navigation.h"
+
+#include <benchmark/benchmark.h>
+
+#include <cstdlib>
+
+/// The pages on a real management service: this machine's, or that of the recorded machine whose
+/// folder the variable OSTRELUM_BENCH_ROOT names.
+namespace ostrelum {
+namespace {
+
+Options machine_options()
+{
+    Options options;
+    if (const char* root = std::getenv("OSTRELUM_BENCH_ROOT"))
+        options.sysroot = root;
+    return options;
+}
+
+void OpenMachinePage(benchmark::State& state)
+{
+    ConsoleMachine machine(machine_options());
+    const int section = static_cast<int>(state.range(0));
+    // From another page each time: a page may keep what it has while it stays open.
+    for (auto _ : state) {
+        F1.Seccion = 0;
+        LMenu_MouseDown(section, LeftButton, 0, 0, 0);
+    }
+}
+BENCHMARK(OpenMachinePage)->DenseRange(1, 13)->Unit(benchmark::kMicrosecond);
+
+/// One tick of the live refresh, on the pages that have it.
+void RefreshMachinePage(benchmark::State& state)
+{
+    ConsoleMachine machine(machine_options());
+    LMenu_MouseDown(static_cast<int>(state.range(0)), LeftButton, 0, 0, 0);
+    for (auto _ : state)
+        F1.raise("Timer1", {.kind = EventKind::Timer});
+}
+BENCHMARK(RefreshMachinePage)->Arg(2)->Arg(4)->Arg(6)->Arg(13)->Unit(benchmark::kMicrosecond);
+
+void CollectMachineReport(benchmark::State& state)
+{
+    ConsoleMachine machine(machine_options());
+    for (auto _ : state)
+        benchmark::DoNotOptimize(machine.report("text").size());
+}
+BENCHMARK(CollectMachineReport)->Unit(benchmark::kMicrosecond);
+
+} // namespace
+} // namespace ostrelum
