@@ -13,6 +13,7 @@ public:
                std::function<void()> asked_to_close);
 
     const Form& form() const { return around_.form; }
+    const Carriers& carriers() const { return carriers_; }
     /// Carries over what differs.
     void carry();
     /// Brings the window up in the centre of the screen.

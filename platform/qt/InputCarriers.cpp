@@ -122,8 +122,11 @@ void ComboBoxCarrier::apply()
     }
     if (changed(&ComboBox::List, &ComboBox::ListIndex))
         widget_->setCurrentIndex(control_.ListIndex);
-    if (changed(&ComboBox::AccessibleName))
+    if (changed(&ComboBox::AccessibleName)) {
         widget_->setAccessibleName(qt_text(control_.AccessibleName));
+        // Linux's screen readers are told the chosen entry as the name.
+        widget_->setAccessibleDescription(qt_text(control_.AccessibleName));
+    }
     if (changed(&ComboBox::Enabled))
         widget_->setEnabled(control_.Enabled);
     appear(*widget_);

@@ -1,0 +1,128 @@
+#include "platform/qt/Fonts.h"
+#include "platform/qt/PictureWidget.h"
+#include "tests/platform/qt/Desk.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollBar>
+
+namespace ostrelum::desk {
+namespace {
+
+class CarryTest : public Desk {};
+
+QColor colour_at(QWidget& widget, int x, int y)
+{
+    return widget.grab().toImage().pixelColor(x, y);
+}
+
+TEST_F(CarryTest, RefreshShowsWhatTheDataSays)
+{
+    form.Caption = "Other";
+    form.Free.Caption = "a <b>device</b> & more";
+    form.Free.ForeColor = RGB(1, 2, 3);
+    form.Free.Left = 130;
+    form.Free.ToolTipText = "tip";
+    form.Ok.Enabled = false;
+    form.Slide.Max = 30;
+    form.Slide.Value = 20;
+    form.Tick.Value = 1;
+    form.Pick.List = {"x", "y"};
+    form.Pick.ListIndex = -1;
+    form.Bar.Visible = false;
+    toolkit().Refresh(form);
+
+    EXPECT_EQ(window().windowTitle(), "Other");
+    auto& label = widget<QLabel>("Free");
+    EXPECT_EQ(label.text(), "a <b>device</b> & more");
+    EXPECT_EQ(label.textFormat(), Qt::PlainText);
+    EXPECT_EQ(label.palette().color(QPalette::WindowText), QColor(1, 2, 3));
+    EXPECT_EQ(label.geometry(), QRect(130, 10, form.Free.Width, form.Free.Height));
+    EXPECT_FALSE(widget("Ok").isEnabled());
+    EXPECT_EQ(widget<QScrollBar>("Slide").maximum(), 30);
+    EXPECT_EQ(widget<QScrollBar>("Slide").value(), 20);
+    EXPECT_TRUE(widget<QCheckBox>("Tick").isChecked());
+    EXPECT_EQ(widget<QComboBox>("Pick").count(), 2);
+    EXPECT_EQ(widget<QComboBox>("Pick").currentIndex(), -1);
+    EXPECT_FALSE(widget("Silent").isVisible()) << "goes with the box that holds it";
+    EXPECT_EQ(heard, Heard{}) << "what the program sets raises nothing";
+}
+
+TEST_F(CarryTest, PicturesArePixelExact)
+{
+    EXPECT_EQ(colour_at(widget("Column"), 0, 0), QColor(250, 120, 0));
+    EXPECT_EQ(colour_at(widget("Column"), 99, 199), QColor(40, 40, 40));
+
+    // A width whose rows are filled up, and a picture smaller than its box.
+    form.Bar.Surface = Picture(plain_bitmap(3, 3, RGB(0, 0, 255), RGB(0, 255, 0)));
+    form.Bar.BackColor = RGB(9, 8, 7);
+    toolkit().Refresh(form);
+    EXPECT_EQ(colour_at(widget("Bar"), 0, 0), QColor(0, 255, 0));
+    EXPECT_EQ(colour_at(widget("Bar"), 2, 2), QColor(0, 0, 255));
+    EXPECT_EQ(colour_at(widget("Bar"), 3, 2), QColor(9, 8, 7));
+}
+
+TEST_F(CarryTest, CoverageLetsTheGroundThrough)
+{
+    Bitmap bitmap = plain_bitmap(2, 1, RGB(0, 0, 255), RGB(255, 0, 0));
+    bitmap.coverage = {255, 0};
+    form.Bar.Surface = Picture(bitmap);
+    form.Bar.Transparent = true;
+    toolkit().Refresh(form);
+    EXPECT_EQ(colour_at(window(), 0, 45), QColor(255, 0, 0));
+    EXPECT_EQ(colour_at(window(), 1, 45), QColor(40, 40, 40)) << "the column under the bar";
+}
+
+TEST_F(CarryTest, LaterControlsLieOverEarlierOnes)
+{
+    EXPECT_EQ(window().childAt(20, 55), &widget("Silent"));
+    EXPECT_EQ(window().childAt(80, 60), &widget("Bar"));
+    EXPECT_EQ(window().childAt(15, 15), &widget("Menu", 1));
+    EXPECT_EQ(colour_at(window(), 120, 40), QColor(200, 0, 0));
+    EXPECT_EQ(colour_at(window(), 180, 40), QColor(255, 255, 255)) << "the end is not drawn";
+}
+
+TEST_F(CarryTest, ALabelIsAsWideAsItsInk)
+{
+    form.Free.Font = {.Name = "Segoe UI", .Size = 36, .Italic = true};
+    form.Free.Caption = "Wolff";
+    toolkit().Refresh(form);
+    QLabel roomy(&widget("Column"));
+    roomy.setFont(font_of(form.Free.Font));
+    roomy.setText("Wolff");
+    roomy.resize(form.Free.Width + 60, form.Free.Height);
+    const QImage drawn = roomy.grab(QRect(form.Free.Width, 0, 60, form.Free.Height)).toImage();
+    const QImage bare = roomy.grab(QRect(form.Free.Width + 30, 0, 30, 1)).toImage();
+    for (int y = 0; y < drawn.height(); ++y) {
+        for (int x = 0; x < 30; ++x)
+            ASSERT_EQ(drawn.pixel(x, y), bare.pixel(0, 0)) << x << "," << y;
+    }
+}
+
+TEST_F(CarryTest, FontsAreCountedInPixelsAndNoStandInIsWide)
+{
+    EXPECT_EQ(font_of({.Size = 9.75}).pixelSize(), 13);
+    EXPECT_EQ(font_of({.Size = 8.25}).pixelSize(), 11);
+    EXPECT_EQ(font_of({.Size = 26.25}).pixelSize(), 35);
+    const std::string text = "Information about the operating system";
+    const int arial = toolkit().text_size(text, {.Name = "Arial", .Size = 9.75}).width;
+    for (const char* name : {"Tahoma", "Segoe UI", "Segoe UI Light", "Trebuchet MS"})
+        EXPECT_LE(toolkit().text_size(text, {.Name = name, .Size = 9.75}).width, arial * 1.08)
+            << name;
+}
+
+TEST_F(CarryTest, WrappedLabelsKeepTheirWidth)
+{
+    form.Free.WordWrap = true;
+    form.Free.Width = 50;
+    form.Free.Height = 60;
+    form.Free.Caption = "several words that need three lines";
+    toolkit().Refresh(form);
+    EXPECT_EQ(widget("Free").size(), QSize(50, 60));
+    EXPECT_TRUE(widget<QLabel>("Free").wordWrap());
+}
+
+} // namespace
+} // namespace ostrelum::desk
