@@ -5,10 +5,13 @@ namespace {
 
 constexpr const LinuxClass* classes[] = {
     &Win32_BaseBoard,
+    &Win32_Battery,
     &Win32_BIOS,
     &Win32_CDROMDrive,
     &Win32_DiskDrive,
+    &Win32_Keyboard,
     &Win32_LogicalDisk,
+    &Win32_PointingDevice,
 };
 
 } // namespace

@@ -79,10 +79,13 @@ Value value_of(const std::optional<Known>& known)
 }
 
 extern const LinuxClass Win32_BaseBoard;
+extern const LinuxClass Win32_Battery;
 extern const LinuxClass Win32_BIOS;
 extern const LinuxClass Win32_CDROMDrive;
 extern const LinuxClass Win32_DiskDrive;
+extern const LinuxClass Win32_Keyboard;
 extern const LinuxClass Win32_LogicalDisk;
+extern const LinuxClass Win32_PointingDevice;
 
 /// The class of that name in any case of its letters; nullptr if Linux does not fill it.
 const LinuxClass* find_linux_class(std::string_view name);

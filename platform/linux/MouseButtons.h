@@ -20,6 +20,12 @@ struct InputDevice {
 /// than 32, or by a keyboard whose lowest word is full. Without such a device, this program's own.
 unsigned kernel_word_bits(std::span<const InputDevice> devices);
 
+/// Whether a device points: a mouse, touchpad, stick or trackball, not a touchscreen.
+bool is_pointer(const InputDevice& device, unsigned word_bits);
+
+/// Whether a device has the keys to write with.
+bool is_keyboard(const InputDevice& device, unsigned word_bits);
+
 /// Buttons of the pointer that has most of them; 0 without a pointer. A touchpad that is itself the
 /// button has at least two, its halves.
 int mouse_buttons(std::span<const InputDevice> devices);
