@@ -55,8 +55,11 @@ constexpr const Row* find_named(std::span<const Row> rows, std::string_view name
 /// The class of that name. Throws Failure if there is none; in a constant that does not compile.
 constexpr const ClassSchema& schema_of(std::string_view name)
 {
-    const ClassSchema* found = find_named(class_schemas(), name);
-    return found ? *found : throw Failure("no such class: " + std::string(name));
+    for (const ClassSchema& each : class_table) {
+        if (same_ascii_letters(each.name, name))
+            return each;
+    }
+    throw Failure("no such class: " + std::string(name));
 }
 
 /// The type as the schema's own language writes it, such as "uint32".

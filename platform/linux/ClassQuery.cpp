@@ -50,9 +50,9 @@ public:
 
 private:
     /// The service delivers 64-bit numbers as text.
-    static Value as_delivered(Value value, CimType type)
+    static Value as_delivered(const Value& value, CimType type)
     {
-        return type == CimType::UInt64 && value.is_whole() ? Value(value.text()) : value;
+        return type == CimType::UInt64 && value.is_whole() ? value.text() : value;
     }
 
     Properties properties_;

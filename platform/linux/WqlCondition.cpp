@@ -39,12 +39,12 @@ std::partial_ordering compare_values(const Value& value, const Value& literal)
 bool fits(std::partial_ordering order, Comparison comparison)
 {
     switch (comparison) {
-    case Comparison::Equal: return order == 0;
-    case Comparison::NotEqual: return order != 0;
-    case Comparison::Less: return order < 0;
-    case Comparison::LessOrEqual: return order <= 0;
-    case Comparison::Greater: return order > 0;
-    case Comparison::GreaterOrEqual: return order >= 0;
+    case Comparison::Equal: return std::is_eq(order);
+    case Comparison::NotEqual: return std::is_neq(order);
+    case Comparison::Less: return std::is_lt(order);
+    case Comparison::LessOrEqual: return std::is_lteq(order);
+    case Comparison::Greater: return std::is_gt(order);
+    case Comparison::GreaterOrEqual: return std::is_gteq(order);
     }
     return false;
 }
