@@ -4,14 +4,9 @@ namespace ostrelum {
 namespace {
 
 constexpr const LinuxClass* classes[] = {
-    &Win32_BaseBoard,
-    &Win32_Battery,
-    &Win32_BIOS,
-    &Win32_CDROMDrive,
-    &Win32_DiskDrive,
-    &Win32_Keyboard,
-    &Win32_LogicalDisk,
-    &Win32_PointingDevice,
+    &Win32_BaseBoard,       &Win32_Battery,        &Win32_BIOS,        &Win32_CDROMDrive,
+    &Win32_ComputerSystem,  &Win32_DiskDrive,      &Win32_Keyboard,    &Win32_LogicalDisk,
+    &Win32_OperatingSystem, &Win32_PointingDevice, &Win32_SoundDevice,
 };
 
 } // namespace

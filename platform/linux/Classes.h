@@ -82,10 +82,13 @@ extern const LinuxClass Win32_BaseBoard;
 extern const LinuxClass Win32_Battery;
 extern const LinuxClass Win32_BIOS;
 extern const LinuxClass Win32_CDROMDrive;
+extern const LinuxClass Win32_ComputerSystem;
 extern const LinuxClass Win32_DiskDrive;
 extern const LinuxClass Win32_Keyboard;
 extern const LinuxClass Win32_LogicalDisk;
+extern const LinuxClass Win32_OperatingSystem;
 extern const LinuxClass Win32_PointingDevice;
+extern const LinuxClass Win32_SoundDevice;
 
 /// The class of that name in any case of its letters; nullptr if Linux does not fill it.
 const LinuxClass* find_linux_class(std::string_view name);
