@@ -83,12 +83,16 @@ extern const LinuxClass Win32_Battery;
 extern const LinuxClass Win32_BIOS;
 extern const LinuxClass Win32_CDROMDrive;
 extern const LinuxClass Win32_ComputerSystem;
+extern const LinuxClass Win32_DesktopMonitor;
 extern const LinuxClass Win32_DiskDrive;
 extern const LinuxClass Win32_Keyboard;
 extern const LinuxClass Win32_LogicalDisk;
 extern const LinuxClass Win32_OperatingSystem;
+extern const LinuxClass Win32_PhysicalMemory;
 extern const LinuxClass Win32_PointingDevice;
+extern const LinuxClass Win32_Processor;
 extern const LinuxClass Win32_SoundDevice;
+extern const LinuxClass Win32_VideoController;
 
 /// The class of that name in any case of its letters; nullptr if Linux does not fill it.
 const LinuxClass* find_linux_class(std::string_view name);

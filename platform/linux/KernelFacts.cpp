@@ -45,13 +45,28 @@ std::string four_digits(const std::string& digits)
     return digits.size() < Wide ? std::string(Wide - digits.size(), '0') + digits : digits;
 }
 
+/// What the processor itself tells, for a recorded machine without anything else: flag "lm" is
+/// 64-bit mode on x86.
+std::optional<std::string> architecture_of_cpuinfo(const Sysroot& root)
+{
+    const std::string cpuinfo = root.read("/proc/cpuinfo").value_or("");
+    if (const auto flags = value_behind(cpuinfo, "flags", ':')) {
+        const auto words = words_of(*flags);
+        return std::ranges::find(words, "lm") != words.end() ? "x86_64" : "i686";
+    }
+    const auto arm = value_behind(cpuinfo, "CPU architecture", ':');
+    return arm ? std::optional<std::string>(*arm == "8" ? "aarch64" : "armv7l") : std::nullopt;
+}
+
 } // namespace
 
 std::optional<std::string> kernel_architecture(const MachineView& machine)
 {
     if (const auto kind = machine.root.text("/proc/sys/kernel/arch"))
         return kind;
-    return machine.facts->processor_kind();
+    if (const auto kind = machine.facts->processor_kind())
+        return kind;
+    return architecture_of_cpuinfo(machine.root);
 }
 
 std::optional<std::string> kernel_version_text(std::string_view release)

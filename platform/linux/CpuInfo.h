@@ -1,0 +1,40 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ostrelum {
+
+/// One paragraph of /proc/cpuinfo: what the kernel says of a logical processor. It points into the
+/// text.
+class CpuRecord {
+public:
+    explicit CpuRecord(std::string_view paragraph) : paragraph_(paragraph) {}
+
+    /// The value behind the first of the labels that has one; labels differ between kinds of
+    /// processor.
+    std::optional<std::string> text(std::initializer_list<std::string_view> labels) const;
+    /// A number, decimal or after "0x" hexadecimal.
+    std::optional<std::uint64_t> number(std::string_view label) const;
+    /// The clock in MHz.
+    std::optional<double> megahertz() const;
+
+private:
+    std::string_view paragraph_;
+};
+
+/// The paragraph of a logical processor, or the first one where they are not numbered.
+CpuRecord cpu_record(std::string_view cpuinfo, std::uint64_t cpu);
+
+/// Makers and names of ARM processors by the codes of their identification register (MIDR_EL1: Arm
+/// Architecture Reference Manual; part numbers from the processors' Technical Reference Manuals).
+/// Nothing for a code not known.
+std::optional<std::string> arm_maker(std::uint64_t implementer);
+std::optional<std::string> arm_name(std::uint64_t implementer, std::uint64_t part);
+
+/// The clock that a name ends in, such as 2600 MHz of "... @ 2.60GHz".
+std::optional<std::uint64_t> megahertz_in_name(std::string_view name);
+
+} // namespace ostrelum

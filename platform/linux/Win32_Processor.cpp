@@ -1,0 +1,223 @@
+#include "platform/linux/Classes.h"
+#include "platform/linux/CpuInfo.h"
+#include "platform/linux/CpuPackages.h"
+#include "platform/linux/KernelFacts.h"
+#include "platform/linux/Placeholder.h"
+#include "platform/linux/Smbios.h"
+#include "platform/linux/Text.h"
+
+#include <array>
+#include <cmath>
+#include <vector>
+
+namespace ostrelum {
+namespace {
+
+constexpr std::uint64_t KiloPerMega = 1000;
+
+/// What the kernel says of the package's first processor, with the text that it lies in.
+struct Description {
+    explicit Description(const CpuPackage& package)
+        : cpuinfo(package.machine.root.read("/proc/cpuinfo").value_or("")),
+          record(cpu_record(cpuinfo, package.cpus.front()))
+    {
+    }
+    Description(const Description&) = delete;
+    Description& operator=(const Description&) = delete;
+
+    std::string cpuinfo;
+    CpuRecord record;
+};
+
+/// The codes of the kinds that Linux runs on (CIM schema as the service extends it).
+Value architecture(const CpuPackage& package)
+{
+    const std::string kind = kernel_architecture(package.machine).value_or("");
+    if (kind.size() == 4 && kind.starts_with('i') && kind.ends_with("86"))
+        return 0;
+    constexpr std::array<std::pair<std::string_view, int>, 6> kinds{
+        {{"x86_64", 9}, {"aarch64", 12}, {"arm", 5}, {"ppc", 3}, {"mips", 1}, {"ia64", 6}}};
+    for (const auto& [name, code] : kinds) {
+        if (kind.starts_with(name))
+            return code;
+    }
+    return {};
+}
+
+/// "Intel64 Family 6 Model 45 Stepping 7".
+std::optional<std::string> x86_caption(const CpuRecord& record, bool wide)
+{
+    const auto family = record.text({"cpu family"});
+    const auto model = record.text({"model"});
+    const auto stepping = record.text({"stepping"});
+    if (!family || !model || !stepping)
+        return std::nullopt;
+    const std::string vendor = record.text({"vendor_id"}).value_or("");
+    const char* kind = vendor == "GenuineIntel"                               ? "Intel64"
+                       : vendor == "AuthenticAMD" || vendor == "HygonGenuine" ? "AMD64"
+                                                                              : "x64";
+    return std::string(wide ? kind : "x86") + " Family " + *family + " Model " + *model +
+           " Stepping " + *stepping;
+}
+
+std::string upper_hex(std::uint64_t number)
+{
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    std::string text;
+    for (; number != 0 || text.empty(); number /= 16)
+        text.insert(text.begin(), digits[number % 16]);
+    return text;
+}
+
+/// "ARMv8 (64-bit) Family 8 Model D03 Revision 4".
+std::optional<std::string> arm_caption(const CpuRecord& record, bool wide)
+{
+    const auto family = record.text({"CPU architecture"});
+    const auto part = record.number("CPU part");
+    const auto revision = record.text({"CPU revision"});
+    if (!family || !part || !revision)
+        return std::nullopt;
+    return "ARMv" + *family + (wide ? " (64-bit)" : " (32-bit)") + " Family " + *family +
+           " Model " + upper_hex(*part) + " Revision " + *revision;
+}
+
+Value caption(const CpuPackage& package)
+{
+    const Description cpu(package);
+    const std::string kind = kernel_architecture(package.machine).value_or("");
+    if (const auto text = x86_caption(cpu.record, kind == "x86_64"))
+        return *text;
+    return value_of(arm_caption(cpu.record, kind == "aarch64"));
+}
+
+/// Mean over the package's processors, in MHz; nothing if none tells its clock.
+template <class Clock>
+std::optional<double> mean(const CpuPackage& package, Clock clock)
+{
+    double sum = 0;
+    int count = 0;
+    for (const std::uint64_t cpu : package.cpus) {
+        if (const std::optional<double> megahertz = clock(cpu)) {
+            sum += *megahertz;
+            ++count;
+        }
+    }
+    return count > 0 ? std::optional(sum / count) : std::nullopt;
+}
+
+std::optional<double> clock_of_cpuinfo(const CpuPackage& package)
+{
+    const Description first(package);
+    return mean(package,
+                [&](std::uint64_t cpu) { return cpu_record(first.cpuinfo, cpu).megahertz(); });
+}
+
+Value whole_megahertz(const std::optional<double>& megahertz)
+{
+    return megahertz && *megahertz < UINT32_MAX ? Value(std::llround(*megahertz)) : Value();
+}
+
+Value current_clock(const CpuPackage& package)
+{
+    const auto scaled = mean(package, [&](std::uint64_t cpu) -> std::optional<double> {
+        const auto kilohertz =
+            package.machine.root.number(cpu_file(cpu, "cpufreq/scaling_cur_freq"));
+        return kilohertz ? std::optional(static_cast<double>(*kilohertz) / KiloPerMega)
+                         : std::nullopt;
+    });
+    return whole_megahertz(scaled ? scaled : clock_of_cpuinfo(package));
+}
+
+std::optional<std::string> model_name(const CpuPackage& package)
+{
+    const Description cpu(package);
+    if (const auto name = cpu.record.text({"model name", "Model Name", "Model", "cpu"}))
+        return name;
+    const auto implementer = cpu.record.number("CPU implementer");
+    const auto part = cpu.record.number("CPU part");
+    if (implementer && part) {
+        if (const auto name = arm_name(*implementer, *part))
+            return name;
+    }
+    return package.machine.root.text("/proc/device-tree/cpus/cpu@0/compatible");
+}
+
+/// The rated clock: what the processor is sold with, not what it may reach for a moment.
+Value max_clock(const CpuPackage& package)
+{
+    const Sysroot& root = package.machine.root;
+    const std::uint64_t cpu = package.cpus.front();
+    if (const auto kilohertz = root.number(cpu_file(cpu, "cpufreq/base_frequency")))
+        return *kilohertz / KiloPerMega;
+    if (const auto megahertz = root.number(cpu_file(cpu, "acpi_cppc/nominal_freq"));
+        megahertz && *megahertz != 0)
+        return *megahertz;
+    if (const auto megahertz = megahertz_in_name(model_name(package).value_or("")))
+        return *megahertz;
+    for (const char* file : {"cpufreq/bios_limit", "cpufreq/cpuinfo_max_freq"}) {
+        if (const auto kilohertz = root.number(cpu_file(cpu, file)))
+            return *kilohertz / KiloPerMega;
+    }
+    return whole_megahertz(clock_of_cpuinfo(package));
+}
+
+Value l2_cache(const CpuPackage& package)
+{
+    return value_of(cache_kilobytes(package, 2));
+}
+Value l3_cache(const CpuPackage& package)
+{
+    return value_of(cache_kilobytes(package, 3));
+}
+
+Value manufacturer(const CpuPackage& package)
+{
+    const Description cpu(package);
+    if (const auto vendor = cpu.record.text({"vendor_id"}))
+        return *vendor;
+    const auto implementer = cpu.record.number("CPU implementer");
+    return implementer ? value_of(arm_maker(*implementer)) : Value();
+}
+
+Value name(const CpuPackage& package)
+{
+    return value_of(model_name(package));
+}
+
+/// The label of the package's socket in the firmware's table (SMBIOS type 4): sockets in their
+/// order, empty ones left out (status, offset 18h, bit 6).
+Value socket(const CpuPackage& package)
+{
+    constexpr std::uint8_t ProcessorType = 4;
+    const std::string table =
+        package.machine.root.read("/sys/firmware/dmi/tables/DMI").value_or("");
+    const Bytes bytes(reinterpret_cast<const std::uint8_t*>(table.data()), table.size());
+    std::size_t place = 0;
+    for (const SmbiosStructure& socket : smbios_structures(bytes)) {
+        const bool fitted =
+            socket.type() == ProcessorType && (socket.byte(0x18).value_or(0) & 0x40) != 0;
+        if (!fitted || place++ != package.place)
+            continue;
+        const auto label = socket.string(0x04);
+        return label ? value_of(told_text(*label)) : Value();
+    }
+    return {};
+}
+
+constexpr PropertyRow<CpuPackage> rows[] = {
+    {"Architecture", architecture},
+    {"Caption", caption},
+    {"CurrentClockSpeed", current_clock},
+    {"L2CacheSize", l2_cache},
+    {"L3CacheSize", l3_cache},
+    {"Manufacturer", manufacturer},
+    {"MaxClockSpeed", max_clock},
+    {"Name", name},
+    {"SocketDesignation", socket},
+};
+
+} // namespace
+
+constinit const LinuxClass Win32_Processor = linux_class<rows, cpu_packages>("Win32_Processor");
+
+} // namespace ostrelum

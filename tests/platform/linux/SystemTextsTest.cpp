@@ -1,0 +1,188 @@
+#include "platform/linux/ConfigText.h"
+#include "platform/linux/CpuInfo.h"
+#include "platform/linux/CpuPackages.h"
+#include "platform/linux/Distribution.h"
+#include "platform/linux/InstallationId.h"
+#include "platform/linux/KernelFacts.h"
+#include "platform/linux/LocaleIds.h"
+#include "platform/linux/MemoryDevices.h"
+#include "platform/linux/Processes.h"
+#include "platform/linux/Sha256.h"
+#include "platform/linux/VolumeFacts.h"
+
+#include <gtest/gtest.h>
+
+namespace ostrelum {
+namespace {
+
+TEST(KernelVersion, SurvivesTheCutOfThePages)
+{
+    const struct {
+        const char *release, *text;
+    } cases[] = {{"6.18.44-fc-v595", "6.x 6.18"},
+                 {"6.1.0-28-amd64", "6.1.0-28"},
+                 {"6.8.0-45-generic", "6.8.0-45"},
+                 {"6.8.0-101-generic", "6.8.0101"},
+                 {"6.14.0-63.fc42.x86_64", "6.x 6.14"},
+                 {"7.0.3-arch1-1", "7.0.0001"},
+                 {"6.6.87.2-microsoft-standard", "6.6.0087"},
+                 {"6.1", "6.1.0000"},
+                 {"6.9.0-rc3-7", "6.9.0007"}};
+    for (const auto& c : cases)
+        EXPECT_EQ(kernel_version_text(c.release), c.text) << c.release;
+    for (const char* none : {"", "linux", "6", "6.", ".6"})
+        EXPECT_FALSE(kernel_version_text(none)) << none;
+}
+
+TEST(LocaleIds, KnowCountriesLanguagesAndNeutralLocales)
+{
+    const struct {
+        const char* locale;
+        std::optional<std::uint32_t> id;
+    } cases[] = {{"es_AR.UTF-8", 11274},      {"nl_NL", 1043},      {"en_GB.UTF-8", 2057},
+                 {"C.UTF-8", 1033},           {"POSIX", 1033},      {"es_UY.UTF-8", 11274},
+                 {"sr_RS.UTF-8@latin", 9242}, {"de_DE@euro", 1031}, {"xx_XX", std::nullopt},
+                 {"", std::nullopt},          {"zz", std::nullopt}};
+    for (const auto& c : cases)
+        EXPECT_EQ(locale_id(c.locale), c.id) << c.locale;
+}
+
+std::string hex(std::span<const std::uint8_t> bytes)
+{
+    std::string text;
+    for (const std::uint8_t byte : bytes) {
+        text += "0123456789abcdef"[byte / 16];
+        text += "0123456789abcdef"[byte % 16];
+    }
+    return text;
+}
+
+std::vector<std::uint8_t> bytes_of(std::string_view text)
+{
+    return {text.begin(), text.end()};
+}
+
+/// FIPS 180-4's own examples and RFC 4231, test cases 1 and 2.
+TEST(Sha256, MatchesThePublishedVectors)
+{
+    EXPECT_EQ(hex(sha256(bytes_of("abc"))),
+              "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad");
+    EXPECT_EQ(hex(sha256(bytes_of("abcdbcdecdefdefgefghfghighijhijkijkljklmklmnlmnomnopnopq"))),
+              "248d6a61d20638b8e5c026930c3e6039a33ce45964ff2167f6ecedd419db06c1");
+    EXPECT_EQ(hex(hmac_sha256(std::vector<std::uint8_t>(20, 0x0b), bytes_of("Hi There"))),
+              "b0344c61d8db38535ca8afceaf0bf12b881dc200c9833da726e9376c2e32cff7");
+    EXPECT_EQ(hex(hmac_sha256(bytes_of("Jefe"), bytes_of("what do ya want for nothing?"))),
+              "5bdcc146bf60754e6a042426089575c75a003f089d2739839dec58b964ec3843");
+}
+
+TEST(InstallationId, NeedsAMachineIdAndHidesIt)
+{
+    const std::string machine = "0123456789abcdef0123456789abcdef";
+    const auto id = installation_id(machine + "\n");
+    ASSERT_TRUE(id);
+    EXPECT_EQ(id->size(), 32U);
+    EXPECT_NE(*id, machine);
+    EXPECT_EQ((*id)[12], '4') << "a random UUID's version";
+    for (const char* none : {"", "uninitialized", "0123", "00000000000000000000000000000000"})
+        EXPECT_FALSE(installation_id(none)) << none;
+}
+
+TEST(ConfigText, TakesTheLastAssignmentAndASectionsOwnKeys)
+{
+    const std::string shell =
+        "A=1\n#A=2\nexport A=\"x \\\"y\\\"\"\nB='p q'\nC=\nAB=no\nD=unq rest\n";
+    EXPECT_EQ(assigned(shell, "A"), "x \"y\"");
+    EXPECT_EQ(assigned(shell, "B"), "p q");
+    EXPECT_EQ(assigned(shell, "C"), std::nullopt);
+    EXPECT_EQ(assigned(shell, "D"), "unq");
+    const std::string sections =
+        "workgroup = no\n[Global]\n; workgroup = no\n  WorkGroup =  HOME \n[x]\nworkgroup=no\n";
+    EXPECT_EQ(value_in_section(sections, "global", "workgroup"), "HOME");
+    EXPECT_EQ(value_in_section(sections, "global", "realm"), std::nullopt);
+}
+
+TEST(Versions, CountTheirParts)
+{
+    EXPECT_EQ(dotted_number("24.04.3 LTS (Noble)", 2), 3U);
+    EXPECT_EQ(dotted_number("12.8", 1), 8U);
+    EXPECT_EQ(dotted_number("trixie/sid", 1), 0U);
+    EXPECT_EQ(dotted_number("9.99999999999999999999", 1), 0U);
+}
+
+TEST(Processes, KernelThreadsAreToldByTheirFlags)
+{
+    EXPECT_EQ(is_kernel_thread("2 (kthreadd) S 0 0 0 0 -1 2129984 0"), true);
+    EXPECT_EQ(is_kernel_thread("9 (a) b (c)) S 1 9 9 0 -1 4194560 0"), false);
+    for (const char* none : {"", "1 (x", "1 (x) S 0 0", "1 (x) S 0 0 0 0 -1 none 0"})
+        EXPECT_EQ(is_kernel_thread(none), std::nullopt) << none;
+}
+
+TEST(CpuTexts, ListsClocksAndNames)
+{
+    EXPECT_EQ(numbers_of_list("0-2,5"), (std::vector<std::uint64_t>{0, 1, 2, 5}));
+    for (const char* none : {"", "3-1", "0-99999999", "x", "1,,2"})
+        EXPECT_TRUE(numbers_of_list(none).empty()) << none;
+    EXPECT_EQ(megahertz_in_name("Intel(R) Core(TM) i5 CPU M 560 @ 2.67GHz"), 2670U);
+    for (const char* none : {"AMD Ryzen", "x @ GHz", "GHz @ 2", "x @ 1e9GHz", "x @ -1GHz"})
+        EXPECT_FALSE(megahertz_in_name(none)) << none;
+    const std::string cpuinfo =
+        "processor\t: 0\ncpu MHz\t\t: 800.5\n\nprocessor\t: 1\ncpu MHz\t\t: 900\n\n";
+    EXPECT_EQ(cpu_record(cpuinfo, 1).megahertz(), 900);
+    EXPECT_EQ(cpu_record(cpuinfo, 7).megahertz(), 800.5)
+        << "the first where there is no such number";
+}
+
+/// A firmware structure of type 17 with 34 formatted bytes, and its end of strings.
+std::vector<std::uint8_t> memory_slot(std::uint16_t size, std::uint32_t extended, std::uint8_t type)
+{
+    std::vector<std::uint8_t> slot(34, 0);
+    slot[0] = 17;
+    slot[1] = 34;
+    slot[0x08] = 72;
+    slot[0x0C] = static_cast<std::uint8_t>(size);
+    slot[0x0D] = static_cast<std::uint8_t>(size >> 8);
+    slot[0x0E] = 0x09;
+    slot[0x10] = 1;
+    slot[0x12] = type;
+    for (std::size_t i = 0; i < 4; ++i)
+        slot[0x1C + i] = static_cast<std::uint8_t>(extended >> (8 * i));
+    for (const char c : {'A', '1', '\0', '\0'})
+        slot.push_back(static_cast<std::uint8_t>(c));
+    return slot;
+}
+
+TEST(MemoryOfTheTable, ReadsEachFormOfSize)
+{
+    const struct {
+        std::uint16_t size;
+        std::uint32_t extended;
+        bool fitted;
+        std::optional<std::uint64_t> capacity;
+    } cases[] = {{0, 0, false, {}},
+                 {0xFFFF, 0, true, {}},
+                 {4096, 0, true, 4096ULL << 20},
+                 {0x8000 | 512, 0, true, 512ULL << 10},
+                 {0x7FFF, 65536, true, 65536ULL << 20},
+                 {0x7FFF, 0x80000000U | 1, true, 1ULL << 20}};
+    for (const auto& c : cases) {
+        const auto devices = memory_of_table(memory_slot(c.size, c.extended, 0x1A));
+        ASSERT_EQ(devices.size(), c.fitted ? 1U : 0U) << c.size;
+        if (c.fitted) {
+            EXPECT_EQ(devices[0], (MemoryDevice{c.capacity, 26, 8, 72, "A1"})) << c.size;
+        }
+    }
+    EXPECT_TRUE(memory_of_table(memory_slot(4, 0, 0x09)).empty())
+        << "a chip that holds the firmware";
+    EXPECT_EQ(memory_of_table(memory_slot(4, 0, 0x26))[0].type, 0x26) << "newer than the table";
+}
+
+TEST(VolumeSerials, AreEightDigitsOfTheIdentity)
+{
+    EXPECT_EQ(serial_of_identity("5c1d-22f0"), "5C1D22F0");
+    EXPECT_EQ(serial_of_identity("5b1116fb-b0f4-4f70-a3a5-1ab6d1b0f2d6"), "5B1116FB");
+    for (const char* none : {"", "2026-11-22-21-15-09-00", "xyz!-1234", "5B11"})
+        EXPECT_FALSE(serial_of_identity(none)) << none;
+}
+
+} // namespace
+} // namespace ostrelum
