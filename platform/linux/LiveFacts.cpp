@@ -1,8 +1,11 @@
 #include "platform/linux/Environment.h"
 #include "platform/linux/Facts.h"
+#include "platform/linux/KernelMode.h"
+#include "platform/linux/NvidiaMemory.h"
 
 #include <ctime>
 #include <fcntl.h>
+#include <map>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
 #include <sys/utsname.h>
@@ -48,6 +51,20 @@ public:
         return found->second;
     }
 
+    std::optional<DisplayMode> display_mode(const std::string& connector) override
+    {
+        return kernel_mode(connector);
+    }
+
+    std::optional<std::uint64_t> graphics_memory(const std::string& slot) override
+    {
+        // The driver's library takes a while to start, and the figure does not change.
+        const auto [entry, is_new] = graphics_memory_.try_emplace(slot);
+        if (is_new)
+            entry->second = nvidia_memory(slot);
+        return entry->second;
+    }
+
     int utc_offset(std::int64_t moment) override
     {
         const std::time_t second = moment;
@@ -56,6 +73,7 @@ public:
     }
 
 private:
+    std::map<std::string, std::optional<std::uint64_t>> graphics_memory_;
     Environment environment_ = process_environment();
 };
 

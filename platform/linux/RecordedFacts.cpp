@@ -28,7 +28,8 @@ class RecordedFacts : public Facts {
 public:
     explicit RecordedFacts(const Sysroot& root)
         : spaces_(record(root, "statvfs")), births_(record(root, "btime")),
-          uname_(record(root, "uname")), id_(record(root, "id")), environment_(record(root, "env"))
+          uname_(record(root, "uname")), id_(record(root, "id")), environment_(record(root, "env")),
+          modes_(record(root, "modes")), vram_(record(root, "vram"))
     {
     }
 
@@ -69,6 +70,21 @@ public:
         return value ? std::optional<std::string>(*value) : std::nullopt;
     }
 
+    std::optional<DisplayMode> display_mode(const std::string& connector) override
+    {
+        const auto told = numbers_of(modes_, connector, 4);
+        if (!told)
+            return std::nullopt;
+        const auto number = [&](std::size_t i) { return static_cast<int>((*told)[i]); };
+        return DisplayMode{number(0), number(1), number(2), number(3)};
+    }
+
+    std::optional<std::uint64_t> graphics_memory(const std::string& slot) override
+    {
+        const auto told = numbers_of(vram_, slot, 1);
+        return told ? std::optional(told->front()) : std::nullopt;
+    }
+
     int utc_offset(std::int64_t) override { return 0; }
 
 private:
@@ -82,6 +98,8 @@ private:
     std::string uname_;
     std::string id_;
     std::string environment_;
+    std::string modes_;
+    std::string vram_;
 };
 
 } // namespace
