@@ -180,7 +180,7 @@ TEST(VolumeSerials, AreEightDigitsOfTheIdentity)
 {
     EXPECT_EQ(serial_of_identity("5c1d-22f0", "vfat"), "5C1D22F0");
     EXPECT_EQ(serial_of_identity("5b1116fb-b0f4-4f70-a3a5-1ab6d1b0f2d6", "ext4"), "5B1116FB");
-    EXPECT_EQ(serial_of_identity("01d9abcd12345678", "ntfs"), "12345678");
+    EXPECT_EQ(serial_of_identity("01d9abcd12345678", "NTFS"), "12345678");
     for (const char* none : {"", "2026-11-22-21-15-09-00", "xyz!-1234", "5B11"})
         EXPECT_FALSE(serial_of_identity(none, "ext4")) << none;
 }
