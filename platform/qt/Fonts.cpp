@@ -51,14 +51,9 @@ QFont font_of(const FontSpec& spec)
 
 TextSize measure(const QString& text, const QFont& font)
 {
-    const QFontMetrics metrics(font);
-    const QSize box = metrics.size(0, text);
-    int width = box.width();
-    for (const QString& line : text.split(u'\n')) {
-        if (!line.isEmpty())
-            width = std::max(width, metrics.boundingRect(line).right() + 1);
-    }
-    return {width, box.height()};
+    // Not the sum of the advances, which leaves out how far a last slanted letter leans.
+    const QSize box = QFontMetrics(font).size(0, text);
+    return {box.width(), box.height()};
 }
 
 } // namespace ostrelum

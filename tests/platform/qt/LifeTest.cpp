@@ -1,6 +1,7 @@
 #include "tests/platform/qt/Desk.h"
 
 #include <QTest>
+#include <QTimer>
 
 namespace ostrelum::desk {
 namespace {
@@ -50,7 +51,8 @@ TEST_F(LifeTest, OpacitySetBeforeTheWindowHoldsAndGoesWithIt)
     EXPECT_EQ(window().windowOpacity(), 1) << "a new window starts opaque";
     EXPECT_EQ(toolkit().GetWindowLongA(form, GWL_EXSTYLE), 0);
     toolkit().SetLayeredWindowAttributes(form, 0, 10, LWA_ALPHA);
-    EXPECT_EQ(window().windowOpacity(), 1) << "not a layered window";
+    toolkit().SetWindowLongA(form, GWL_EXSTYLE, WS_EX_LAYERED);
+    EXPECT_EQ(window().windowOpacity(), 1) << "it was not a layered window then";
 }
 
 TEST_F(LifeTest, ATimerStopsInItsOwnTickAndStartsAgain)
@@ -66,9 +68,15 @@ TEST_F(LifeTest, ATimerStopsInItsOwnTickAndStartsAgain)
     }
     form.Clock.Enabled = true;
     toolkit().Refresh(form);
-    toolkit().Hide(form);
-    QTest::qWait(80);
-    EXPECT_EQ(ticks, 6) << "none without a window";
+    QEventLoop loop;
+    QTimer::singleShot(0, &loop, [&] {
+        toolkit().Hide(form);
+        QTest::qSleep(80);
+        toolkit().DoEvents();
+        EXPECT_EQ(ticks, 6) << "none without a window";
+        loop.quit();
+    });
+    loop.exec();
 }
 
 TEST_F(LifeTest, EventsComeInsideAnotherOnlyWhereItLetsThem)

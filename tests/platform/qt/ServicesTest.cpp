@@ -21,8 +21,8 @@ TEST_F(ServicesTest, OnlyWebAddressesOpen)
     const auto before = qInstallMessageHandler(
         [](QtMsgType, const QMessageLogContext&, const QString& text) { messages << text; });
     const auto browser = make_qt_browser();
-    for (const char* address : {"file:///bin/true", "/bin/true", "javascript:alert(1)", "http://",
-                                "", "https:/no", "mailto:a@example.com"})
+    for (const char* address : {"file://host/bin/true", "/bin/true", "javascript:alert(1)",
+                                "http://", "", "https:/no", "mailto:a@example.com"})
         browser->ShellExecuteA("Open", address);
     browser->ShellExecuteA("Print", "https://example.com/");
     EXPECT_EQ(messages, QStringList());
