@@ -2,6 +2,8 @@
 
 #include "platform/toolkit/Designer.h"
 
+#include <QTemporaryDir>
+
 namespace ostrelum::desk {
 namespace {
 
@@ -93,6 +95,10 @@ QtToolkit& Desk::toolkit()
     static char name[] = "test";
     static char* argv[] = {name, nullptr};
     static QtToolkit* one = [] {
+        // The file dialog keeps settings of its own.
+        static const QTemporaryDir home;
+        qputenv("HOME", home.path().toLocal8Bit());
+        qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
         qputenv("QT_QPA_PLATFORM", "offscreen");
         // Left to the end of the process, as the program does.
         return new QtToolkit(argc, argv, {});

@@ -11,6 +11,8 @@
 namespace ostrelum::desk {
 namespace {
 
+using namespace std::string_literals;
+
 class ServicesTest : public Desk {};
 
 QStringList messages;
@@ -44,7 +46,7 @@ TEST_F(ServicesTest, TheClipboardHoldsPlainText)
 
 TEST_F(ServicesTest, FilterPairs)
 {
-    const std::string pairs("Text (*.txt)\0*.txt\0Page\0*.html;*.htm\0Torn\0", 42);
+    const std::string pairs = "Text (*.txt)\0*.txt\0Page\0*.html;*.htm\0Torn\0"s;
     EXPECT_EQ(name_filters(pairs), (QStringList{"Text (*.txt)", "Page (*.html *.htm)"}));
     EXPECT_EQ(name_filters(""), QStringList());
 }
@@ -71,7 +73,7 @@ TEST_F(ServicesTest, TheFileThatWillBeWrittenIsAskedAbout)
     const QTemporaryDir folder;
     QFile(folder.filePath("Report.html")).open(QIODevice::WriteOnly);
     const OpenFileName request{.title = "Save",
-                               .filter = std::string("Text\0*.txt\0Page\0*.html\0", 25),
+                               .filter = "Text\0*.txt\0Page\0*.html\0"s,
                                .filter_index = 2,
                                .file = "Report",
                                .initial_dir = folder.path().toStdString(),
