@@ -156,9 +156,10 @@ void place_timers(Designer& put)
 void place_controls()
 {
     Designer put(F1);
+    // A value may be wider than the page: the bands lie over it.
+    place_page(put);
     place_bands(put);
     place_left_column(put);
-    place_page(put);
     place_customise_panel(put);
     place_about_panel_and_button(put);
     place_menus(put);

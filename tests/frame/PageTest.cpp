@@ -22,6 +22,13 @@ TEST_F(Page, ARowsValueStandsDirectlyBehindItsTitle)
     EXPECT_EQ(F1.L(2).ToolTipText, "Unknown");
 }
 
+TEST_F(Page, NoValueReachesTheBands)
+{
+    const ControlEntry* value = F1.find("L", 12);
+    for (const ControlEntry* over : {F1.find("TapaBorde"), F1.find("S", 4), F1.find("BAceptar")})
+        EXPECT_GT(over, value) << over->name << " lies over the rows";
+}
+
 TEST_F(Page, AValueThatFailsLeavesTheOldOneAndItsTooltip)
 {
     set_row(4, "Name:", std::string("old"));
