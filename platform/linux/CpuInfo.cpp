@@ -2,6 +2,7 @@
 
 #include "platform/linux/Text.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 
@@ -42,17 +43,21 @@ std::optional<double> CpuRecord::megahertz() const
                  : std::nullopt;
 }
 
-CpuRecord cpu_record(std::string_view cpuinfo, std::uint64_t cpu)
+CpuInfo::CpuInfo(std::string text) : text_(std::move(text))
 {
-    const CpuRecord whole(cpuinfo);
-    for (std::string_view rest = cpuinfo; !rest.empty();) {
+    for (std::string_view rest = text_; !rest.empty();) {
         const auto end = std::min(rest.find("\n\n"), rest.size());
         const CpuRecord record(rest.substr(0, end));
-        if (record.number("processor") == cpu)
-            return record;
+        if (const auto cpu = record.number("processor"))
+            records_.emplace(*cpu, record);
         rest.remove_prefix(std::min(end + 2, rest.size()));
     }
-    return whole;
+}
+
+CpuRecord CpuInfo::of(std::uint64_t cpu) const
+{
+    const auto record = records_.find(cpu);
+    return record == records_.end() ? CpuRecord(text_) : record->second;
 }
 
 std::optional<std::uint64_t> megahertz_in_name(std::string_view name)

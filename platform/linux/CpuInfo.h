@@ -1,9 +1,10 @@
 #pragma once
 
+#include <cstdint>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace ostrelum {
 
@@ -25,8 +26,20 @@ private:
     std::string_view paragraph_;
 };
 
-/// The paragraph of a logical processor, or the first one where they are not numbered.
-CpuRecord cpu_record(std::string_view cpuinfo, std::uint64_t cpu);
+/// All of /proc/cpuinfo.
+class CpuInfo {
+public:
+    explicit CpuInfo(std::string text);
+    CpuInfo(const CpuInfo&) = delete;
+    CpuInfo& operator=(const CpuInfo&) = delete;
+
+    /// The paragraph of a logical processor; all of the text where the processors are not numbered.
+    CpuRecord of(std::uint64_t cpu) const;
+
+private:
+    std::string text_;
+    std::map<std::uint64_t, CpuRecord> records_;
+};
 
 /// Makers and names of ARM processors by the codes of their identification register (MIDR_EL1: Arm
 /// Architecture Reference Manual; part numbers from the processors' Technical Reference Manuals).

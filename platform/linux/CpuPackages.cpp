@@ -45,7 +45,29 @@ std::optional<std::uint64_t> kilobytes_of(const std::string& text)
                     : std::nullopt;
 }
 
+/// The names of a processor's caches of a level. All processors of a package number their caches
+/// alike, so one is asked for all.
+std::vector<std::string> caches_of_level(const Sysroot& root, std::uint64_t cpu,
+                                         std::uint64_t level)
+{
+    std::vector<std::string> names;
+    for (const std::string& name : root.list(cpu_file(cpu, "cache"))) {
+        const std::string folder = cpu_file(cpu, "cache/") + name;
+        if (name.starts_with("index") && root.number(folder + "/level") == level &&
+            root.text(folder + "/type") != "Instruction")
+            names.push_back(name);
+    }
+    return names;
+}
+
 } // namespace
+
+const CpuInfo& LateCpuInfo::operator()()
+{
+    if (!info_)
+        info_ = std::make_unique<const CpuInfo>(root_.read("/proc/cpuinfo").value_or(""));
+    return *info_;
+}
 
 std::vector<std::uint64_t> numbers_of_list(std::string_view list)
 {
@@ -77,26 +99,26 @@ std::vector<CpuPackage> cpu_packages(const MachineView& machine)
         const auto number = machine.root.number(cpu_file(cpu, "topology/physical_package_id"));
         by_number[one ? 0 : number.value_or(0)].push_back(cpu);
     }
+    const auto cpuinfo = std::make_shared<LateCpuInfo>(machine.root);
     std::vector<CpuPackage> packages;
     for (auto& [number, cpus] : by_number)
-        packages.push_back({machine, packages.size(), std::move(cpus)});
+        packages.push_back({machine, packages.size(), std::move(cpus), cpuinfo});
     return packages;
 }
 
 std::optional<std::uint64_t> cache_kilobytes(const CpuPackage& package, std::uint64_t level)
 {
     const Sysroot& root = package.machine.root;
+    const std::vector<std::string> indices = caches_of_level(root, package.cpus.front(), level);
     std::set<std::string> counted;
     std::optional<std::uint64_t> sum;
     for (const std::uint64_t cpu : package.cpus) {
-        for (const std::string& index : root.list(cpu_file(cpu, "cache"))) {
+        for (const std::string& index : indices) {
             const std::string folder = cpu_file(cpu, "cache/") + index;
-            if (!index.starts_with("index") || root.number(folder + "/level") != level ||
-                root.text(folder + "/type") == "Instruction")
+            const auto sharers = root.text(folder + "/shared_cpu_map");
+            if (!counted.insert(sharers.value_or(folder)).second)
                 continue;
-            const auto size = kilobytes_of(root.text(folder + "/size").value_or(""));
-            const std::string sharers = root.text(folder + "/shared_cpu_map").value_or(folder);
-            if (size && counted.insert(sharers).second)
+            if (const auto size = kilobytes_of(root.text(folder + "/size").value_or("")))
                 sum = sum.value_or(0) + *size;
         }
     }

@@ -1,12 +1,26 @@
 #pragma once
 
 #include "platform/linux/Classes.h"
+#include "platform/linux/CpuInfo.h"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <vector>
 
 namespace ostrelum {
+
+/// /proc/cpuinfo, read when it is first asked for: the kernel makes it anew each time, and on large
+/// machines that takes a while.
+class LateCpuInfo {
+public:
+    explicit LateCpuInfo(const Sysroot& root) : root_(root) {}
+    const CpuInfo& operator()();
+
+private:
+    const Sysroot& root_;
+    std::unique_ptr<const CpuInfo> info_;
+};
 
 /// A processor as one buys it: the logical processors of one package that are in use, in rising
 /// order.
@@ -15,6 +29,8 @@ struct CpuPackage {
     /// Place among the machine's packages, from 0.
     std::size_t place = 0;
     std::vector<std::uint64_t> cpus;
+    /// Shared by the packages.
+    std::shared_ptr<LateCpuInfo> cpuinfo;
 };
 
 /// The machine's packages by their numbers. On machines without firmware tables the kernel's

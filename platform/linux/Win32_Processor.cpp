@@ -15,19 +15,11 @@ namespace {
 
 constexpr std::uint64_t KiloPerMega = 1000;
 
-/// What the kernel says of the package's first processor, with the text that it lies in.
-struct Description {
-    explicit Description(const CpuPackage& package)
-        : cpuinfo(package.machine.root.read("/proc/cpuinfo").value_or("")),
-          record(cpu_record(cpuinfo, package.cpus.front()))
-    {
-    }
-    Description(const Description&) = delete;
-    Description& operator=(const Description&) = delete;
-
-    std::string cpuinfo;
-    CpuRecord record;
-};
+/// What the kernel says of the package's first processor.
+CpuRecord first_record(const CpuPackage& package)
+{
+    return (*package.cpuinfo)().of(package.cpus.front());
+}
 
 /// The codes of the kinds that Linux runs on (CIM schema as the service extends it).
 Value architecture(const CpuPackage& package)
@@ -83,11 +75,11 @@ std::optional<std::string> arm_caption(const CpuRecord& record, bool wide)
 
 Value caption(const CpuPackage& package)
 {
-    const Description cpu(package);
+    const CpuRecord record = first_record(package);
     const std::string kind = kernel_architecture(package.machine).value_or("");
-    if (const auto text = x86_caption(cpu.record, kind == "x86_64"))
+    if (const auto text = x86_caption(record, kind == "x86_64"))
         return *text;
-    return value_of(arm_caption(cpu.record, kind == "aarch64"));
+    return value_of(arm_caption(record, kind == "aarch64"));
 }
 
 /// Mean over the package's processors, in MHz; nothing if none tells its clock.
@@ -107,9 +99,8 @@ std::optional<double> mean(const CpuPackage& package, Clock clock)
 
 std::optional<double> clock_of_cpuinfo(const CpuPackage& package)
 {
-    const Description first(package);
-    return mean(package,
-                [&](std::uint64_t cpu) { return cpu_record(first.cpuinfo, cpu).megahertz(); });
+    const CpuInfo& cpuinfo = (*package.cpuinfo)();
+    return mean(package, [&](std::uint64_t cpu) { return cpuinfo.of(cpu).megahertz(); });
 }
 
 Value whole_megahertz(const std::optional<double>& megahertz)
@@ -130,11 +121,11 @@ Value current_clock(const CpuPackage& package)
 
 std::optional<std::string> model_name(const CpuPackage& package)
 {
-    const Description cpu(package);
-    if (const auto name = cpu.record.text({"model name", "Model Name", "Model", "cpu"}))
+    const CpuRecord record = first_record(package);
+    if (const auto name = record.text({"model name", "Model Name", "Model", "cpu"}))
         return name;
-    const auto implementer = cpu.record.number("CPU implementer");
-    const auto part = cpu.record.number("CPU part");
+    const auto implementer = record.number("CPU implementer");
+    const auto part = record.number("CPU part");
     if (implementer && part) {
         if (const auto name = arm_name(*implementer, *part))
             return name;
@@ -172,10 +163,10 @@ Value l3_cache(const CpuPackage& package)
 
 Value manufacturer(const CpuPackage& package)
 {
-    const Description cpu(package);
-    if (const auto vendor = cpu.record.text({"vendor_id"}))
+    const CpuRecord record = first_record(package);
+    if (const auto vendor = record.text({"vendor_id"}))
         return *vendor;
-    const auto implementer = cpu.record.number("CPU implementer");
+    const auto implementer = record.number("CPU implementer");
     return implementer ? value_of(arm_maker(*implementer)) : Value();
 }
 

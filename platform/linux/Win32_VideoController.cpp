@@ -15,8 +15,15 @@ struct Adapter {
     const MachineView& machine;
     GraphicsCard card;
     bool first;
+    /// Kept, so that width and height are those of one mode even if it changes meanwhile.
+    mutable std::optional<DisplayMode> known_mode = std::nullopt;
 
-    DisplayMode mode() const { return current_mode(machine, card, first); }
+    const DisplayMode& mode() const
+    {
+        if (!known_mode)
+            known_mode = current_mode(machine, card, first);
+        return *known_mode;
+    }
     std::optional<std::string> driver() const { return graphics_driver(machine.root, card); }
 };
 

@@ -126,10 +126,9 @@ TEST(CpuTexts, ListsClocksAndNames)
     for (const char* none : {"AMD Ryzen", "x @ GHz", "GHz @ 2", "x @ 1e9GHz", "x @ -1GHz"})
         EXPECT_FALSE(megahertz_in_name(none)) << none;
     const std::string cpuinfo =
-        "processor\t: 0\ncpu MHz\t\t: 800.5\n\nprocessor\t: 1\ncpu MHz\t\t: 900\n\n";
-    EXPECT_EQ(cpu_record(cpuinfo, 1).megahertz(), 900);
-    EXPECT_EQ(cpu_record(cpuinfo, 7).megahertz(), 800.5)
-        << "the first where there is no such number";
+        "processor\t: 0\ncpu MHz\t\t: 800.5\n\nprocessor\t: 1\ncpu MHz\t\t: 900\n\n");
+    EXPECT_EQ(cpuinfo.of(1).megahertz(), 900);
+    EXPECT_EQ(cpuinfo.of(7).megahertz(), 800.5) << "the first where there is no such number";
 }
 
 /// A firmware structure of type 17 with 34 formatted bytes, and its end of strings.
