@@ -125,7 +125,7 @@ TEST(CpuTexts, ListsClocksAndNames)
     EXPECT_EQ(megahertz_in_name("Intel(R) Core(TM) i5 CPU M 560 @ 2.67GHz"), 2670U);
     for (const char* none : {"AMD Ryzen", "x @ GHz", "GHz @ 2", "x @ 1e9GHz", "x @ -1GHz"})
         EXPECT_FALSE(megahertz_in_name(none)) << none;
-    const std::string cpuinfo =
+    const CpuInfo cpuinfo(
         "processor\t: 0\ncpu MHz\t\t: 800.5\n\nprocessor\t: 1\ncpu MHz\t\t: 900\n\n");
     EXPECT_EQ(cpuinfo.of(1).megahertz(), 900);
     EXPECT_EQ(cpuinfo.of(7).megahertz(), 800.5) << "the first where there is no such number";
