@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <cstdint>
 #include <fcntl.h>
 #include <sys/ioctl.h>
 #include <vector>
@@ -129,8 +130,7 @@ int refresh_of(const ModeInfo& mode)
     return static_cast<int>(refresh);
 }
 
-} // namespace
-
+/// The kernel's name for a connector of a kind by its number, such as "HDMI-A-1".
 std::string connector_label(std::uint32_t type, std::uint32_t number)
 {
     constexpr std::array<const char*, 21> types = {
@@ -139,6 +139,8 @@ std::string connector_label(std::uint32_t type, std::uint32_t number)
         "eDP",     "Virtual",   "DSI",   "DPI",   "Writeback", "SPI",       "USB"};
     return (type < types.size() ? types[type] : types[0]) + ("-" + std::to_string(number));
 }
+
+} // namespace
 
 std::optional<DisplayMode> kernel_mode(const std::string& connector)
 {

@@ -2,7 +2,6 @@
 
 #include "platform/linux/Facts.h"
 
-#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -12,8 +11,5 @@ namespace ostrelum {
 /// for a user who may not open the card, and for a connector that is off. The monitor is not asked:
 /// that takes long.
 std::optional<DisplayMode> kernel_mode(const std::string& connector);
-
-/// The kernel's name for a connector of a kind by its number, such as "HDMI-A-1".
-std::string connector_label(std::uint32_t type, std::uint32_t number);
 
 } // namespace ostrelum
