@@ -70,6 +70,16 @@ PciNames pci_names(const Sysroot& root, const std::string& slot)
     return names;
 }
 
+std::optional<std::string> pci_code(const Sysroot& root, const std::string& slot)
+{
+    const std::string folder = "/sys/bus/pci/devices/" + slot;
+    const auto vendor = number_in(root, folder + "/vendor");
+    const auto device = number_in(root, folder + "/device");
+    if (!vendor || !device)
+        return std::nullopt;
+    return digits(*vendor, 4) + ":" + digits(*device, 4);
+}
+
 std::optional<std::string> usb_vendor(const Sysroot& root, std::uint16_t vendor)
 {
     return HardwareDatabase(root).text("usb:v" + digits(vendor, 4), vendor_key);

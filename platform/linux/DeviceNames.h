@@ -18,6 +18,9 @@ struct PciNames {
 };
 PciNames pci_names(const Sysroot& root, const std::string& slot);
 
+/// The numbers of a PCI device's maker and model, "10DE:1287", for one that has no name.
+std::optional<std::string> pci_code(const Sysroot& root, const std::string& slot);
+
 /// Maker by the number that the USB Implementers Forum gave it; devices on I2C use these numbers
 /// too.
 std::optional<std::string> usb_vendor(const Sysroot& root, std::uint16_t vendor);

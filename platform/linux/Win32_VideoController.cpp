@@ -135,7 +135,10 @@ Value adapter_name(const Adapter& adapter)
     if (names.vendor && names.model)
         return std::string(bracketed_name(*names.vendor)) + " " +
                std::string(bracketed_name(*names.model));
-    return value_of(adapter.driver());
+    const auto driver = adapter.driver();
+    return driver || adapter.card.slot.empty()
+               ? value_of(driver)
+               : value_of(pci_code(adapter.machine.root, adapter.card.slot));
 }
 
 constexpr PropertyRow<Adapter> rows[] = {

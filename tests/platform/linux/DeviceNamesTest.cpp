@@ -40,6 +40,8 @@ TEST(DeviceNames, PublishedOnesComeBeforeTheDatabase)
     machine.file("sys/bus/pci/devices/" + slot + "/device", "0x1287\n");
     const Sysroot root(machine / "");
     EXPECT_FALSE(pci_names(root, slot).vendor);
+    EXPECT_EQ(pci_code(root, slot), "10DE:1287");
+    EXPECT_FALSE(pci_code(root, "0000:02:00.0"));
 
     machine.file("usr/lib/udev/hwdb.bin", database("pci:v000010DE", "Database maker"));
     EXPECT_EQ(pci_names(root, slot).vendor, "Database maker");
