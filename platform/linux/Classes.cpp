@@ -4,11 +4,12 @@ namespace ostrelum {
 namespace {
 
 constexpr const LinuxClass* classes[] = {
-    &Win32_BaseBoard,       &Win32_Battery,        &Win32_BIOS,
-    &Win32_CDROMDrive,      &Win32_ComputerSystem, &Win32_DesktopMonitor,
-    &Win32_DiskDrive,       &Win32_Keyboard,       &Win32_LogicalDisk,
-    &Win32_OperatingSystem, &Win32_PhysicalMemory, &Win32_PointingDevice,
-    &Win32_Processor,       &Win32_SoundDevice,    &Win32_VideoController,
+    &Win32_BaseBoard,           &Win32_Battery,         &Win32_BIOS,
+    &Win32_CDROMDrive,          &Win32_ComputerSystem,  &Win32_DesktopMonitor,
+    &Win32_DiskDrive,           &Win32_Keyboard,        &Win32_LogicalDisk,
+    &Win32_NetworkLoginProfile, &Win32_OperatingSystem, &Win32_PhysicalMemory,
+    &Win32_PointingDevice,      &Win32_Processor,       &Win32_SoundDevice,
+    &Win32_UserAccount,         &Win32_VideoController,
 };
 
 } // namespace

@@ -87,11 +87,13 @@ extern const LinuxClass Win32_DesktopMonitor;
 extern const LinuxClass Win32_DiskDrive;
 extern const LinuxClass Win32_Keyboard;
 extern const LinuxClass Win32_LogicalDisk;
+extern const LinuxClass Win32_NetworkLoginProfile;
 extern const LinuxClass Win32_OperatingSystem;
 extern const LinuxClass Win32_PhysicalMemory;
 extern const LinuxClass Win32_PointingDevice;
 extern const LinuxClass Win32_Processor;
 extern const LinuxClass Win32_SoundDevice;
+extern const LinuxClass Win32_UserAccount;
 extern const LinuxClass Win32_VideoController;
 
 /// The class of that name in any case of its letters; nullptr if Linux does not fill it.

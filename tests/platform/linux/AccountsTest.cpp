@@ -1,0 +1,98 @@
+#include "platform/linux/Accounts.h"
+#include "platform/linux/AccountsService.h"
+#include "platform/linux/LoginRecords.h"
+
+#include <gtest/gtest.h>
+
+namespace ostrelum {
+namespace {
+
+using Bytes8 = std::vector<std::uint8_t>;
+
+/// A record of the log of logins.
+Bytes8 login(std::size_t size, std::uint8_t type, std::string_view user, std::uint32_t seconds)
+{
+    Bytes8 record(size, 0);
+    record[0] = type;
+    std::copy(user.begin(), user.end(), record.begin() + 44);
+    for (std::size_t i = 0; i < 4; ++i)
+        record[(size == WideUtmpBytes ? 344 : 340) + i] =
+            static_cast<std::uint8_t>(seconds >> (8 * i));
+    return record;
+}
+
+TEST(Logins, AreCountedByAccountInBothWidths)
+{
+    const std::string long_name(32, 'n');
+    for (const std::size_t size : {UtmpBytes, WideUtmpBytes}) {
+        Bytes8 log;
+        for (const auto& record :
+             {login(size, 7, "ana", 100), login(size, 8, "ana", 150), login(size, 7, "anabel", 160),
+              login(size, 7, "ana", 200), login(size, 7, long_name, 300)})
+            log.insert(log.end(), record.begin(), record.end());
+        EXPECT_EQ(login_history(log, size, "ana").logins, 2U);
+        EXPECT_EQ(login_history(log, size, "ana").last, 200);
+        EXPECT_EQ(login_history(log, size, long_name).last, 300) << "a name that fills its field";
+        EXPECT_EQ(login_history(log, size, "eva").last, std::nullopt);
+        log.pop_back();
+        EXPECT_EQ(login_history(log, size, long_name).logins, 0U) << "a record that is cut off";
+    }
+}
+
+TEST(Logins, OlderFilesGiveTheLastOneAndFailures)
+{
+    Bytes8 lastlog(2 * 292, 0);
+    lastlog[292] = 77;
+    EXPECT_EQ(last_login(lastlog, 1), 77);
+    for (const std::uint64_t never : {std::uint64_t{0}, std::uint64_t{2}, UINT64_MAX})
+        EXPECT_EQ(last_login(lastlog, never), std::nullopt) << never;
+    Bytes8 failures(3 * 64 + 10, 0);
+    failures[54] = 1;
+    failures[64 + 54] = 2;
+    failures[128 + 54] = 3;
+    EXPECT_EQ(failed_logins(failures), 2U);
+}
+
+TEST(Accounts, ReadTheLinesThatAreWhole)
+{
+    const auto accounts =
+        parse_passwd("root:x:0:0:root:/root:/bin/sh\nbroken\nx:x:no:1::/:\n:x:5:5::/:\n"
+                     "ana:x:1000:1000:Ana Nogal,room 3,,:/home/ana:/bin/bash\neva:x:1001:100");
+    ASSERT_EQ(accounts.size(), 3U);
+    EXPECT_EQ(accounts[1].full_name, "Ana Nogal");
+    EXPECT_EQ(accounts[2].gid, 100U);
+}
+
+TEST(Accounts, AdministerByMembershipOrPrimaryGroup)
+{
+    const std::string groups =
+        "sudo:x:27:ana, eva\nwheel:x:10:\nusers:x:100:joe\nsudoers:x:28:joe\n";
+    const struct {
+        Account account;
+        bool administers;
+    } cases[] = {{{"ana", 1000, 1000, ""}, true},
+                 {{"eva", 1001, 1001, ""}, true},
+                 {{"an", 1002, 1002, ""}, false},
+                 {{"joe", 1003, 100, ""}, false},
+                 {{"kim", 1004, 10, ""}, true}};
+    for (const auto& c : cases)
+        EXPECT_EQ(administers(groups, c.account), c.administers) << c.account.name;
+}
+
+TEST(PasswordPolicies, FollowTheAges)
+{
+    const struct {
+        std::int64_t changed, shortest, longest;
+        bool expires, changeable;
+    } cases[] = {{19000, 0, 99999, false, true}, {19000, 0, -1, false, true},
+                 {19000, 0, 90, true, true},     {19995, 7, 90, true, false},
+                 {19993, 7, 99999, false, true}, {-1, 7, 90, true, true}};
+    for (const auto& c : cases) {
+        const PasswordPolicy policy = policy_of_ages(c.changed, c.shortest, c.longest, 20000);
+        EXPECT_EQ(policy.expires, c.expires) << c.longest;
+        EXPECT_EQ(policy.changeable, c.changeable) << c.changed << " " << c.shortest;
+    }
+}
+
+} // namespace
+} // namespace ostrelum
