@@ -20,7 +20,7 @@ public:
 
     std::uint8_t type() const { return formatted_[0]; }
 
-    /// A field by its offset in the structure, as the specification numbers them. Nothing for one
+    /// A field by its offset in the structure, as the standard numbers them. Nothing for one
     /// that ends behind the structure: older firmware has shorter ones.
     std::optional<std::uint8_t> byte(std::size_t offset) const;
     std::optional<std::uint16_t> word(std::size_t offset) const;
