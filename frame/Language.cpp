@@ -79,7 +79,7 @@ void TraduPrincipal()
         translate_customise_panel();
     translate_options_menu();
     for (int n = 1; n <= F1.LMenu.count; ++n) {
-        F1.LMenu(n).Caption = Trad[static_cast<std::size_t>(n + 10)];
+        F1.LMenu(n).Caption = Trad[static_cast<std::size_t>(n) + 10];
         if (n == F1.SeccionPrev)
             F1.LMenu2.Caption = F1.LMenu(n).Caption;
     }

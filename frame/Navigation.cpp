@@ -40,7 +40,7 @@ bool in_tab(int x, int y)
 void collect(int index)
 {
     F1.BM.Top = FirstRowTop + RowHeight * (index - 1);
-    F1.LMenu2.Caption = Trad[static_cast<std::size_t>(index + 10)];
+    F1.LMenu2.Caption = Trad[static_cast<std::size_t>(index) + 10];
     F1.BM.Visible = true;
     collectors[static_cast<std::size_t>(index - 1)]();
 }
