@@ -91,7 +91,8 @@ class Desktop:
 
     def press_close(self, window, times=1):
         """Asks the window manager to close the window, as its close button does."""
-        self.call("xdotool", "windowfocus", "--sync", window)
+        self.call("xdotool", "windowactivate", window)
+        wait_for(lambda: self.call("xdotool", "getactivewindow") == window)
         self.call("xdotool", "key", "--delay", "20", *["alt+F4"] * times)
 
     def clipboard(self):
