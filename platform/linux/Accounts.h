@@ -35,8 +35,9 @@ PersonRange person_range(const Sysroot& root);
 /// administer the machine.
 bool administers(std::string_view groups, const Account& account);
 
-/// The accounts of root, of persons, and of the user who runs the program, in the file's order.
-/// Directories on the network are not asked: they may not answer.
+/// The accounts of root, of persons, and of the user who runs the program, in the order of
+/// /etc/passwd; the last of them behind the others if that file does not have it. Directories on
+/// the network are not asked for all that they hold: they may not answer.
 std::vector<Account> local_accounts(const MachineView& machine);
 
 } // namespace ostrelum

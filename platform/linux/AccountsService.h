@@ -17,8 +17,12 @@ PasswordPolicy policy_of_ages(std::int64_t last_change, std::int64_t shortest, s
                               std::int64_t today);
 
 /// The policy of an account of this machine as the accounts service on the system bus tells it.
-/// Nothing where there is no bus or no such service, where it does not answer within half a second,
-/// and where it wants a proof of identity first.
+/// Nothing where there is no bus or no such service, where all its answers together take more than
+/// half a second, and where it wants a proof of identity first.
 std::optional<PasswordPolicy> password_policy(std::uint64_t uid);
+
+/// When an account last logged in, in seconds since 1970, as the same service tells it. Nothing
+/// where it does not, and for never.
+std::optional<std::int64_t> login_time(std::uint64_t uid);
 
 } // namespace ostrelum

@@ -15,10 +15,22 @@ std::uint64_t little_endian(Record bytes, std::size_t at, std::size_t count)
     return number;
 }
 
-bool is_user_login(Record record)
+constexpr std::uint64_t UserProcess = 7;
+
+std::uint64_t type_of(Record record)
 {
-    constexpr std::uint64_t UserProcess = 7;
-    return little_endian(record, 0, 2) == UserProcess;
+    return little_endian(record, 0, 2);
+}
+
+/// From RUN_LVL to ACCOUNTING (utmp(5)).
+std::size_t records_of_known_type(Record log, std::size_t record_bytes)
+{
+    std::size_t count = 0;
+    for (; log.size() >= record_bytes; log = log.subspan(record_bytes)) {
+        const std::uint64_t type = type_of(log);
+        count += type >= 1 && type <= 9 ? 1U : 0U;
+    }
+    return count;
 }
 
 /// The account's name fills 32 bytes at 44, or ends with a NUL.
@@ -39,12 +51,21 @@ std::int64_t time_of(Record record)
 
 } // namespace
 
+std::size_t utmp_bytes(Record log, std::size_t otherwise)
+{
+    const std::size_t narrow = records_of_known_type(log, UtmpBytes);
+    const std::size_t wide = records_of_known_type(log, WideUtmpBytes);
+    if (narrow == wide)
+        return otherwise;
+    return wide > narrow ? WideUtmpBytes : UtmpBytes;
+}
+
 LoginHistory login_history(Record log, std::size_t record_bytes, std::string_view account)
 {
     LoginHistory history;
     for (; log.size() >= record_bytes; log = log.subspan(record_bytes)) {
         const Record record = log.first(record_bytes);
-        if (!is_user_login(record) || !names(record, account))
+        if (type_of(record) != UserProcess || !names(record, account))
             continue;
         ++history.logins;
         history.last = time_of(record);
@@ -52,14 +73,13 @@ LoginHistory login_history(Record log, std::size_t record_bytes, std::string_vie
     return history;
 }
 
-std::optional<std::int64_t> last_login(Record file, std::uint64_t uid)
+std::optional<std::int64_t> last_login(Record record)
 {
-    constexpr std::size_t RecordBytes = 292;
-    if (uid >= file.size() / RecordBytes)
+    const bool wide = record.size() == lastlog_bytes(WideUtmpBytes);
+    if (!wide && record.size() != lastlog_bytes(UtmpBytes))
         return std::nullopt;
-    const std::uint64_t seconds =
-        little_endian(file, static_cast<std::size_t>(uid) * RecordBytes, 4);
-    return seconds != 0 ? std::optional(static_cast<std::int64_t>(seconds)) : std::nullopt;
+    const auto seconds = static_cast<std::int64_t>(little_endian(record, 0, wide ? 8 : 4));
+    return seconds > 0 ? std::optional(seconds) : std::nullopt;
 }
 
 std::uint32_t failed_logins(Record file)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -19,12 +20,23 @@ struct LoginHistory {
 inline constexpr std::size_t UtmpBytes = 384;
 inline constexpr std::size_t WideUtmpBytes = 400;
 
+/// The width of a log's records: the one by which more of them are of a known type. The kernel does
+/// not tell it, since a system of 32 bits may run on a kernel of 64. `otherwise` where the log does
+/// not tell it either.
+std::size_t utmp_bytes(std::span<const std::uint8_t> log, std::size_t otherwise);
+
 LoginHistory login_history(std::span<const std::uint8_t> log, std::size_t record_bytes,
                            std::string_view account);
 
-/// When an account last logged in (the file lastlog, records of 292 bytes by user number), in
-/// seconds since 1970. Nothing for never and for a number that the file does not hold.
-std::optional<std::int64_t> last_login(std::span<const std::uint8_t> file, std::uint64_t uid);
+/// Bytes of a record of the file lastlog, which stand by user number, beside each width of the log.
+constexpr std::size_t lastlog_bytes(std::size_t record_bytes)
+{
+    return record_bytes == WideUtmpBytes ? 296 : 292;
+}
+
+/// When an account last logged in, by its whole record of lastlog: in seconds since 1970. Nothing
+/// for never.
+std::optional<std::int64_t> last_login(std::span<const std::uint8_t> record);
 
 /// How many failed logins still count against an account (pam_faillock(8), records of 64 bytes).
 std::uint32_t failed_logins(std::span<const std::uint8_t> file);

@@ -1,10 +1,10 @@
 #include "platform/linux/Accounts.h"
+#include "platform/linux/AccountsService.h"
 #include "platform/linux/CimDateTime.h"
 #include "platform/linux/Classes.h"
-#include "platform/linux/KernelFacts.h"
-#include "platform/linux/LoginRecords.h"
+#include "platform/linux/LoginFiles.h"
 
-#include <array>
+#include <memory>
 #include <vector>
 
 namespace ostrelum {
@@ -13,31 +13,13 @@ namespace {
 struct Profile {
     const MachineView& machine;
     Account account;
+    /// One for all profiles of a query.
+    std::shared_ptr<LoginFiles> files;
 };
 
-std::span<const std::uint8_t> bytes_of(const std::string& text)
-{
-    return {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()};
-}
-
-/// A log of logins may be large; only so much of it is read.
-constexpr std::size_t LongestLog = std::size_t{64} << 20;
-
-std::optional<LoginHistory> history_in(const Profile& profile, const char* path)
-{
-    const auto log = profile.machine.root.read(path, LongestLog);
-    if (!log)
-        return std::nullopt;
-    const std::string kind = kernel_architecture(profile.machine).value_or("");
-    const bool wide = kind == "aarch64" || kind == "riscv64" || kind == "loongarch64";
-    return login_history(bytes_of(*log), wide ? WideUtmpBytes : UtmpBytes, profile.account.name);
-}
-
-/// Only the system's own user may count them for others.
 Value bad_password_count(const Profile& profile)
 {
-    const auto file = profile.machine.root.read("/run/faillock/" + profile.account.name);
-    return file ? Value(failed_logins(bytes_of(*file))) : Value();
+    return value_of(profile.files->failures(profile.account));
 }
 
 Value name(const Profile& profile)
@@ -45,30 +27,27 @@ Value name(const Profile& profile)
     return profile.account.name;
 }
 
-Value datetime(const Profile& profile, std::int64_t seconds)
+/// The service is asked for the user's own account alone, so that a dead one makes a query wait but
+/// once.
+std::optional<std::int64_t> last_login_of(const Profile& profile)
 {
-    return value_of(cim_datetime(seconds, profile.machine.facts->utc_offset(seconds)));
+    if (const auto told = profile.files->last(profile.account))
+        return told;
+    const MachineView& machine = profile.machine;
+    const bool own = machine.facts->user_id() == profile.account.uid;
+    return own && machine.root.is_live() ? login_time(profile.account.uid) : std::nullopt;
 }
 
 Value last_logon(const Profile& profile)
 {
-    const auto history = history_in(profile, "/var/log/wtmp");
-    if (history && history->last)
-        return datetime(profile, *history->last);
-    const auto file = profile.machine.root.read("/var/log/lastlog", LongestLog);
-    const auto last = file ? last_login(bytes_of(*file), profile.account.uid) : std::nullopt;
-    return last ? datetime(profile, *last) : Value();
+    const auto moment = last_login_of(profile);
+    return moment ? value_of(cim_datetime(*moment, profile.machine.facts->utc_offset(*moment)))
+                  : Value();
 }
 
-/// Since the log before this one was begun.
 Value number_of_logons(const Profile& profile)
 {
-    std::optional<std::uint32_t> logons;
-    for (const char* path : {"/var/log/wtmp", "/var/log/wtmp.1"}) {
-        if (const auto history = history_in(profile, path))
-            logons = logons.value_or(0) + history->logins;
-    }
-    return value_of(logons);
+    return value_of(profile.files->count(profile.account));
 }
 
 Value privileges(const Profile& profile)
@@ -91,12 +70,13 @@ constexpr PropertyRow<Profile> rows[] = {
     {"Privileges", privileges},
 };
 
-/// In the order of /etc/passwd.
+/// In the order of local_accounts().
 std::vector<Profile> profiles(const MachineView& machine)
 {
+    const auto files = std::make_shared<LoginFiles>(machine);
     std::vector<Profile> profiles;
     for (Account& account : local_accounts(machine))
-        profiles.push_back({machine, std::move(account)});
+        profiles.push_back({machine, std::move(account), files});
     return profiles;
 }
 

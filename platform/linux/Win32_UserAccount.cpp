@@ -10,6 +10,8 @@ namespace {
 struct LocalAccount {
     const MachineView& machine;
     Account account;
+    /// Asked for once for all properties.
+    mutable std::optional<std::optional<PasswordPolicy>> policy = {};
 };
 
 /// UF_NORMAL_ACCOUNT: the machine knows no other kind.
@@ -31,10 +33,12 @@ Value name(const LocalAccount& local)
 /// The rules for the password of the user's own account; others' are not told.
 std::optional<PasswordPolicy> policy(const LocalAccount& local)
 {
-    const bool own = local.machine.facts->user_id() == local.account.uid;
-    if (!own || !local.machine.root.is_live())
-        return std::nullopt;
-    return password_policy(local.account.uid);
+    if (!local.policy) {
+        const bool own = local.machine.facts->user_id() == local.account.uid;
+        local.policy =
+            own && local.machine.root.is_live() ? password_policy(local.account.uid) : std::nullopt;
+    }
+    return *local.policy;
 }
 
 Value password_changeable(const LocalAccount& local)
@@ -58,7 +62,7 @@ constexpr PropertyRow<LocalAccount> rows[] = {
     {"PasswordExpires", password_expires},
 };
 
-/// In the order of /etc/passwd.
+/// In the order of local_accounts().
 std::vector<LocalAccount> accounts(const MachineView& machine)
 {
     std::vector<LocalAccount> accounts;

@@ -1,8 +1,9 @@
 #include "platform/linux/Accounts.h"
 #include "platform/linux/AccountsService.h"
 #include "platform/linux/LoginRecords.h"
+#include "tests/platform/linux/MadeMachine.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 namespace ostrelum {
 namespace {
@@ -39,13 +40,48 @@ TEST(Logins, AreCountedByAccountInBothWidths)
     }
 }
 
+TEST(Logins, TellTheirWidthThemselves)
+{
+    for (const std::size_t size : {UtmpBytes, WideUtmpBytes}) {
+        const std::size_t other = size == UtmpBytes ? WideUtmpBytes : UtmpBytes;
+        Bytes8 log;
+        // 9600 bytes are whole records of both widths.
+        while (log.size() < 9600) {
+            const Bytes8 record = login(size, log.empty() ? 2 : 7, "ana", 1700000000);
+            log.insert(log.end(), record.begin(), record.end());
+        }
+        EXPECT_EQ(utmp_bytes(log, other), size);
+        EXPECT_EQ(utmp_bytes(std::span(log).first(size - 1), other), other) << "cut";
+    }
+    EXPECT_EQ(utmp_bytes(Bytes8(4800, 0xFF), WideUtmpBytes), WideUtmpBytes);
+}
+
+/// Reading by user number, and what a name may do to a path, need the files themselves.
+TEST(Logins, ComeFromTheFilesOfTheAccount)
+{
+    const MadeMachine machine;
+    machine.file("etc/passwd", "root:x:0:0::/:\nana:x:1000:5::/:\n../ana:x:1001:5::/:\n");
+    const std::string log(1000 * 292, '\0');
+    machine.file("var/log/lastlog",
+                 log + std::string("\x80\x51\x01", 3) + std::string(289 + 200, '\0'));
+    machine.file("run/faillock/ana", std::string(54, '\0') + '\1' + std::string(9, '\0'));
+    machine.file("run/ana", std::string(64, '\1'));
+    const std::string query =
+        "Select BadPasswordCount, LastLogon, NumberOfLogons from Win32_NetworkLoginProfile";
+    EXPECT_THAT(machine.rows(query),
+                testing::ElementsAre("null|null|root|null", "1|19700102000000.000000+000|ana|null",
+                                     "null|null|../ana|null"));
+}
+
 TEST(Logins, OlderFilesGiveTheLastOneAndFailures)
 {
-    Bytes8 lastlog(2 * 292, 0);
-    lastlog[292] = 77;
-    EXPECT_EQ(last_login(lastlog, 1), 77);
-    for (const std::uint64_t never : {std::uint64_t{0}, std::uint64_t{2}, UINT64_MAX})
-        EXPECT_EQ(last_login(lastlog, never), std::nullopt) << never;
+    for (const std::size_t size : {lastlog_bytes(UtmpBytes), lastlog_bytes(WideUtmpBytes)}) {
+        Bytes8 record(size, 0);
+        EXPECT_EQ(last_login(record), std::nullopt) << "never";
+        record[0] = 77;
+        EXPECT_EQ(last_login(record), 77);
+        EXPECT_EQ(last_login(std::span(record).first(size - 1)), std::nullopt) << "cut";
+    }
     Bytes8 failures(3 * 64 + 10, 0);
     failures[54] = 1;
     failures[64 + 54] = 2;
