@@ -95,6 +95,14 @@ class Desktop:
         wait_for(lambda: self.call("xdotool", "getactivewindow") == window)
         self.call("xdotool", "key", "--delay", "20", *["alt+F4"] * times)
 
+    def close_program(self, program, window):
+        """Closes the program's window, again if the window manager was not listening yet; the exit code."""
+        for _ in range(5):
+            self.press_close(window)
+            if wait_for(lambda: program.poll() is not None, 3):
+                break
+        return program.poll()
+
     def clipboard(self):
         """The clipboard's text, line ends as they are."""
         done = subprocess.run(["xclip", "-selection", "clipboard", "-o"], env=self.environment,

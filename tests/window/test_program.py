@@ -32,8 +32,7 @@ class ProgramTest(unittest.TestCase):
             for name, default in (("Language", "English"), ("ColorValue", "16750080"), ("ShineValue", "48"),
                                   ("ChkTrans", "1"), ("Transparency", "0")):
                 self.assertRegex(desktop.read_settings(), f"(?m)^{name}\\b.*{default}")
-            desktop.press_close(window)
-            self.assertEqual(program.wait(10), 0)
+            self.assertEqual(desktop.close_program(program, window), 0)
 
     def test_window_is_as_transparent_as_the_settings_say(self):
         with Desktop(ground="#ff0000") as desktop:
@@ -49,8 +48,7 @@ class ProgramTest(unittest.TestCase):
             program = desktop.start_program()
             window = desktop.window()
             self.assertTrue(wait_for(lambda: near(desktop.pixel(window, *PAGE), (255, 255, 255), 0)))
-            desktop.press_close(window)
-            self.assertEqual(program.wait(10), 0)
+            self.assertEqual(desktop.close_program(program, window), 0)
 
     def test_a_second_instance_shows_nothing_and_a_killed_one_leaves_no_lock(self):
         with Desktop() as desktop:
@@ -112,7 +110,7 @@ class ProgramTest(unittest.TestCase):
             program = desktop.start_program()
             window = desktop.window()
             desktop.press_close(window, times=3)
-            self.assertEqual(program.wait(10), 0)
+            self.assertEqual(desktop.close_program(program, window), 0)
 
 
 if __name__ == "__main__":
