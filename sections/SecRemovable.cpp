@@ -82,16 +82,7 @@ void show_drives()
 {
     F1.Titulo.Caption = Trad[21];
     hide(F1.LNoDrive);
-    plain_title(1);
-    plain_title(8);
-    set_list_row(1, Trad[36], Datos[1], NameTail);
-    set_list_row(2, Trad[100], Datos[2], NameTail);
-    set_list_row(3, Trad[101], Datos[3], SizeTail);
-    set_list_row(4, Trad[102], Datos[4], SizeTail);
-    set_list_row(5, Trad[103], Datos[5], SizeTail);
-    set_list_row(6, Trad[104], Datos[6], NameTail);
-    set_list_row(7, Trad[105], Datos[7], NameTail);
-    set_list_row(8, Trad[74], Datos[8], NameTail);
+    set_volume_rows();
     clear_title_tooltips(3, 5);
     place_line(F1.Line1, 9, 4);
     show_alert(MediaFound, count_text());
