@@ -1,0 +1,53 @@
+#include "platform/linux/Sysroot.h"
+#include "platform/system/Failure.h"
+#include "window/Window.h"
+
+#include <iostream>
+#include <string_view>
+
+using namespace ostrelum;
+
+namespace {
+
+constexpr const char* usage = "Usage: ostrelum-showcase --sysroot DIR [--user NAME]\n"
+                              "\n"
+                              "Shows a recorded machine in the program's window.\n"
+                              "  --sysroot DIR  root folder of the machine\n"
+                              "  --user NAME    the account of the user page\n";
+
+/// What the command line asks for; nothing if it is wrong.
+std::optional<ShownMachine> read_options(int argc, char** argv)
+{
+    ShownMachine shown;
+    for (int i = 1; i < argc; i += 2) {
+        const std::string_view name = argv[i];
+        const std::string value = i + 1 < argc ? argv[i + 1] : "";
+        if (value.empty() || (name != "--sysroot" && name != "--user"))
+            return std::nullopt;
+        if (name == "--sysroot")
+            shown.root = value;
+        else
+            shown.user = value;
+    }
+    return argc > 1 ? std::optional(shown) : std::nullopt;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const auto shown = read_options(argc, argv);
+    if (!shown) {
+        std::cerr << usage;
+        return 2;
+    }
+    try {
+        // Opened here, since the window passes over a machine that is not there.
+        const Sysroot there(shown->root);
+    } catch (const Failure& failure) {
+        std::cerr << "ostrelum-showcase: " << failure.what() << '\n';
+        return 1;
+    }
+    int own_name = 1;
+    return run_window(own_name, argv, *shown);
+}
