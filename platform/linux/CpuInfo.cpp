@@ -43,6 +43,15 @@ std::optional<double> CpuRecord::megahertz() const
                  : std::nullopt;
 }
 
+std::optional<double> CpuRecord::rated_megahertz() const
+{
+    const std::string flags = text({"flags"}).value_or("");
+    const auto words = words_of(flags);
+    const auto doubled = real_number(text({"bogomips"}).value_or(""));
+    const bool constant = std::ranges::find(words, "constant_tsc") != words.end();
+    return constant && doubled ? std::optional(*doubled / 2) : std::nullopt;
+}
+
 CpuInfo::CpuInfo(std::string text) : text_(std::move(text))
 {
     for (std::string_view rest = text_; !rest.empty();) {

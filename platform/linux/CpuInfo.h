@@ -21,6 +21,9 @@ public:
     std::optional<std::uint64_t> number(std::string_view label) const;
     /// The clock in MHz.
     std::optional<double> megahertz() const;
+    /// The rated clock in MHz, for an x86 processor whose time stamp counter keeps to it (flag
+    /// "constant_tsc"): the kernel's "bogomips" is then twice that counter's.
+    std::optional<double> rated_megahertz() const;
 
 private:
     std::string_view paragraph_;

@@ -6,8 +6,10 @@
 #include "platform/linux/Smbios.h"
 #include "platform/linux/Text.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
+#include <set>
 #include <vector>
 
 namespace ostrelum {
@@ -119,37 +121,65 @@ Value current_clock(const CpuPackage& package)
     return whole_megahertz(scaled ? scaled : clock_of_cpuinfo(package));
 }
 
+/// The kinds of core of an ARM package, in the order of its processors: "Cortex-A53 + Cortex-A73".
+std::optional<std::string> arm_model_name(const CpuPackage& package)
+{
+    std::set<std::pair<std::uint64_t, std::uint64_t>> seen;
+    std::optional<std::string> names;
+    for (const std::uint64_t cpu : package.cpus) {
+        const CpuRecord record = (*package.cpuinfo)().of(cpu);
+        const auto implementer = record.number("CPU implementer");
+        const auto part = implementer ? record.number("CPU part") : std::nullopt;
+        // A record without them is of another kind of processor, and so are the rest.
+        if (!part)
+            return std::nullopt;
+        const auto name =
+            seen.emplace(*implementer, *part).second ? arm_name(*implementer, *part) : std::nullopt;
+        if (name)
+            names = names ? *names + " + " + *name : *name;
+    }
+    return names;
+}
+
+/// Where 32-bit ARM kernels have a "model name", it is that of the instruction set.
 std::optional<std::string> model_name(const CpuPackage& package)
 {
-    const CpuRecord record = first_record(package);
-    if (const auto name = record.text({"model name", "Model Name", "Model", "cpu"}))
+    if (auto name = arm_model_name(package))
         return name;
-    const auto implementer = record.number("CPU implementer");
-    const auto part = record.number("CPU part");
-    if (implementer && part) {
-        if (const auto name = arm_name(*implementer, *part))
-            return name;
-    }
+    if (auto name = first_record(package).text({"model name", "Model Name", "Model", "cpu"}))
+        return name;
     return package.machine.root.text("/proc/device-tree/cpus/cpu@0/compatible");
+}
+
+/// The figure of the package's fastest core: cores differ, and the first is often a slow one. All
+/// have the file or none.
+std::optional<std::uint64_t> fastest(const CpuPackage& package, const char* file)
+{
+    std::optional<std::uint64_t> highest;
+    for (const std::uint64_t cpu : package.cpus) {
+        const auto clock = package.machine.root.number(cpu_file(cpu, file));
+        if (!clock)
+            break;
+        highest = std::max(highest.value_or(0), *clock);
+    }
+    return highest;
 }
 
 /// The rated clock: what the processor is sold with, not what it may reach for a moment.
 Value max_clock(const CpuPackage& package)
 {
-    const Sysroot& root = package.machine.root;
-    const std::uint64_t cpu = package.cpus.front();
-    if (const auto kilohertz = root.number(cpu_file(cpu, "cpufreq/base_frequency")))
+    if (const auto kilohertz = fastest(package, "cpufreq/base_frequency"))
         return *kilohertz / KiloPerMega;
-    if (const auto megahertz = root.number(cpu_file(cpu, "acpi_cppc/nominal_freq"));
-        megahertz && *megahertz != 0)
-        return *megahertz;
+    if (const auto megahertz = fastest(package, "acpi_cppc/nominal_freq").value_or(0))
+        return megahertz;
     if (const auto megahertz = megahertz_in_name(model_name(package).value_or("")))
         return *megahertz;
     for (const char* file : {"cpufreq/bios_limit", "cpufreq/cpuinfo_max_freq"}) {
-        if (const auto kilohertz = root.number(cpu_file(cpu, file)))
+        if (const auto kilohertz = fastest(package, file))
             return *kilohertz / KiloPerMega;
     }
-    return whole_megahertz(clock_of_cpuinfo(package));
+    const auto rated = first_record(package).rated_megahertz();
+    return whole_megahertz(rated ? rated : clock_of_cpuinfo(package));
 }
 
 Value l2_cache(const CpuPackage& package)
