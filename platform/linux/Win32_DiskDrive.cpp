@@ -55,18 +55,22 @@ std::optional<std::string> model_of_identity(const Drive& drive)
     return text_or_none(rest.substr(0, ModelWidth));
 }
 
+/// Without its coded form udev's model is the kernel's with other characters in place of the
+/// unusual ones.
 Value caption(const Drive& drive)
 {
     const Sysroot& root = drive.machine.root;
     const UdevRecord udev(root, "b" + device_number(root, drive.name).value_or(""));
-    for (const char* key : {"ID_MODEL_ENC", "ID_MODEL", "ID_NAME"}) {
-        if (const auto model = udev.text(key))
-            return *model;
-    }
+    if (const auto model = udev.text("ID_MODEL_ENC"))
+        return *model;
     if (const auto model = model_of_identity(drive))
         return *model;
     for (const char* file : {"/device/model", "/device/name"}) {
         if (const auto model = root.text(drive.folder() + file))
+            return *model;
+    }
+    for (const char* key : {"ID_MODEL", "ID_NAME"}) {
+        if (const auto model = udev.text(key))
             return *model;
     }
     return drive.name.starts_with("vd") ? Value("VirtIO Disk") : Value();
