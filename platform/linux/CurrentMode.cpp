@@ -74,20 +74,35 @@ std::optional<std::string> console_folder(const Sysroot& root, const GraphicsCar
     return firmwares ? std::optional(fallback) : std::nullopt;
 }
 
-/// "1920,1080".
-bool read_size(std::string_view text, DisplayMode& mode)
+/// "1920,1080" with a comma between.
+bool read_size(std::string_view text, char between, DisplayMode& mode)
 {
-    const std::size_t comma = text.find(',');
-    if (comma == std::string_view::npos)
+    const std::size_t middle = text.find(between);
+    if (middle == std::string_view::npos)
         return false;
     constexpr std::uint64_t widest = 0xFFFF;
-    const auto width = whole_number(text.substr(0, comma));
-    const auto height = whole_number(text.substr(comma + 1));
+    const auto width = whole_number(text.substr(0, middle));
+    const auto height = whole_number(text.substr(middle + 1));
     if (!width || !height || *width > widest || *height > widest)
         return false;
     mode.width = static_cast<int>(*width);
     mode.height = static_cast<int>(*height);
     return true;
+}
+
+/// The size that is shown: of the mode in use, "U:1920x1080p-0", or of the only one that there is.
+/// The picture memory may be higher than that, to scroll in.
+bool read_console_size(const Sysroot& root, const std::string& folder, DisplayMode& mode)
+{
+    auto shown = root.text(folder + "/mode");
+    if (!shown)
+        shown = root.text(folder + "/modes");
+    const std::string_view text = shown ? std::string_view(*shown) : std::string_view();
+    const std::size_t begin = text.find(':') + 1;
+    const std::size_t end = text.find_first_not_of("0123456789x", begin);
+    if (text.find('\n') == text.npos && read_size(text.substr(begin, end - begin), 'x', mode))
+        return true;
+    return read_size(root.text(folder + "/virtual_size").value_or(""), ',', mode);
 }
 
 /// The consoles' mode. The kernel does not tell its refresh rate: it is that of the monitor's own
@@ -96,7 +111,7 @@ DisplayMode console_mode(const MachineView& machine, const GraphicsCard& card, b
 {
     DisplayMode mode;
     const auto folder = console_folder(machine.root, card, first);
-    if (!folder || !read_size(machine.root.text(*folder + "/virtual_size").value_or(""), mode))
+    if (!folder || !read_console_size(machine.root, *folder, mode))
         return mode;
     mode.bits_per_pixel = static_cast<int>(
         std::min<std::uint64_t>(machine.root.number(*folder + "/bits_per_pixel").value_or(0), 64));

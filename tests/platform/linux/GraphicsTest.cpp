@@ -115,6 +115,12 @@ TEST(Graphics, TheModeIsTheSessionsThenTheKernelsThenTheConsoles)
     machine.file("sys/class/drm/card0-DP-1/enabled", "disabled\n");
     EXPECT_THAT(machine.rows(Mode), ElementsAre("32|1024|null|768"))
         << "a card at rest is not woken";
+    machine.file(console + "virtual_size", "1024,1536\n");
+    machine.file(console + "modes", "U:1024x768p-0\n");
+    EXPECT_THAT(machine.rows(Mode), ElementsAre("32|1024|null|768")) << "room to scroll in";
+    machine.file(console + "modes", "U:640x480p-60\nU:800x600p-60\n");
+    machine.file(console + "mode", "U:800x600p-60\n");
+    EXPECT_THAT(machine.rows(Mode), ElementsAre("32|800|null|600")) << "the one in use";
 }
 
 TEST(Graphics, EachCardHasItsScreen)
