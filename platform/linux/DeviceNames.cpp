@@ -5,6 +5,7 @@
 #include "platform/linux/UdevDatabase.h"
 
 #include <algorithm>
+#include <span>
 
 namespace ostrelum {
 namespace {
@@ -19,18 +20,33 @@ struct MonitorMaker {
     const char* name;
 };
 constexpr MonitorMaker monitor_makers[] = {
-    {"ACI", "ASUS"},         {"ACR", "Acer"},     {"AOC", "AOC"},        {"APP", "Apple"},
-    {"AUO", "AU Optronics"}, {"AUS", "ASUS"},     {"BNQ", "BenQ"},       {"BOE", "BOE"},
-    {"CMN", "Innolux"},      {"CMO", "Chi Mei"},  {"CSO", "CSOT"},       {"DEL", "Dell"},
-    {"ENC", "EIZO"},         {"FUS", "Fujitsu"},  {"GBT", "Gigabyte"},   {"GSM", "LG"},
-    {"HPN", "HP"},           {"HSD", "HannStar"}, {"HWP", "HP"},         {"IVM", "iiyama"},
-    {"IVO", "InfoVision"},   {"LEN", "Lenovo"},   {"LGD", "LG Display"}, {"MED", "Medion"},
-    {"MEI", "Panasonic"},    {"MSI", "MSI"},      {"NEC", "NEC"},        {"PHL", "Philips"},
-    {"RHT", "Red Hat"},      {"SAM", "Samsung"},  {"SDC", "Samsung"},    {"SEC", "Samsung"},
-    {"SHP", "Sharp"},        {"SNY", "Sony"},     {"TSB", "Toshiba"},    {"VIZ", "VIZIO"},
-    {"VSC", "ViewSonic"},    {"XMI", "Xiaomi"},
+    {"ACR", "Acer"},       {"AOC", "AOC"},       {"APP", "Apple"},      {"AUO", "AU Optronics"},
+    {"AUS", "ASUS"},       {"BNQ", "BenQ"},      {"BOE", "BOE"},        {"CMN", "Innolux"},
+    {"CMO", "Chi Mei"},    {"DEL", "Dell"},      {"ENC", "EIZO"},       {"FUS", "Fujitsu"},
+    {"GBT", "Gigabyte"},   {"GSM", "LG"},        {"HPN", "HP"},         {"HSD", "HannStar"},
+    {"HWP", "HP"},         {"IVM", "iiyama"},    {"IVO", "InfoVision"}, {"LEN", "Lenovo"},
+    {"LGD", "LG Display"}, {"MED", "Medion"},    {"MEI", "Panasonic"},  {"MSI", "MSI"},
+    {"NEC", "NEC"},        {"PHL", "Philips"},   {"RHT", "Red Hat"},    {"SAM", "Samsung"},
+    {"SDC", "Samsung"},    {"SHP", "Sharp"},     {"SNY", "Sony"},       {"TSB", "Toshiba"},
+    {"VIZ", "VIZIO"},      {"VSC", "ViewSonic"}, {"XMI", "Xiaomi"},
 };
 static_assert(std::ranges::is_sorted(monitor_makers, {}, &MonitorMaker::code));
+
+/// Makers of monitors that use letters which are registered for somebody who makes none.
+constexpr MonitorMaker unregistered_makers[] = {
+    {"ACI", "ASUS"},
+    {"CPT", "Chunghwa"},
+    {"CSO", "CSOT"},
+    {"TMX", "Tianma"},
+};
+/// Samsung's panels bear the letters that are Seiko Epson's, whose projectors bear them too.
+constexpr MonitorMaker unregistered_panel_makers[] = {{"SEC", "Samsung"}};
+
+const char* maker_in(std::span<const MonitorMaker> makers, std::string_view code)
+{
+    const auto row = std::ranges::find(makers, code, &MonitorMaker::code);
+    return row == makers.end() ? nullptr : row->name;
+}
 
 /// The number in upper case, as the kernel's aliases have it.
 std::string digits(unsigned number, std::size_t count)
@@ -85,12 +101,16 @@ std::optional<std::string> usb_vendor(const Sysroot& root, std::uint16_t vendor)
     return HardwareDatabase(root).text("usb:v" + digits(vendor, 4), vendor_key);
 }
 
-std::string monitor_maker(const Sysroot& root, const std::string& code)
+std::string monitor_maker(const Sysroot& root, const std::string& code, bool panel)
 {
+    if (const char* name = maker_in(unregistered_makers, code))
+        return name;
+    if (const char* name = panel ? maker_in(unregistered_panel_makers, code) : nullptr)
+        return name;
     if (const auto name = HardwareDatabase(root).text("acpi:" + code + ":", vendor_key))
         return *name;
-    const auto row = std::ranges::lower_bound(monitor_makers, code, {}, &MonitorMaker::code);
-    return row != std::end(monitor_makers) && row->code == code ? row->name : code;
+    const char* name = maker_in(monitor_makers, code);
+    return name != nullptr ? name : code;
 }
 
 std::string_view bracketed_name(std::string_view text)

@@ -25,8 +25,9 @@ std::optional<std::string> pci_code(const Sysroot& root, const std::string& slot
 /// too.
 std::optional<std::string> usb_vendor(const Sysroot& root, std::uint16_t vendor);
 
-/// Maker of a monitor by its three letters. One that nobody knows is called by the letters.
-std::string monitor_maker(const Sysroot& root, const std::string& code);
+/// Maker of a monitor, or of a notebook's panel, by its three letters. One that nobody knows is
+/// called by the letters.
+std::string monitor_maker(const Sysroot& root, const std::string& code, bool panel);
 
 /// Of "GK208B [GeForce GT 730]" the name between the brackets, which is the one on the box; a text
 /// without them is given whole.

@@ -12,6 +12,8 @@ namespace {
 struct Monitor {
     const MachineView& machine;
     std::optional<Edid> edid;
+    /// One that is part of the machine.
+    bool panel;
     ScreenFact screen;
 };
 
@@ -20,7 +22,7 @@ Value manufacturer(const Monitor& monitor)
     if (!monitor.edid)
         return value_of(told_text(monitor.screen.maker));
     const std::string& code = monitor.edid->maker;
-    return code.empty() ? Value() : monitor_maker(monitor.machine.root, code);
+    return code.empty() ? Value() : monitor_maker(monitor.machine.root, code, monitor.panel);
 }
 
 /// Maker and number as the monitor has them, for one without any text: "LGD 0690".
@@ -49,6 +51,12 @@ constexpr PropertyRow<Monitor> rows[] = {
     {"Name", monitor_name},
 };
 
+bool is_panel(const Connector& connector)
+{
+    const std::string_view label = connector.label();
+    return label.starts_with("eDP-") || label.starts_with("LVDS-") || label.starts_with("DSI-");
+}
+
 /// Those of the first graphics card first. Some virtual machines and drivers have no data of
 /// monitors: the window system's screens then stand for them.
 std::vector<Monitor> monitors(const MachineView& machine)
@@ -57,14 +65,14 @@ std::vector<Monitor> monitors(const MachineView& machine)
     for (const GraphicsCard& card : graphics_cards(machine.root)) {
         for (const Connector& connector : connected(machine.root, card)) {
             if (auto edid = edid_of(machine.root, connector))
-                monitors.push_back({machine, std::move(edid), {}});
+                monitors.push_back({machine, std::move(edid), is_panel(connector), {}});
         }
     }
     const SessionFacts session =
         monitors.empty() && machine.session ? machine.session() : SessionFacts{};
     for (const ScreenFact& screen : session.screens) {
         if (told_text(screen.model) || told_text(screen.maker))
-            monitors.push_back({machine, std::nullopt, screen});
+            monitors.push_back({machine, std::nullopt, false, screen});
     }
     return monitors;
 }

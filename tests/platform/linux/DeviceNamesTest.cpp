@@ -56,14 +56,25 @@ TEST(DeviceNames, AMachineWithoutADatabaseHasNoneOfThisSystem)
     const TemporaryFolder machine;
     const Sysroot root(machine / "");
     EXPECT_FALSE(usb_vendor(root, 0x046D));
-    EXPECT_EQ(monitor_maker(root, "LGD"), "LG Display");
-    EXPECT_EQ(monitor_maker(root, "ZZZ"), "ZZZ");
+    EXPECT_EQ(monitor_maker(root, "LGD", true), "LG Display");
+    EXPECT_EQ(monitor_maker(root, "ZZZ", true), "ZZZ");
 
     machine.file("etc/udev/hwdb.bin", "no database");
     EXPECT_FALSE(usb_vendor(root, 0x046D));
     machine.file("usr/lib/udev/hwdb.bin", database("usb:v046D", "Mouse maker"));
     EXPECT_EQ(usb_vendor(root, 0x046D), "Mouse maker");
     EXPECT_FALSE(usb_vendor(root, 0x046E));
+}
+
+TEST(DeviceNames, MonitorsWithLettersOfSomebodyElseAreTheirMakers)
+{
+    const TemporaryFolder machine;
+    const Sysroot root(machine / "");
+    machine.file("etc/udev/hwdb.bin", database("acpi:", "Registered"));
+    EXPECT_EQ(monitor_maker(root, "LGD", true), "Registered");
+    EXPECT_EQ(monitor_maker(root, "CSO", true), "CSOT");
+    EXPECT_EQ(monitor_maker(root, "SEC", true), "Samsung");
+    EXPECT_EQ(monitor_maker(root, "SEC", false), "Registered") << "a projector";
 }
 
 TEST(DeviceNames, TakesTheNameBetweenBrackets)
