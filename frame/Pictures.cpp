@@ -7,6 +7,15 @@
 #include <string>
 
 namespace ostrelum {
+namespace {
+
+/// The bitmap of a file of the art; an empty one for a name that is not there.
+Bitmap art_bitmap(const std::string& name)
+{
+    return read_bmp(picture_file(name)).value_or(Bitmap());
+}
+
+} // namespace
 
 Picture art_picture(std::string_view name)
 {
@@ -14,8 +23,11 @@ Picture art_picture(std::string_view name)
     const auto found = read.find(name);
     if (found != read.end())
         return found->second;
-    auto bitmap = read_bmp(picture_file(name));
-    const Picture picture = bitmap ? Picture(std::move(*bitmap)) : Picture();
+    const std::string file(name);
+    Bitmap bitmap = art_bitmap(file);
+    const Picture picture =
+        bitmap.width == 0 ? Picture()
+                          : Picture(std::move(bitmap), [file] { return art_bitmap(file + "@2x"); });
     read.emplace(name, picture);
     return picture;
 }

@@ -6,8 +6,8 @@
 
 namespace ostrelum {
 
-/// The picture art/pictures/NAME.bmp, always the same for a name. No picture for a name that is not
-/// there.
+/// The picture art/pictures/NAME.png, at double size NAME@2x.png, always the same for a name. No
+/// picture for a name that is not there.
 Picture art_picture(std::string_view name);
 
 } // namespace ostrelum

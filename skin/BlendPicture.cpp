@@ -14,15 +14,30 @@ Bitmap white_bitmap(int width, int height)
     return bitmap;
 }
 
+Picture white_picture(int width, int height)
+{
+    return Picture(white_bitmap(width, height),
+                   [=] { return white_bitmap(2 * width, 2 * height); });
+}
+
+Bitmap blended(Bitmap over, const Bitmap& source, std::uint8_t alpha)
+{
+    blend_pixels(over, source, alpha);
+    return over;
+}
+
 } // namespace
 
 void BlendPicture(PictureBox& dest, const PictureBox& source, std::uint8_t alpha)
 {
     dest.Cls();
-    Bitmap pixels =
-        dest.Stored.empty() ? white_bitmap(dest.Width, dest.Height) : dest.Stored.bitmap();
-    blend_pixels(pixels, source.Stored.bitmap(), alpha);
-    dest.Surface = source.Stored.redrawn(std::move(pixels));
+    const Picture below =
+        dest.Stored.empty() ? white_picture(dest.Width, dest.Height) : dest.Stored;
+    dest.Surface =
+        source.Stored.redrawn(blended(below.bitmap(), source.Stored.bitmap(), alpha),
+                              [below, above = source.Stored, alpha] {
+                                  return blended(below.doubled(), above.doubled(), alpha);
+                              });
 }
 
 } // namespace ostrelum

@@ -6,6 +6,16 @@
 #include <algorithm>
 
 namespace ostrelum {
+namespace {
+
+Bitmap tinted(const Bitmap& grey, const TintColour& colour)
+{
+    Bitmap pixels(grey.width, grey.height);
+    tint_pixels(pixels, grey, colour);
+    return pixels;
+}
+
+} // namespace
 
 void SplitColor(std::int32_t color)
 {
@@ -27,10 +37,11 @@ void Tint(PictureBox& pic)
     pic.Cls();
     if (pic.Stored.empty())
         return;
-    const Bitmap& grey = pic.Stored.bitmap();
-    Bitmap pixels(grey.width, grey.height);
-    tint_pixels(pixels, grey, {.red = BaseR, .green = BaseG, .blue = BaseB, .shine = Shine});
-    pic.Surface = pic.Stored.redrawn(std::move(pixels));
+    const TintColour colour{.red = BaseR, .green = BaseG, .blue = BaseB, .shine = Shine};
+    pic.Surface =
+        pic.Stored.redrawn(tinted(pic.Stored.bitmap(), colour), [stored = pic.Stored, colour] {
+            return tinted(stored.doubled(), colour);
+        });
 }
 
 void tint_skin()

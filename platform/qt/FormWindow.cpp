@@ -76,8 +76,10 @@ void FormWindow::carry_frame()
     setPalette(window_palette(form.BackColor));
     around_.pointers.give(*this, form.MousePointer);
     QIcon icon;
-    for (const Picture& picture : form.Icon)
-        icon.addPixmap(pixmap_of(picture));
+    for (const Picture& picture : form.Icon) {
+        icon.addPixmap(pixmap_of(picture.bitmap()));
+        icon.addPixmap(pixmap_of(picture.doubled()));
+    }
     setWindowIcon(icon);
     shown_ = wanted;
 }

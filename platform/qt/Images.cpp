@@ -19,9 +19,9 @@ QImage image_of(const Bitmap& bitmap)
     return image;
 }
 
-QPixmap pixmap_of(const Picture& picture)
+QPixmap pixmap_of(const Bitmap& bitmap)
 {
-    return QPixmap::fromImage(image_of(picture.bitmap()).copy());
+    return QPixmap::fromImage(image_of(bitmap).copy());
 }
 
 } // namespace ostrelum

@@ -12,6 +12,6 @@ namespace ostrelum {
 QImage image_of(const Bitmap& bitmap);
 
 /// A copy for icons and pointers.
-QPixmap pixmap_of(const Picture& picture);
+QPixmap pixmap_of(const Bitmap& bitmap);
 
 } // namespace ostrelum

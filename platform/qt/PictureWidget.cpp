@@ -5,8 +5,6 @@
 
 #include <QPainter>
 
-#include <cmath>
-
 namespace ostrelum {
 
 void PictureWidget::set_ground(bool transparent, Colour colour)
@@ -20,18 +18,30 @@ void PictureWidget::set_ground(bool transparent, Colour colour)
 
 void PictureWidget::set_picture(const Picture& picture)
 {
-    image_ = QImage();
     picture_ = picture;
-    image_ = image_of(picture_.bitmap());
+    choose_image();
     update();
+}
+
+/// Only a screen of a higher scale makes the picture at double size.
+void PictureWidget::choose_image()
+{
+    scale_ = devicePixelRatio();
+    image_ = scale_ > 1 ? image_of(picture_.doubled()) : QImage();
+    if (image_.isNull())
+        image_ = image_of(picture_.bitmap());
+    else
+        image_.setDevicePixelRatio(2);
 }
 
 void PictureWidget::paintEvent(QPaintEvent*)
 {
+    // The window may have moved to another screen.
+    if (scale_ != devicePixelRatio())
+        choose_image();
     QPainter painter(this);
-    // Only a screen whose scale is not a whole number needs in-between pixels.
-    const bool whole = devicePixelRatio() == std::floor(devicePixelRatio());
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, !whole);
+    // Only a scale between the picture's sizes needs in-between pixels.
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, scale_ != image_.devicePixelRatio());
     if (!transparent_)
         painter.fillRect(rect(), qt_colour(ground_));
     painter.drawImage(0, 0, image_);

@@ -23,11 +23,15 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void choose_image();
+
     bool transparent_ = true;
     Colour ground_ = White;
     /// The image looks at the picture's own bytes.
     Picture picture_;
     QImage image_;
+    /// Scale of the screen for which the image was chosen.
+    qreal scale_ = 0;
 };
 
 } // namespace ostrelum

@@ -5,10 +5,23 @@
 #include <QGuiApplication>
 
 namespace ostrelum {
+namespace {
+
+QPixmap pointer_pixmap(const Picture& picture)
+{
+    const Bitmap& doubled = picture.doubled();
+    if (qGuiApp->devicePixelRatio() <= 1 || doubled.width == 0)
+        return pixmap_of(picture.bitmap());
+    QPixmap pixmap = pixmap_of(doubled);
+    pixmap.setDevicePixelRatio(2);
+    return pixmap;
+}
+
+} // namespace
 
 Pointers::Pointers(const Picture& hand, Point hot_spot)
     : hand_(hand.empty() ? QCursor(Qt::PointingHandCursor)
-                         : QCursor(pixmap_of(hand), hot_spot.x, hot_spot.y))
+                         : QCursor(pointer_pixmap(hand), hot_spot.x, hot_spot.y))
 {
 }
 

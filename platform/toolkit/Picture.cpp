@@ -1,5 +1,7 @@
 #include "platform/toolkit/Picture.h"
 
+#include <utility>
+
 namespace ostrelum {
 namespace {
 
@@ -11,20 +13,31 @@ std::uint64_t next_number()
 
 } // namespace
 
-Picture::Picture(Bitmap bitmap)
-    : id_(next_number()), version_(id_), pixels_(std::make_shared<const Bitmap>(std::move(bitmap)))
+Picture::Picture(Bitmap bitmap, Maker at_double)
+    : id_(next_number()), version_(id_),
+      content_(std::make_shared<Content>(Content{std::move(bitmap), std::move(at_double), {}}))
 {
 }
 
 const Bitmap& Picture::bitmap() const
 {
     static const Bitmap none;
-    return pixels_ ? *pixels_ : none;
+    return content_ ? content_->pixels : none;
 }
 
-Picture Picture::redrawn(Bitmap bitmap) const
+const Bitmap& Picture::doubled() const
 {
-    Picture drawn(std::move(bitmap));
+    static const Bitmap none;
+    if (!content_)
+        return none;
+    if (const Maker make = std::exchange(content_->at_double, nullptr))
+        content_->doubled = make();
+    return content_->doubled;
+}
+
+Picture Picture::redrawn(Bitmap bitmap, Maker at_double) const
+{
+    Picture drawn(std::move(bitmap), std::move(at_double));
     drawn.id_ = id_;
     return drawn;
 }

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -39,15 +40,23 @@ struct Bitmap {
 /// pixels are never compared.
 class Picture {
 public:
+    /// Makes the pixels of the picture drawn at double size.
+    using Maker = std::function<Bitmap()>;
+
     /// No picture.
     Picture() = default;
-    explicit Picture(Bitmap bitmap);
+    /// `at_double` gives twice the width and twice the height, for screens with a scale factor
+    /// above 1; without it there is no such variant.
+    explicit Picture(Bitmap bitmap, Maker at_double = nullptr);
 
-    bool empty() const { return pixels_ == nullptr; }
+    bool empty() const { return content_ == nullptr; }
     /// The pixels; an empty bitmap for no picture.
     const Bitmap& bitmap() const;
+    /// The pixels at double size; an empty bitmap where there is no such variant. They are made
+    /// when they are first asked for, so that only a screen that shows them pays for them.
+    const Bitmap& doubled() const;
     /// A new picture of the same origin, drawn anew.
-    Picture redrawn(Bitmap bitmap) const;
+    Picture redrawn(Bitmap bitmap, Maker at_double = nullptr) const;
     /// Number of the origin, the same for all drawings that come from it; 0 for no picture.
     std::uint64_t id() const { return id_; }
     /// Number of the drawing, different for each one of the process.
@@ -59,9 +68,16 @@ public:
     }
 
 private:
+    struct Content {
+        Bitmap pixels;
+        /// Empty once it has made `doubled`.
+        Maker at_double;
+        Bitmap doubled;
+    };
+
     std::uint64_t id_ = 0;
     std::uint64_t version_ = 0;
-    std::shared_ptr<const Bitmap> pixels_;
+    std::shared_ptr<Content> content_;
 };
 
 } // namespace ostrelum
