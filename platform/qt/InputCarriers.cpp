@@ -29,7 +29,7 @@ void ButtonCarrier::apply()
 
 ScrollBarCarrier::ScrollBarCarrier(ScrollBar& bar, const ControlEntry& entry, QWidget& parent,
                                    const Surroundings& around)
-    : CarrierOf(bar, entry, around), widget_(new QScrollBar(Qt::Horizontal, &parent))
+    : CarrierOf(bar, entry, around), widget_(new SliderWidget(&parent))
 {
     widget_->setFocusPolicy(Qt::StrongFocus);
     widget_->setContextMenuPolicy(Qt::NoContextMenu);

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "platform/qt/Carrier.h"
+#include "platform/qt/SliderWidget.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QPushButton>
-#include <QScrollBar>
 
-/// The controls that the desktop's own style draws.
+/// The controls of which the user changes the value.
 namespace ostrelum {
 
 class ButtonCarrier : public CarrierOf<CommandButton> {
@@ -33,7 +33,7 @@ private:
     void user_moved(int value);
     void user_let_go();
 
-    QScrollBar* widget_;
+    SliderWidget* widget_;
     int value_when_grabbed_ = 0;
 };
 

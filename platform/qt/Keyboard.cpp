@@ -1,6 +1,6 @@
 #include "platform/qt/Keyboard.h"
 
-#include <QAbstractButton>
+#include <QPushButton>
 
 namespace ostrelum {
 Keyboard::Keyboard(QWidget& window, const Carriers& carriers, const Surroundings& around)
@@ -60,7 +60,8 @@ bool Keyboard::key(const QKeyEvent& key)
 
 bool Keyboard::enter()
 {
-    if (auto* button = qobject_cast<QAbstractButton*>(window_.focusWidget())) {
+    // A box is ticked by Space: Enter goes to the default button.
+    if (auto* button = qobject_cast<QPushButton*>(window_.focusWidget())) {
         button->click();
         return true;
     }

@@ -9,6 +9,7 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QPointer>
+#include <QStyleFactory>
 #include <QTranslator>
 #include <QWindow>
 
@@ -42,6 +43,8 @@ QtToolkit::QtToolkit(int& argc, char** argv, const QtLook& look)
               window->carry();
       })
 {
+    // The places of the controls are fixed, so their look is too.
+    QApplication::setStyle(QStyleFactory::create("Fusion"));
     // The program decides when it ends, not the last window.
     QApplication::setQuitOnLastWindowClosed(false);
     QGuiApplication::setDesktopFileName(qt_text(look.desktop_entry));

@@ -1,0 +1,82 @@
+#include "platform/qt/SliderWidget.h"
+
+#include <QLinearGradient>
+#include <QPolygonF>
+#include <QStyleOptionSlider>
+
+#include <cmath>
+
+namespace ostrelum {
+namespace {
+
+constexpr QColor Track(229, 234, 240);
+constexpr QColor Edge(170, 180, 192);
+constexpr QColor ThumbEdge(118, 132, 148);
+constexpr QColor Sign(68, 84, 106);
+constexpr QColor DimmedSign(176, 186, 198);
+/// Surfaces are lit from above, as the program's drawings are.
+constexpr QColor Lit(255, 255, 255);
+constexpr QColor Shaded(231, 236, 242);
+constexpr QColor ShadedWhenHeld(205, 220, 238);
+
+QLinearGradient surface(const QRectF& place, const QColor& foot)
+{
+    QLinearGradient light(place.topLeft(), place.bottomLeft());
+    light.setColorAt(0, Lit);
+    light.setColorAt(1, foot);
+    return light;
+}
+
+/// The middle of the outermost pixels, where a line of one pixel runs.
+QRectF outline_of(const QRectF& place)
+{
+    return place.adjusted(0.5, 0.5, -0.5, -0.5);
+}
+
+} // namespace
+
+void SliderWidget::paintEvent(QPaintEvent*)
+{
+    QStyleOptionSlider option;
+    initStyleOption(&option);
+    const auto part = [&](QStyle::SubControl control) {
+        return QRectF(style()->subControlRect(QStyle::CC_ScrollBar, &option, control, this));
+    };
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Edge);
+    painter.setBrush(Track);
+    painter.drawRoundedRect(outline_of(rect()), 3, 3);
+    draw_end(painter, part(QStyle::SC_ScrollBarSubLine), true);
+    draw_end(painter, part(QStyle::SC_ScrollBarAddLine), false);
+    if (isEnabled())
+        draw_thumb(painter, part(QStyle::SC_ScrollBarSlider));
+}
+
+void SliderWidget::draw_end(QPainter& painter, const QRectF& button, bool leftwards) const
+{
+    if (button.isEmpty())
+        return;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(isEnabled() ? Sign : DimmedSign);
+    const QPointF middle = button.center();
+    const qreal side = leftwards ? -1 : 1;
+    painter.drawPolygon(QPolygonF{{middle.x() + 2.5 * side, middle.y()},
+                                  {middle.x() - 1.5 * side, middle.y() - 4},
+                                  {middle.x() - 1.5 * side, middle.y() + 4}});
+}
+
+void SliderWidget::draw_thumb(QPainter& painter, const QRectF& thumb) const
+{
+    painter.setPen(ThumbEdge);
+    painter.setBrush(surface(thumb, isSliderDown() ? ShadedWhenHeld : Shaded));
+    painter.drawRoundedRect(outline_of(thumb), 3, 3);
+    // The grip.
+    painter.setPen(Edge);
+    for (const int line : {-3, 0, 3}) {
+        const qreal x = std::floor(thumb.center().x()) + line + 0.5;
+        painter.drawLine(QPointF(x, thumb.top() + 5.5), QPointF(x, thumb.bottom() - 5.5));
+    }
+}
+
+} // namespace ostrelum
