@@ -8,4 +8,7 @@ namespace ostrelum {
 /// Copy and Copy all of the page's right-click menu.
 extern const HandlerTable copy_handlers;
 
+/// The about panel, and the program's page in the browser.
+extern const HandlerTable about_panel_handlers;
+
 } // namespace ostrelum

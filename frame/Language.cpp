@@ -73,6 +73,19 @@ bool fill_string_table(const std::string& language)
     return false;
 }
 
+void list_languages(const std::string& language)
+{
+    F1.LangList.List.clear();
+    int chosen = 0;
+    for (const LanguageRow& row : languages) {
+        row.fill();
+        if (row.name == language)
+            chosen = static_cast<int>(F1.LangList.List.size());
+        F1.LangList.List.push_back(Trad[1]);
+    }
+    choose(F1, F1.LangList, chosen);
+}
+
 void TraduPrincipal()
 {
     if (F1.Seccion == CustomisePanel)

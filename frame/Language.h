@@ -8,6 +8,10 @@ namespace ostrelum {
 /// name, which changes nothing.
 bool fill_string_table(const std::string& language);
 
+/// Fills the list of languages, each by its own name in itself, and chooses that of `language`,
+/// which makes it the language of the run.
+void list_languages(const std::string& language);
+
 /// Applies Trad to the menus and the fixed labels of the main window.
 void TraduPrincipal();
 

@@ -103,10 +103,11 @@ void place_customise_panel(Designer& put)
     ROW(LangList, .Left = 17, .Top = 32, .Width = 211, .Height = 24, .Font = tahoma(8.25));
     ROW(LTPers2, .Left = 0, .Top = 80, .Font = tahoma(8.25, true));
     ROW(LPers1, .Left = 17, .Top = 112, .Font = tahoma(8.25));
-    ROW(Spectrum, .Left = 17, .Top = 136, .Width = 211, .Height = 11);
+    ROW(Spectrum, .Left = 17, .Top = 136, .Width = 211, .Height = 11,
+        .Stored = art_picture("Spectrum"));
     ROW(LineP1, .X1 = 16, .Y1 = 136, .X2 = 16, .Y2 = 147);
     ROW(LineP2, .X1 = 228, .Y1 = 136, .X2 = 228, .Y2 = 147);
-    ROW(Arrow, .Left = 13, .Top = 152, .Width = 9, .Height = 5);
+    ROW(Arrow, .Left = 13, .Top = 152, .Width = 9, .Height = 5, .Stored = art_picture("Arrow"));
     ROW(Scroll1, .Left = 17, .Top = 170, .Width = 211, .Height = 17, .Max = 210, .LargeChange = 35);
     ROW(LPers2, .Left = 17, .Top = 208, .Font = tahoma(8.25));
     ROW(Scroll2, .Left = 17, .Top = 232, .Width = 211, .Height = 17, .Max = 48, .LargeChange = 10);
@@ -118,9 +119,28 @@ void place_customise_panel(Designer& put)
     put.on_the_form();
 }
 
-void place_about_panel_and_button(Designer& put)
+void place_about_panel(Designer& put)
 {
     ROW(PicInformacion, .Left = 208, .Top = 139, .Width = 329, .Height = 265, .Visible = false);
+    put.inside(F1.PicInformacion);
+    ROW(Logo, .Left = 0, .Top = 0, .Width = 295, .Height = 72, .Stored = art_picture("Logo"),
+        .AccessibleName = "Dervalin Ostrelum");
+    ROW(LTInfo1, .Left = 0, .Top = 88, .Font = tahoma(8.25, true), .ForeColor = TitleGrey);
+    ROW(LInfo1, .Left = 0, .Top = 88, .Font = tahoma(8.25), .ForeColor = TitleGrey);
+    ROW(LTInfo2, .Left = 0, .Top = 112, .Font = tahoma(8.25, true), .ForeColor = TitleGrey);
+    ROW(LInfo2, .Left = 0, .Top = 112, .Font = tahoma(8.25), .ForeColor = TitleGrey);
+    ROW(LTInfo3, .Left = 0, .Top = 136, .Font = tahoma(8.25, true), .ForeColor = TitleGrey);
+    ROW(LInfo3, .Left = 0, .Top = 136, .Font = tahoma(8.25), .ForeColor = TitleGrey);
+    ROW(LineI, .X1 = 0, .Y1 = 168, .X2 = 280, .Y2 = 168, .BorderColor = LineGrey);
+    ROW(LTra, .Left = 0, .Top = 184, .Font = tahoma(8.25, true), .ForeColor = TitleGrey);
+    ROW(LTra1, .Left = 0, .Top = 216, .Font = tahoma(8.25), .ForeColor = TitleGrey);
+    ROW(LTra2, .Left = 0, .Top = 216, .Font = tahoma(8.25), .ForeColor = TitleGrey,
+        .MousePointer = Pointer::Hand, .TabStop = true);
+    put.on_the_form();
+}
+
+void place_accept_button(Designer& put)
+{
     ROW(BAceptar, .Left = 623, .Top = 462, .Width = 94, .Height = 35, .Font = tahoma(8.25),
         .Default = true, .Visible = false);
 }
@@ -161,7 +181,8 @@ void place_controls()
     place_bands(put);
     place_left_column(put);
     place_customise_panel(put);
-    place_about_panel_and_button(put);
+    place_about_panel(put);
+    place_accept_button(put);
     place_menus(put);
     place_timers(put);
 }

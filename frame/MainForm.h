@@ -55,6 +55,17 @@ public:
     ScrollBar Scroll3;
     Label LPers3;
     PictureBox PicInformacion;
+    PictureBox Logo;
+    Label LTInfo1;
+    Label LInfo1;
+    Label LTInfo2;
+    Label LInfo2;
+    Label LTInfo3;
+    Label LInfo3;
+    Line LineI;
+    Label LTra;
+    Label LTra1;
+    Label LTra2;
     CommandButton BAceptar;
 
     PopupMenu MenuOps;

@@ -87,8 +87,10 @@ void BM_Click()
     LMenu2_Click();
 }
 
-void set_navigation(Colour options, Colour names, Pointer pointer)
+/// `live` tells whether a press opens something: only then does the keyboard stop there.
+void set_navigation(bool live, Colour options, Colour names, Pointer pointer)
 {
+    F1.LOpc.TabStop = live;
     F1.LOpc.ForeColor = options;
     F1.LMenu2.ForeColor = names;
     F1.LOpc.MousePointer = F1.MenuLogo.MousePointer = pointer;
@@ -96,6 +98,7 @@ void set_navigation(Colour options, Colour names, Pointer pointer)
     for (int n = 1; n <= SectionCount; ++n) {
         F1.LMenu(n).ForeColor = names;
         F1.LMenu(n).MousePointer = pointer;
+        F1.LMenu(n).TabStop = live;
     }
 }
 
@@ -123,6 +126,17 @@ void LMenu_MouseDown(int index, int button, int, int, int)
     start_cross_fade();
 }
 
+void open_panel(std::uint8_t panel)
+{
+    F1.Timer1.Enabled = false;
+    F1.PanelOpen = true;
+    F1.SeccionPrev = F1.Seccion;
+    F1.Seccion = panel;
+    LockMenu();
+    ClearPage();
+    start_cross_fade();
+}
+
 void ClearPage()
 {
     empty_rows(1, 12);
@@ -134,12 +148,12 @@ void ClearPage()
 
 void LockMenu()
 {
-    set_navigation(RGB(215, 215, 215), RGB(215, 215, 215), Pointer::Arrow);
+    set_navigation(false, RGB(215, 215, 215), RGB(215, 215, 215), Pointer::Arrow);
 }
 
 void UnlockMenu()
 {
-    set_navigation(RGB(250, 250, 250), White, Pointer::Hand);
+    set_navigation(true, RGB(250, 250, 250), White, Pointer::Hand);
 }
 
 } // namespace ostrelum

@@ -38,12 +38,22 @@ std::optional<double> read_number(const NumberSetting& setting)
     return number;
 }
 
-void write_default(const NumberSetting& setting)
+void write_text(std::string_view name, const std::string& text)
+{
+    attempt([&] { ShellObject->RegWrite(full_name(name), text, "REG_SZ"); });
+}
+
+void write_number(const NumberSetting& setting, std::int32_t number)
 {
     attempt([&] {
-        ShellObject->RegWrite(full_name(setting.name), static_cast<std::uint32_t>(setting.fallback),
+        ShellObject->RegWrite(full_name(setting.name), static_cast<std::uint32_t>(number),
                               "REG_DWORD");
     });
+}
+
+void write_default(const NumberSetting& setting)
+{
+    write_number(setting, setting.fallback);
 }
 
 /// Halves go to the even neighbour.
@@ -69,7 +79,7 @@ void read_language()
     if (fill_string_table(Idioma))
         return;
     Idioma = DefaultLanguage;
-    attempt([] { ShellObject->RegWrite(full_name(LanguageName), Idioma, "REG_SZ"); });
+    write_text(LanguageName, Idioma);
     fill_string_table(Idioma);
 }
 
@@ -96,6 +106,27 @@ void read_transparency_switch()
 void read_transparency()
 {
     Transparency = rounded(number_or_default(TransparencySetting));
+}
+
+std::int32_t read_hue()
+{
+    return rounded(number_or_default(ScvSetting));
+}
+
+void write_changed_settings()
+{
+    if (Idioma != F1.LangAtOpen)
+        write_text(LanguageName, Idioma);
+    if (ColorValue != ColorAtOpen) {
+        write_number(ColorValueSetting, ColorValue);
+        write_number(ScvSetting, F1.Scroll1.Value);
+    }
+    if (Shine != F1.ShineAtOpen)
+        write_number(ShineValueSetting, F1.Scroll2.Value);
+    if (TransEnabled != F1.ChkAtOpen)
+        write_number(ChkTransSetting, F1.CheckTrans.Value);
+    if (F1.Scroll3.Value != F1.TransAtOpen)
+        write_number(TransparencySetting, F1.Scroll3.Value);
 }
 
 } // namespace ostrelum

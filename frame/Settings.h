@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 /// The settings that outlive the program, read at start one by one. A value that is missing,
 /// unreadable or out of its range is replaced by its default, in memory and in the store.
 namespace ostrelum {
@@ -9,5 +11,12 @@ void read_colour();
 void read_shine();
 void read_transparency_switch();
 void read_transparency();
+
+/// Position of the colour slider, 0 to 210. It is no part of the start: a store has it once the
+/// customise panel has been opened.
+std::int32_t read_hue();
+
+/// Writes what differs from how it stood when the customise panel opened.
+void write_changed_settings();
 
 } // namespace ostrelum

@@ -23,6 +23,9 @@ void tint_skin();
 /// Starts the cross-fade of the page picture to the one of the page on show.
 void start_cross_fade();
 
+/// The panel for language, colour, shine and transparency, and the button that closes either panel.
+extern const HandlerTable customise_panel_handlers;
+
 /// The tick of the cross-fade.
 extern const HandlerTable cross_fade_handlers;
 

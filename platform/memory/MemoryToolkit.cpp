@@ -47,6 +47,12 @@ void MemoryToolkit::Refresh(Form& form)
     ++refreshes[&form];
 }
 
+void MemoryToolkit::DoEvents()
+{
+    if (const auto events = std::exchange(pending, nullptr))
+        events();
+}
+
 void MemoryToolkit::popup(Form&, PopupMenu& menu, std::optional<Point> at, const MenuItem* bold)
 {
     popups.push_back({&menu, at, bold});

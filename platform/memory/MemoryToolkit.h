@@ -24,7 +24,7 @@ public:
     void ShowModal(Form& form) override;
     void Hide(Form& form) override;
     void Refresh(Form& form) override;
-    void DoEvents() override {}
+    void DoEvents() override;
     void popup(Form& form, PopupMenu& menu, std::optional<Point> at, const MenuItem* bold) override;
     void set_screen_pointer(Pointer pointer) override { pointers.push_back(pointer); }
     std::int32_t GetWindowLongA(const Form& form, int index) override;
@@ -39,6 +39,8 @@ public:
     /// Raises an event of a control as a user's action would.
     static void user(Form& form, std::string_view control, const Event& event);
 
+    /// What waits for DoEvents.
+    std::function<void()> pending;
     /// What ShowModal does instead of waiting for the user; the form is hidden when it returns.
     std::function<void(Form&)> modal;
 

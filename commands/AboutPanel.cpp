@@ -1,0 +1,111 @@
+#include "commands/Commands.h"
+#include "frame/Language.h"
+#include "frame/MainForm.h"
+#include "frame/Navigation.h"
+#include "frame/PassOver.h"
+#include "frame/Platform.h"
+#include "frame/Program.h"
+#include "frame/Shared.h"
+
+/// What the program says about itself, and the two links into the user's browser.
+namespace ostrelum {
+namespace {
+
+constexpr Colour PlainText = RGB(32, 32, 32);
+constexpr Colour LitLink = RGB(0, 80, 210);
+
+/// Moves a label to directly behind another one.
+void place_behind(const Label& before, Label& label)
+{
+    label.Left = before.Left + before.Width;
+}
+
+/// A row of the panel: the value stands directly behind its title, as on the pages.
+void set_info(Label& title, Label& value, const std::string& title_text, const std::string& text)
+{
+    title.Caption = title_text + " ";
+    fit(*platform.toolkit, title);
+    place_behind(title, value);
+    value.Caption = text;
+}
+
+/// The date is the text's only part that may fail.
+std::string version_text()
+{
+    std::string date;
+    attempt([&] { date = platform.regional->short_date(VersionDate); });
+    return std::string(ProgramVersion) + " (" + date + ")";
+}
+
+/// The Dutch table names its translator, whatever the language of the run.
+void name_translator()
+{
+    LangDutch();
+    F1.LTra1.Caption = " - " + Trad[3] + ": " + Trad[1] + " - ";
+    fill_string_table(Idioma);
+}
+
+void light_link(bool lit)
+{
+    F1.LTra2.ForeColor = lit ? LitLink : PlainText;
+    F1.LTra2.Font.Underline = lit;
+}
+
+void open_address(std::string_view address)
+{
+    platform.browser->ShellExecuteA("Open", std::string(address));
+}
+
+void Informacion_Click()
+{
+    open_panel(AboutPanel);
+    F1.Titulo.Caption = Trad[8];
+    set_info(F1.LTInfo1, F1.LInfo1, Trad[107], version_text());
+    set_info(F1.LTInfo2, F1.LInfo2, Trad[183], std::string(Author));
+    set_info(F1.LTInfo3, F1.LInfo3, Trad[184], std::string(ContactAddress));
+    F1.LTra.Caption = Trad[185];
+    name_translator();
+    fit(*platform.toolkit, F1.LTra1);
+    place_behind(F1.LTra1, F1.LTra2);
+    F1.LTra2.Caption = Trad[186];
+    F1.BAceptar.Caption = Trad[158];
+    F1.BAceptar.Visible = F1.PicInformacion.Visible = true;
+}
+
+void LTra2_MouseDown(int button, int, int, int)
+{
+    if (button == LeftButton)
+        open_address(TranslatorAddress);
+}
+
+void LTra2_MouseMove()
+{
+    light_link(true);
+}
+
+void PicInformacion_MouseMove()
+{
+    light_link(false);
+}
+
+void LTra1_MouseMove()
+{
+    PicInformacion_MouseMove();
+}
+
+void VisitWeb_Click()
+{
+    open_address(WebAddress);
+}
+
+constexpr Handler rows[] = {
+    OSTRELUM_ON(Informacion_Click), OSTRELUM_ON(LTra2_MouseDown),
+    OSTRELUM_ON(LTra2_MouseMove),   OSTRELUM_ON(PicInformacion_MouseMove),
+    OSTRELUM_ON(LTra1_MouseMove),   OSTRELUM_ON(VisitWeb_Click),
+};
+
+} // namespace
+
+const HandlerTable about_panel_handlers{rows};
+
+} // namespace ostrelum

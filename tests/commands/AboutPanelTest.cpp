@@ -1,0 +1,81 @@
+#include "tests/Stage.h"
+
+namespace ostrelum {
+namespace {
+
+class AboutPanelOpen : public Stage {
+protected:
+    void open(const std::string& language)
+    {
+        store_text("Language", language);
+        start_program();
+        press("LMenu", 4);
+        store.writes.clear();
+        click("Informacion");
+    }
+    static void move_over(std::string_view control)
+    {
+        F1.raise(control, {.kind = EventKind::MouseMove});
+    }
+};
+
+TEST_F(AboutPanelOpen, TellsOfTheProgramInTheRunsLanguageAndOfTheDutchTranslator)
+{
+    const struct {
+        std::string language, version, title, link;
+    } rows[] = {{"English", "Version: ", "About...", "Website"},
+                {"Spanish", "Versión: ", "Acerca de...", "Sitio web"},
+                {"Dutch", "Versie: ", "Over...", "Website"}};
+    for (const auto& row : rows) {
+        open(row.language);
+        EXPECT_EQ(F1.Titulo.Caption, row.title);
+        EXPECT_EQ(F1.LTInfo1.Caption, row.version);
+        EXPECT_EQ(F1.LInfo1.Caption, "2.5 (06/08/2012)");
+        EXPECT_EQ(F1.LInfo1.Left, F1.LTInfo1.Width);
+        EXPECT_EQ(F1.LTra1.Caption, " - Robin Terhaar: Nederlands (Nederland) - ");
+        EXPECT_EQ(F1.LTra2.Left, F1.LTra1.Left + F1.LTra1.Width);
+        EXPECT_EQ(F1.LTra2.Caption, row.link);
+        EXPECT_EQ(Idioma, row.language);
+        EXPECT_EQ(Trad[8], row.title) << "the Dutch table was only borrowed";
+    }
+}
+
+TEST_F(AboutPanelOpen, LocksTheNavigationAndEndsInThePageItCoveredWithoutWriting)
+{
+    open("English");
+    EXPECT_EQ(F1.Seccion, AboutPanel);
+    EXPECT_FALSE(F1.PanelReady || F1.Timer1.Enabled);
+    press("LMenu", 8);
+    press("Form", 0, RightButton);
+    EXPECT_TRUE(toolkit.popups.empty() && F1.PicInformacion.Visible && F1.BAceptar.Visible);
+    toolkit.advance(F1, 20 * MemoryToolkit::FrameTime);
+    EXPECT_EQ(F1.Ico.Stored, F6->IAC.Stored);
+    F1.CheckTrans.Value = 0;
+    click("BAceptar");
+    EXPECT_FALSE(F1.PicInformacion.Visible || F1.BAceptar.Visible || F1.PanelOpen);
+    EXPECT_EQ(F1.Seccion, 4);
+    EXPECT_TRUE(store.writes.empty());
+}
+
+TEST_F(AboutPanelOpen, TheLinkLightsUpAndOpensByTheLeftButtonAlone)
+{
+    open("English");
+    for (const char* way_back : {"PicInformacion", "LTra1"}) {
+        move_over("LTra2");
+        EXPECT_EQ(F1.LTra2.ForeColor, RGB(0, 80, 210));
+        EXPECT_TRUE(F1.LTra2.Font.Underline);
+        move_over(way_back);
+        EXPECT_EQ(F1.LTra2.ForeColor, RGB(32, 32, 32)) << way_back;
+        EXPECT_FALSE(F1.LTra2.Font.Underline) << way_back;
+    }
+    press("LTra2", 0, RightButton);
+    press("LTra2", 0, MiddleButton);
+    EXPECT_TRUE(browser.opened.empty());
+    press("LTra2");
+    click("VisitWeb");
+    EXPECT_EQ(browser.opened, (std::vector<std::string>{"https://terhaar.example.org",
+                                                        "https://dervalin.example.org/ostrelum"}));
+}
+
+} // namespace
+} // namespace ostrelum
