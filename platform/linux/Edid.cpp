@@ -1,6 +1,7 @@
 #include "platform/linux/Edid.h"
 
 #include "platform/linux/Text.h"
+#include "platform/linux/VideoCodes.h"
 
 #include <algorithm>
 #include <array>
@@ -64,7 +65,7 @@ std::string text_in(Bytes descriptor)
 
 class Reader {
 public:
-    explicit Reader(Bytes base)
+    explicit Reader(Bytes base) : revision_(base[19])
     {
         edid_.maker = maker_code(base[8] * 256U + base[9]);
         edid_.product = static_cast<std::uint16_t>(base[10] | (base[11] << 8));
@@ -79,8 +80,9 @@ public:
         constexpr std::uint8_t cta_861 = 2;
         constexpr std::size_t header = 4;
         const std::size_t first = block[2];
-        if (block[0] != cta_861 || first < header)
+        if (block[0] != cta_861 || first < header || first >= block_size)
             return;
+        read_data_blocks(block.subspan(header, first - header));
         for (std::size_t offset = first; offset + descriptor_size < block_size;
              offset += descriptor_size)
             read_descriptor(block.subspan(offset, descriptor_size));
@@ -106,6 +108,30 @@ private:
         }
     }
 
+    /// Each begins with its kind in three bits and its length in five.
+    void read_data_blocks(Bytes blocks)
+    {
+        constexpr unsigned video = 2;
+        while (!blocks.empty()) {
+            const Bytes rest = blocks.subspan(1);
+            const Bytes content = rest.first(std::min<std::size_t>(blocks[0] & 31U, rest.size()));
+            if (blocks[0] >> 5 == video)
+                read_video_codes(content);
+            blocks = rest.subspan(content.size());
+        }
+    }
+
+    void read_video_codes(Bytes codes)
+    {
+        for (const std::uint8_t byte : codes) {
+            // The low codes have room for a bit that says "native".
+            const bool native = byte > 128 && byte <= 192;
+            const auto rate = rate_of_video_code(native ? byte & 0x7F : byte);
+            if (rate)
+                add_rate(*rate);
+        }
+    }
+
     void read_descriptor(Bytes bytes)
     {
         if (bytes[0] != 0 || bytes[1] != 0)
@@ -122,8 +148,10 @@ private:
     void read_limits(Bytes bytes)
     {
         constexpr int offset = 255;
-        const bool both_beyond = (bytes[4] & 3) == 3;
-        const bool highest_beyond = (bytes[4] & 2) != 0;
+        constexpr std::uint8_t first_with_offsets = 4;
+        const int beyond = revision_ >= first_with_offsets ? bytes[4] & 3 : 0;
+        const bool both_beyond = beyond == 3;
+        const bool highest_beyond = (beyond & 2) != 0;
         const RefreshLimits limits = {bytes[5] + (both_beyond ? offset : 0),
                                       bytes[6] + (highest_beyond ? offset : 0)};
         if (limits.lowest > 0 && limits.lowest <= limits.highest)
@@ -158,6 +186,7 @@ private:
         edid_.rates_of_modes->highest = std::max(edid_.rates_of_modes->highest, rate);
     }
 
+    std::uint8_t revision_;
     Edid edid_;
 };
 

@@ -38,15 +38,18 @@ TEST(Edid, ReadsRangeLimitsWithTheirOffsets)
         unsigned char flags;
         std::string bytes;
         std::optional<RefreshLimits> limits;
+        char revision = 4;
     };
     for (const Case& each : {
              Case{0, "\x30\x4B", RefreshLimits{48, 75}},
              Case{2, "\x30\x19", RefreshLimits{48, 280}},
              Case{3, "\x01\x2D", RefreshLimits{256, 300}},
+             Case{3, "\x30\x4B", RefreshLimits{48, 75}, 3},
              Case{0, "\x4B\x30", std::nullopt},
              Case{0, std::string("\0\x4B", 2), std::nullopt},
          }) {
-        const auto edid = read_edid(monitor(descriptor(0xFD, each.bytes, each.flags)));
+        const auto edid =
+            read_edid(monitor(descriptor(0xFD, each.bytes, each.flags), 0, each.revision));
         ASSERT_TRUE(edid);
         EXPECT_EQ(edid->limits, each.limits) << int{each.flags};
     }
@@ -90,6 +93,25 @@ TEST(Edid, FollowsExtensionsThatAreWhole)
     EXPECT_EQ(modes(base + cta_block(109, mode(30800, 1900, 1200, 45))), 2U) << "the last place";
     // Some drivers give the whole twice: the first block's count holds.
     EXPECT_EQ(modes(base + fast + fast + fast), 3U);
+}
+
+TEST(Edid, TakesTheCodesOfVideoModesIntoTheExtremes)
+{
+    struct Case {
+        std::string blocks;
+        std::optional<RefreshLimits> rates;
+    };
+    for (const Case& each : {
+             Case{"\x43\x90\x20\x3F", RefreshLimits{24, 120}},            // 16 (native), 32, 63
+             Case{"\x23\x20\x34\x3F\x42\xC7\x20", RefreshLimits{24, 60}}, // behind sound: 199, 32
+             Case{"\x42\xC0\x13", RefreshLimits{50, 100}},                // 64 (native), 19
+             Case{"\x42\x80\xFF", std::nullopt},
+             Case{"\x5F\x10", RefreshLimits{60, 60}}, // longer than its room
+         }) {
+        std::string block = cta_block(4 + static_cast<unsigned>(each.blocks.size()), "");
+        block.replace(4, each.blocks.size(), each.blocks);
+        EXPECT_EQ(read_edid(monitor("", 1) + summed(block))->rates_of_modes, each.rates);
+    }
 }
 
 TEST(Edid, RefusesWhatIsNoMonitorsData)

@@ -16,8 +16,8 @@ inline std::string summed(std::string block)
     return block;
 }
 
-/// A monitor XYZ 1234h without any mode: descriptors are set in by `with`.
-inline std::string monitor(std::string descriptors = "", int extensions = 0)
+/// A monitor XYZ 1234h without any mode but what the descriptors tell.
+inline std::string monitor(std::string descriptors = "", int extensions = 0, char revision = 4)
 {
     std::string block(128, '\0');
     block.replace(1, 6, 6, '\xFF');
@@ -25,6 +25,8 @@ inline std::string monitor(std::string descriptors = "", int extensions = 0)
     block[9] = 0x3A;
     block[10] = 0x34;
     block[11] = 0x12;
+    block[18] = 1;
+    block[19] = revision;
     block.replace(38, 16, 16, '\x01');
     block.replace(54, descriptors.size(), descriptors);
     block[126] = static_cast<char>(extensions);
