@@ -125,17 +125,18 @@ def bar_light(x, y):
     return level - 48 * clamp(1 - notch_distance(x, y) / 3, 0, 1) ** 1.5
 
 
-def picture(light, left, top, width, height):
-    """A grey picture of a light; the dither is counted in window pixels so that it too runs on across a seam."""
+def picture(light, left, top, width, height, scale):
+    """A grey picture of a light; the dither is counted in device pixels of the window and so runs on across seams."""
     return Image([
-        [(level, level, level, 255) for level in
-         (dithered(light(x + 0.5, y + 0.5), x, y) for x in range(left, left + width))]
-        for y in range(top, top + height)
-    ])
+        [dithered(light((x + 0.5) / scale, (y + 0.5) / scale), x, y)
+         for x in range(left * scale, (left + width) * scale)]
+        for y in range(top * scale, (top + height) * scale)
+    ], 1)
 
 
-def skin_pictures():
-    """Every skin picture by its name."""
-    pictures = {name: picture(column_light if name == "S1" else frame_light, *place) for name, place in BANDS.items()}
-    pictures["BM"] = picture(bar_light, 0, 0, COLUMN_WIDTH, BAR_HEIGHT)
+def skin_pictures(scale):
+    """Every skin picture by its name, at scale device pixels for a pixel of the window."""
+    pictures = {name: picture(column_light if name == "S1" else frame_light, *place, scale)
+                for name, place in BANDS.items()}
+    pictures["BM"] = picture(bar_light, 0, 0, COLUMN_WIDTH, BAR_HEIGHT, scale)
     return pictures

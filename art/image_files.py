@@ -1,28 +1,36 @@
-"""Reads the PNG files that the SVG renderer writes; writes BMP and PNG files. Pixels are (R, G, B, A), alpha straight."""
+"""Reads and writes the picture files. Pixels are bytes, row by row from the top: grey, RGB, or RGB and straight alpha."""
 
 import struct
 import zlib
 
 PNG_SIGNATURE = b"\x89PNG\r\n\x1a\n"
-TRUECOLOUR, TRUECOLOUR_ALPHA = 2, 6
+# PNG's colour types (W3C, section 11.2.1) by bytes a pixel.
+COLOUR_TYPES = {1: 0, 3: 2, 4: 6}
+STEPS = {colour: step for step, colour in COLOUR_TYPES.items()}
 
 
 class Image:
-    """Rows of (R, G, B, A) from top to bottom."""
+    """Rows of equal length; step is the number of bytes a pixel: 1, 3 or 4."""
 
-    def __init__(self, rows):
-        self.rows = rows
-        self.width = len(rows[0])
-        self.height = len(rows)
+    def __init__(self, rows, step):
+        self.rows = [bytes(row) for row in rows]
+        self.step = step
+        self.width = len(self.rows[0]) // step
+        self.height = len(self.rows)
 
+    def plane(self, channel):
+        """One channel of every row; grey is its own red, green and blue, and what has no alpha is opaque."""
+        if channel == 3 and self.step != 4:
+            return [b"\xff" * self.width] * self.height
+        return [row[channel % self.step :: self.step] for row in self.rows]
 
-def png_chunks(data):
-    """Each chunk's type and body (PNG, W3C, section 5.3)."""
-    at = len(PNG_SIGNATURE)
-    while at < len(data):
-        length, kind = struct.unpack_from(">I4s", data, at)
-        yield kind, data[at + 8 : at + 8 + length]
-        at += length + 12
+    def joined(self, channels):
+        """The same pixels, made of the channels named by their numbers, in that order."""
+        rows = [bytearray(self.width * len(channels)) for _ in self.rows]
+        for place, channel in enumerate(channels):
+            for row, values in zip(rows, self.plane(channel)):
+                row[place :: len(channels)] = values
+        return Image(rows, len(channels))
 
 
 def paeth(left, above, corner):
@@ -35,6 +43,8 @@ def paeth(left, above, corner):
 
 def unfiltered(kind, line, above, step):
     """A line's bytes before the filter of PNG section 9.2, step bytes a pixel."""
+    if kind == 0:
+        return line
     line = bytearray(line)
     for i in range(len(line)):
         left, corner = (line[i - step], above[i - step]) if i >= step else (0, 0)
@@ -43,19 +53,30 @@ def unfiltered(kind, line, above, step):
     return line
 
 
+def png_chunks(data):
+    """Each chunk's type and body (PNG, section 5.3)."""
+    at = len(PNG_SIGNATURE)
+    while at < len(data):
+        length, kind = struct.unpack_from(">I4s", data, at)
+        yield kind, data[at + 8 : at + 8 + length]
+        at += length + 12
+
+
 def read_png(data):
-    """An 8-bit true-colour PNG, not interlaced: what the renderer writes, with alpha only where it is needed."""
+    """An 8-bit grey, RGB or RGBA PNG that is not interlaced; ValueError for any other."""
+    if not data.startswith(PNG_SIGNATURE):
+        raise ValueError("not a PNG")
     chunks = list(png_chunks(data))
     width, height, depth, colour, _, _, interlaced = struct.unpack(">IIBBBBB", dict(chunks)[b"IHDR"])
-    if depth != 8 or colour not in (TRUECOLOUR, TRUECOLOUR_ALPHA) or interlaced:
-        raise ValueError("the renderer wrote another kind of PNG than 8-bit RGB or RGBA")
-    step = 4 if colour == TRUECOLOUR_ALPHA else 3
+    if depth != 8 or colour not in STEPS or interlaced:
+        raise ValueError("another kind of PNG than 8-bit grey, RGB or RGBA")
+    step = STEPS[colour]
     packed = zlib.decompress(b"".join(body for kind, body in chunks if kind == b"IDAT"))
-    above, rows = bytes(width * step), []
-    for at in range(0, height * (width * step + 1), width * step + 1):
-        above = unfiltered(packed[at], packed[at + 1 : at + 1 + width * step], above, step)
-        rows.append([(*above[x : x + 3], above[x + 3] if step == 4 else 255) for x in range(0, width * step, step)])
-    return Image(rows)
+    above, rows, length = bytes(width * step), [], width * step + 1
+    for at in range(0, height * length, length):
+        above = unfiltered(packed[at], packed[at + 1 : at + length], above, step)
+        rows.append(above)
+    return Image(rows, step)
 
 
 def png_bytes(image):
@@ -64,35 +85,15 @@ def png_bytes(image):
     def chunk(kind, body):
         return struct.pack(">I", len(body)) + kind + body + struct.pack(">I", zlib.crc32(kind + body))
 
-    header = struct.pack(">IIBBBBB", image.width, image.height, 8, TRUECOLOUR_ALPHA, 0, 0, 0)
-    lines = b"".join(b"\0" + bytes(c for pixel in row for c in pixel) for row in image.rows)
-    return (PNG_SIGNATURE + chunk(b"IHDR", header) + chunk(b"IDAT", zlib.compress(lines, 9)) + chunk(b"IEND", b""))
+    header = struct.pack(">IIBBBBB", image.width, image.height, 8, COLOUR_TYPES[image.step], 0, 0, 0)
+    lines = b"".join(b"\0" + row for row in image.rows)
+    return PNG_SIGNATURE + chunk(b"IHDR", header) + chunk(b"IDAT", zlib.compress(lines, 9)) + chunk(b"IEND", b"")
 
 
-def bmp_bytes(image, with_alpha):
-    """An uncompressed bottom-up BMP: 24 bits a pixel, or 32 with straight alpha in the fourth byte."""
-    depth = 32 if with_alpha else 24
-    lines = b""
-    for row in reversed(image.rows):
-        line = bytes(c for r, g, b, a in row for c in ((b, g, r, a) if with_alpha else (b, g, r)))
-        lines += line + bytes(-len(line) % 4)
+def bmp_bytes(image):
+    """An uncompressed bottom-up BMP: 32 bits a pixel with straight alpha in the fourth byte, or 24 without."""
+    pixels = image.joined((2, 1, 0, 3) if image.step == 4 else (2, 1, 0))
+    lines = b"".join(row + bytes(-len(row) % 4) for row in reversed(pixels.rows))
     file_header = struct.pack("<2sIHHI", b"BM", 54 + len(lines), 0, 0, 54)
     return file_header + struct.pack(
-        "<IiiHHIIiiII", 40, image.width, image.height, 1, depth, 0, len(lines), 0, 0, 0, 0) + lines
-
-
-def read_bmp(data):
-    """The image in a file of bmp_bytes' form and its bits a pixel; ValueError for any other form."""
-    magic, size, _, _, start = struct.unpack_from("<2sIHHI", data)
-    header, width, height, planes, depth, packing, _ = struct.unpack_from("<IiiHHII", data, 14)
-    if (magic, size, start, header, planes, packing) != (b"BM", len(data), 54, 40, 1, 0) or depth not in (24, 32):
-        raise ValueError("not an uncompressed BMP with a header of 54 bytes")
-    stride, step = (width * depth // 8 + 3) // 4 * 4, depth // 8
-    if width < 1 or height < 1 or size != 54 + stride * height:
-        raise ValueError("length and size disagree")
-    rows = []
-    for y in reversed(range(height)):
-        line = data[54 + y * stride : 54 + (y + 1) * stride]
-        pixels = (line[x : x + step] for x in range(0, width * step, step))
-        rows.append([(p[2], p[1], p[0], p[3] if step == 4 else 255) for p in pixels])
-    return Image(rows), depth
+        "<IiiHHIIiiII", 40, image.width, image.height, 1, pixels.step * 8, 0, len(lines), 0, 0, 0, 0) + lines
