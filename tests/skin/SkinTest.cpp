@@ -171,17 +171,19 @@ TEST_F(Skin, EveryPictureOfTheDesignIsThereInItsSize)
                 continue;
             EXPECT_EQ((*box)->Stored.bitmap().width, (*box)->Width) << entry.name;
             EXPECT_EQ((*box)->Stored.bitmap().height, (*box)->Height) << entry.name;
+            EXPECT_EQ((*box)->Stored.doubled().width, 2 * (*box)->Width) << entry.name;
+            EXPECT_EQ((*box)->Stored.doubled().height, 2 * (*box)->Height) << entry.name;
         }
     }
     EXPECT_EQ(F6->controls.size(), 21U);
     for (const ControlEntry& entry : F6->controls)
         EXPECT_FALSE(std::get<PictureBox*>(entry.control)->Stored.empty()) << entry.name;
     for (const PictureBox* pic : {&F1.S(1), &F1.S(2), &F1.S(3), &F1.S(4), &F1.BM}) {
-        const Bitmap& grey = pic->Stored.bitmap();
-        ASSERT_GT(grey.width, 0);
-        for (int y = 0; y < grey.height; ++y) {
-            for (const auto* p = grey.row(y); p < grey.row(y) + grey.width * 3; p += 3)
-                ASSERT_TRUE(p[0] == p[1] && p[1] == p[2]) << "not grey in row " << y;
+        for (const Bitmap* grey : {&pic->Stored.bitmap(), &pic->Stored.doubled()}) {
+            for (int y = 0; y < grey->height; ++y) {
+                for (const auto* p = grey->row(y); p < grey->row(y) + grey->width * 3; p += 3)
+                    ASSERT_TRUE(p[0] == p[1] && p[1] == p[2]) << "not grey in row " << y;
+            }
         }
     }
 }

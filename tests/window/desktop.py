@@ -25,10 +25,14 @@ def wait_for(condition, seconds=20, step=0.05):
 
 
 class Desktop:
-    def __init__(self, compositor=True, ground="#ff0000"):
+    """`size` is the screen's, in pixels. The X server keeps the screen's picture in the file `frame_buffer`."""
+
+    def __init__(self, compositor=True, ground="#ff0000", size=(1024, 768)):
         self.processes = []
+        self.size = size
         self.home = Path(tempfile.mkdtemp(prefix="ostrelum-home-"))
         (self.home / "run").mkdir(mode=0o700)
+        self.frame_buffer = self.home / "Xvfb_screen0"
         self.environment = dict(os.environ, HOME=str(self.home), XDG_CONFIG_HOME=str(self.home / "config"),
                                 XDG_RUNTIME_DIR=str(self.home / "run"), QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
                                 LC_ALL="C.UTF-8", TZ="UTC", QT_QPA_PLATFORM="xcb")
@@ -42,8 +46,10 @@ class Desktop:
 
     def _start_display(self):
         read_end, write_end = os.pipe()
-        server = subprocess.Popen(["Xvfb", "-displayfd", str(write_end), "-screen", "0", "1024x768x24", "-nolisten",
-                                   "tcp"], pass_fds=[write_end], stderr=subprocess.DEVNULL)
+        screen = "{}x{}x24".format(*self.size)
+        server = subprocess.Popen(["Xvfb", "-displayfd", str(write_end), "-screen", "0", screen, "-fbdir",
+                                   str(self.home), "-nolisten", "tcp"], pass_fds=[write_end],
+                                  stderr=subprocess.DEVNULL)
         os.close(write_end)
         self.processes.append(server)
         with os.fdopen(read_end) as numbers:
@@ -109,11 +115,16 @@ class Desktop:
                               capture_output=True, timeout=30, check=False)
         return done.stdout.decode("utf-8")
 
-    def pixel(self, window, x, y):
-        """The colour of a pixel of the window's client area as it is on the screen."""
+    def place(self, window):
+        """Left, top, width and height of the window's client area on the screen."""
         place = dict(line.split("=") for line in
                      self.call("xdotool", "getwindowgeometry", "--shell", window).splitlines())
-        crop = f"1x1+{int(place['X']) + x}+{int(place['Y']) + y}"
+        return tuple(int(place[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
+
+    def pixel(self, window, x, y):
+        """The colour of a pixel of the window's client area as it is on the screen."""
+        left, top, _, _ = self.place(window)
+        crop = f"1x1+{left + x}+{top + y}"
         done = subprocess.run(["import", "-window", "root", "-crop", crop, "-depth", "8", "rgb:-"],
                               env=self.environment, capture_output=True, timeout=30, check=True)
         return tuple(done.stdout[:3])

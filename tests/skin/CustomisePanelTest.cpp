@@ -1,0 +1,218 @@
+#include "tests/Stage.h"
+
+#include "skin/Skin.h"
+
+namespace ostrelum {
+namespace {
+
+class CustomisePanelOpen : public Stage {
+protected:
+    /// Opens the panel over the given section.
+    void open(int section = 3)
+    {
+        start_program();
+        press("LMenu", section);
+        store.writes.clear();
+        click("Personalizar");
+    }
+    /// The user moves a slider.
+    static void slide(ScrollBar& bar, int value, EventKind kind = EventKind::Scroll)
+    {
+        bar.Value = value;
+        F1.raise(F1.entry_of(&bar), {.kind = kind});
+    }
+    static void tick_box(bool ticked)
+    {
+        F1.CheckTrans.Value = ticked ? 1 : 0;
+        click("CheckTrans");
+    }
+    static void choose_language(int entry)
+    {
+        F1.LangList.ListIndex = entry;
+        click("LangList");
+    }
+    std::vector<std::string> written()
+    {
+        std::vector<std::string> names;
+        for (const std::string& name : store.writes)
+            names.push_back(name.substr(name.rfind('\\') + 1));
+        store.writes.clear();
+        return names;
+    }
+};
+
+using Names = std::vector<std::string>;
+
+TEST_F(CustomisePanelOpen, ShowsTheSettingsOfTheRunAndTouchesNeitherSkinNorStore)
+{
+    store_text("Language", "Dutch");
+    store_number("ColorValue", 255);
+    store_number("ShineValue", 5);
+    store_number("SCV", 210);
+    store_number("ChkTrans", 0);
+    store_number("Transparency", 30);
+    start_program();
+    press("LMenu", 6);
+    store.writes.clear();
+    F1.Timer1.Enabled = true;
+    const Picture skin = F1.S(1).Surface;
+    click("Personalizar");
+
+    EXPECT_EQ(F1.LangList.List, (Names{"English (UK, Great Britain)", "Español (Argentina)",
+                                       "Nederlands (Nederland)"}));
+    EXPECT_EQ(F1.LangList.ListIndex, 2);
+    EXPECT_EQ(F1.Titulo.Caption, Trad[6]);
+    EXPECT_EQ(F1.CheckTrans.Caption, " Transparantie toestaan");
+    EXPECT_EQ(F1.Scroll1.Value, 210);
+    EXPECT_EQ(F1.Arrow.Left, 17 - 4 + 210);
+    EXPECT_EQ(F1.Scroll2.Value, 4) << "5 halves to 2, the even neighbour";
+    EXPECT_EQ(F1.CheckTrans.Value, 0);
+    EXPECT_FALSE(F1.Scroll3.Enabled);
+    EXPECT_EQ(F1.LPers3.ForeColor, RGB(96, 96, 96));
+    EXPECT_EQ(F1.LPers3.Caption, "30 %");
+    EXPECT_EQ(F1.S(1).Surface, skin);
+    EXPECT_EQ(F1.LT(1).Caption, "");
+    EXPECT_FALSE(F1.Timer1.Enabled);
+    EXPECT_TRUE(F1.PicPersonalizar.Visible && F1.BAceptar.Visible && F1.PanelReady);
+    toolkit.advance(F1, 20 * MemoryToolkit::FrameTime);
+    EXPECT_EQ(F1.Ico.Stored, F6->IOpc.Stored);
+
+    click("BAceptar");
+    EXPECT_EQ(written(), Names{}) << "nothing differs";
+    EXPECT_EQ(F1.Seccion, 6);
+    EXPECT_EQ(F1.Titulo.Caption, Trad[16]);
+    EXPECT_TRUE(F1.LineInf.Visible && F1.LMenu(1).TabStop);
+    EXPECT_TRUE(F1.LangList.List.empty());
+    click("Personalizar");
+    EXPECT_EQ(F1.LangList.List.size(), 3U);
+}
+
+TEST_F(CustomisePanelOpen, SlidersActAtOnceAndTheArrowFollows)
+{
+    const struct {
+        int column;
+        std::int32_t colour;
+    } rows[] = {{0, 0x0000FF},   {1, 0x0004FF},   {17, 0x007BFF},  {34, 0x00FBFF},
+                {35, 0x00FFFF},  {36, 0x00FFFB},  {70, 0x00FF00},  {104, 0xFBFF00},
+                {105, 0xFFFF00}, {120, 0xFF9600}, {122, 0xFF8400}, {140, 0xFF0000},
+                {175, 0xFF00FF}, {209, 0x0400FF}, {210, 0x0000FF}};
+    open();
+    for (const auto& row : rows) {
+        const Picture before = F1.BM.Surface;
+        slide(F1.Scroll1, row.column);
+        EXPECT_EQ(ColorValue, row.colour) << row.column;
+        EXPECT_EQ(F1.Arrow.Left, 13 + row.column);
+        EXPECT_EQ(F1.Titulo.ForeColor, RGB(SkinR, SkinG, SkinB));
+        EXPECT_NE(F1.BM.Surface, before);
+    }
+    const std::pair<int, int> shines[] = {{47, 24}, {7, 4}, {5, 2}, {1, 0}, {48, 24}};
+    for (const auto& [position, shine] : shines) {
+        slide(F1.Scroll2, position, EventKind::Change);
+        EXPECT_EQ(Shine, shine) << position;
+    }
+    slide(F1.Scroll3, 80);
+    EXPECT_EQ(F1.LPers3.Caption, "80 %");
+    EXPECT_EQ(toolkit.alphas[&F1].back(), 51);
+    EXPECT_EQ(written(), Names{"SCV"}) << "a first opening stores the slider's place alone";
+}
+
+TEST_F(CustomisePanelOpen, PendingEventsOfAStepLeaveTheNewestColour)
+{
+    open();
+    toolkit.pending = [] { slide(F1.Scroll1, 70); };
+    slide(F1.Scroll1, 35);
+    EXPECT_EQ(ColorValue, 0x00FF00);
+    const Picture newest = F1.S(2).Surface;
+    Tint(F1.S(2));
+    EXPECT_TRUE(F1.S(2).Surface.bitmap() == newest.bitmap());
+    EXPECT_EQ(F1.Arrow.Left, 13 + 70);
+}
+
+TEST_F(CustomisePanelOpen, TheBoxSwitchesOpacityAndKeepsThePercent)
+{
+    store_number("Transparency", 20);
+    open();
+    tick_box(false);
+    EXPECT_EQ(toolkit.alphas[&F1].back(), 255);
+    EXPECT_FALSE(TransEnabled || F1.Scroll3.Enabled);
+    EXPECT_EQ(F1.Scroll3.Value, 20);
+    tick_box(true);
+    EXPECT_EQ(toolkit.alphas[&F1].back(), 204);
+    EXPECT_TRUE(TransEnabled && F1.Scroll3.Enabled);
+    EXPECT_EQ(F1.LPers3.ForeColor, RGB(32, 32, 32));
+}
+
+TEST_F(CustomisePanelOpen, AcceptWritesWhatDiffersInOrder)
+{
+    const struct {
+        std::function<void()> user;
+        Names names;
+    } cases[] = {
+        {[] {}, {}},
+        {[] { choose_language(1); }, {"Language"}},
+        {[] { choose_language(1), choose_language(0); }, {}},
+        {[] { slide(F1.Scroll1, 0); }, {"ColorValue", "SCV"}},
+        {[] { slide(F1.Scroll1, 0), slide(F1.Scroll1, 120); }, {}},
+        {[] { slide(F1.Scroll2, 47); }, {}},
+        {[] { slide(F1.Scroll2, 10); }, {"ShineValue"}},
+        {[] { tick_box(false); }, {"ChkTrans"}},
+        {[] {
+             slide(F1.Scroll3, 10), tick_box(false), slide(F1.Scroll2, 0), slide(F1.Scroll1, 210),
+                 choose_language(2);
+         },
+         {"Language", "ColorValue", "SCV", "ShineValue", "ChkTrans", "Transparency"}},
+    };
+    for (const auto& c : cases) {
+        store.values.clear();
+        open();
+        written();
+        c.user();
+        EXPECT_EQ(written(), Names{}) << "nothing is stored before Accept";
+        click("BAceptar");
+        EXPECT_EQ(written(), c.names);
+    }
+    EXPECT_EQ(stored("Language"), "Dutch");
+    EXPECT_EQ(stored("ColorValue"), "255");
+    EXPECT_EQ(stored("SCV"), "210");
+    EXPECT_EQ(stored("ChkTrans"), "0");
+    EXPECT_EQ(F1.LMenu2.Caption, "Computer");
+    EXPECT_EQ(F1.Titulo.Caption, Trad[13]) << "the page comes up in the language chosen";
+}
+
+TEST_F(CustomisePanelOpen, AStoreThatCannotBeWrittenChangesNothingElse)
+{
+    store_number("SCV", 211);
+    open();
+    EXPECT_EQ(F1.Scroll1.Value, 122);
+    EXPECT_EQ(written(), Names{"SCV"});
+    EXPECT_EQ(ColorValue, 16750080) << "the skin keeps its colour";
+    store.read_only = true;
+    slide(F1.Scroll1, 35);
+    click("BAceptar");
+    EXPECT_EQ(ColorValue, 0x00FFFF);
+    EXPECT_EQ(F1.Seccion, 3);
+    EXPECT_FALSE(F1.PanelOpen);
+}
+
+TEST_F(CustomisePanelOpen, LocksWhatLiesAroundItUntilItCloses)
+{
+    open();
+    press("LMenu", 8);
+    press("S", 1, LeftButton, 20, 300);
+    press("Form", 0, RightButton);
+    press("LT", 3, RightButton);
+    F1.raise("LOpc", {.kind = EventKind::MouseUp, .button = LeftButton});
+    EXPECT_EQ(F1.Seccion, CustomisePanel);
+    EXPECT_TRUE(toolkit.popups.empty());
+    EXPECT_FALSE(F1.LMenu(8).TabStop || F1.LOpc.TabStop);
+    choose_language(1);
+    EXPECT_EQ(F1.LMenu2.Caption, "Computadora");
+    EXPECT_EQ(F1.LT(1).Caption, "") << "the page stays empty";
+    bool cancel = false;
+    F1.raise("Form", {.kind = EventKind::Unload, .cancel = &cancel});
+    EXPECT_TRUE(cancel && F1.TUnload.Enabled);
+    EXPECT_EQ(written(), Names{"SCV"}) << "closing the window stores nothing";
+}
+
+} // namespace
+} // namespace ostrelum
