@@ -1,5 +1,7 @@
 #include "skin/Bmp.h"
 
+#include <algorithm>
+
 namespace ostrelum {
 namespace {
 
@@ -42,6 +44,15 @@ std::optional<Header> read_header(std::span<const std::uint8_t> file)
     return header;
 }
 
+/// Parts the colours of a row of 32-bit pixels from their coverage.
+void split_row(const std::uint8_t* source, std::uint8_t* dest, Bitmap& bitmap)
+{
+    for (int x = 0; x < bitmap.width; ++x, source += 4, dest += 3) {
+        std::copy_n(source, 3, dest);
+        bitmap.coverage.push_back(source[3]);
+    }
+}
+
 } // namespace
 
 std::optional<Bitmap> read_bmp(std::span<const std::uint8_t> file)
@@ -57,13 +68,10 @@ std::optional<Bitmap> read_bmp(std::span<const std::uint8_t> file)
         const auto from_foot = static_cast<std::size_t>(bitmap.height - 1 - y);
         const std::uint8_t* source =
             file.data() + header->pixels_at + from_foot * header->row_bytes();
-        std::uint8_t* dest = bitmap.row(y);
-        for (int x = 0; x < bitmap.width; ++x, source += header->bytes_per_pixel) {
-            for (int channel = 0; channel < 3; ++channel)
-                *dest++ = source[channel];
-            if (holed)
-                bitmap.coverage.push_back(source[3]);
-        }
+        if (holed)
+            split_row(source, bitmap.row(y), bitmap);
+        else
+            std::copy_n(source, 3 * header->width, bitmap.row(y));
     }
     return bitmap;
 }

@@ -11,6 +11,8 @@ namespace {
 constexpr std::uint64_t KernelThread = 0x00200000;
 /// Place of the flags among the words behind the name, which may hold blanks and brackets itself.
 constexpr std::size_t FlagsWord = 6;
+/// The words up to the flags are a letter and numbers of at most 11 signs.
+constexpr std::size_t FlagsEnd = 80;
 
 } // namespace
 
@@ -19,7 +21,7 @@ std::optional<bool> is_kernel_thread(std::string_view stat)
     const auto name_end = stat.rfind(')');
     if (name_end == stat.npos)
         return std::nullopt;
-    const auto words = words_of(stat.substr(name_end + 1));
+    const auto words = words_of(stat.substr(name_end + 1, FlagsEnd));
     if (words.size() <= FlagsWord)
         return std::nullopt;
     const auto flags = whole_number(words[FlagsWord]);

@@ -27,13 +27,13 @@ std::vector<std::string_view> lines_of(std::string_view text)
 
 std::vector<std::string_view> words_of(std::string_view text)
 {
-    constexpr std::string_view blanks = " \t";
+    const auto is_blank = [](char c) { return c == ' ' || c == '\t'; };
     std::vector<std::string_view> words;
-    for (std::size_t start = text.find_first_not_of(blanks); start != std::string_view::npos;
-         start = text.find_first_not_of(blanks, start)) {
-        const std::size_t end = std::min(text.find_first_of(blanks, start), text.size());
-        words.push_back(text.substr(start, end - start));
-        start = end;
+    for (auto at = text.begin(); at != text.end();) {
+        const auto start = std::find_if_not(at, text.end(), is_blank);
+        at = std::find_if(start, text.end(), is_blank);
+        if (start != at)
+            words.emplace_back(start, at);
     }
     return words;
 }
