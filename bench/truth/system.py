@@ -7,7 +7,7 @@ import re
 import shlex
 from datetime import datetime, timezone
 
-from hardware import labels, rows
+from hardware import Near, labels, rows
 from subject import NotCompared, natural, run
 
 OS, DISK, PROFILE = "Win32_OperatingSystem", "Win32_LogicalDisk", "Win32_NetworkLoginProfile"
@@ -19,13 +19,6 @@ FAT = ("FAT12", "FAT16", "FAT32")
 TYPES = {"vfat": FAT, "msdos": FAT, "ntfs": ("NTFS",), "ntfs3": ("NTFS",), "fuseblk": ("NTFS", "exFAT"),
          "exfat": ("exFAT",), "iso9660": ("CDFS",), "udf": ("UDF",)}
 SYSTEM = r"/(proc|sys|dev|snap|var/lib/(docker|containers|containerd|flatpak|lxcfs|snapd))(/|$)|/run/(?!media/|live/)"
-
-
-class Near(int):
-    """A number that changes while it is asked for: equal within 5 %."""
-
-    def __eq__(self, other):
-        return abs(self - other) <= 0.05 * max(self, other)
 
 
 def lsblk(machine):
