@@ -225,7 +225,8 @@ def upower(machine):
         raise NotCompared("it knows this machine alone")
     batteries = [line for line in run("upower", "-e").splitlines() if "battery_" in line]
     theirs = [labels(run("upower", "-i", device)) for device in batteries]
-    yield from rows("Win32_Battery", machine.query("Win32_Battery"), [{"Name": told.get("model")} for told in theirs])
+    yield from rows("Win32_Battery", machine.query("Win32_Battery"), [
+        {"Name": told.get("model"), "EstimatedChargeRemaining": int(told["percentage"].rstrip("%"))} for told in theirs])
 
 
 def xrandr(machine):
