@@ -226,7 +226,7 @@ def upower(machine):
     batteries = [line for line in run("upower", "-e").splitlines() if "battery_" in line]
     theirs = [labels(run("upower", "-i", device)) for device in batteries]
     yield from rows("Win32_Battery", machine.query("Win32_Battery"), [
-        {"Name": told.get("model"), "EstimatedChargeRemaining": int(told["percentage"].rstrip("%"))} for told in theirs])
+        {"Name": it.get("model"), "EstimatedChargeRemaining": int(it["percentage"].rstrip("%"))} for it in theirs])
 
 
 def xrandr(machine):
