@@ -13,7 +13,8 @@ using Screens = std::vector<ScreenFact>;
 Screens screens_of(const MachineView& machine)
 {
     Screens screens = machine.session ? machine.session().screens : Screens();
-    std::ranges::stable_partition(screens, &ScreenFact::primary);
+    std::stable_partition(screens.begin(), screens.end(),
+                          [](const ScreenFact& screen) { return screen.primary; });
     return screens;
 }
 

@@ -35,7 +35,7 @@ std::vector<std::string> display_slots(const Sysroot& root)
         const auto kind = root.text(pci_devices + ("/" + slot) + "/class");
         return !kind || !kind->starts_with(display_class);
     });
-    std::ranges::stable_partition(slots, [&](const std::string& slot) {
+    std::stable_partition(slots.begin(), slots.end(), [&](const std::string& slot) {
         return root.number(pci_devices + ("/" + slot) + "/boot_vga") == 1U;
     });
     return slots;
