@@ -44,16 +44,28 @@ private:
     std::vector<std::string> names_;
 };
 
+Descriptor open_in_root(int root, const std::string& path, int flags)
+{
+    open_how how = {};
+    how.flags = static_cast<unsigned>(flags);
+    how.resolve = RESOLVE_IN_ROOT | RESOLVE_NO_MAGICLINKS;
+    return Descriptor(
+        static_cast<int>(::syscall(SYS_openat2, root, path.c_str(), &how, sizeof how)));
+}
+
+/// The last call was not answered, rather than answered with no.
+bool is_refused()
+{
+    return errno == ENOSYS || errno == EPERM;
+}
+
 } // namespace
 
 Descriptor resolve_in_root(int root, const std::string& path, LastLink last)
 {
-    open_how how = {};
-    how.flags = place_flags | (last == LastLink::Keep ? O_NOFOLLOW : 0);
-    how.resolve = RESOLVE_IN_ROOT | RESOLVE_NO_MAGICLINKS;
-    Descriptor place(
-        static_cast<int>(::syscall(SYS_openat2, root, path.c_str(), &how, sizeof how)));
-    if (!place && (errno == ENOSYS || errno == EPERM))
+    Descriptor place =
+        open_in_root(root, path, place_flags | (last == LastLink::Keep ? O_NOFOLLOW : 0));
+    if (!place && is_refused())
         return resolve_by_hand(root, path, last);
     return place;
 }
@@ -86,9 +98,17 @@ Descriptor resolve_by_hand(int root, const std::string& path, LastLink last)
     return trail.empty() ? Descriptor(::openat(root, ".", place_flags)) : std::move(trail.back());
 }
 
+std::optional<Descriptor> open_kernel_file(int root, const std::string& path)
+{
+    Descriptor file = open_in_root(root, path, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    if (!file && is_refused())
+        return std::nullopt;
+    return file;
+}
+
 std::optional<std::string> link_text(const Descriptor& place)
 {
-    std::array<char, PATH_MAX> text = {};
+    std::array<char, PATH_MAX> text;
     const ssize_t length = ::readlinkat(place.number(), "", text.data(), text.size());
     if (length <= 0)
         return std::nullopt;

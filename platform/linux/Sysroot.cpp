@@ -44,6 +44,19 @@ std::optional<std::string> read_to_end(const Descriptor& file, std::size_t limit
     }
 }
 
+bool is_live_root(const Descriptor& root)
+{
+    struct stat here = {};
+    struct stat live = {};
+    return ::fstat(root.number(), &here) == 0 && ::stat("/", &live) == 0 &&
+           here.st_dev == live.st_dev && here.st_ino == live.st_ino;
+}
+
+bool is_kernel_path(const std::string& path)
+{
+    return path.starts_with("/proc/") || path.starts_with("/sys/");
+}
+
 } // namespace
 
 Sysroot::Sysroot(const std::string& path, Resolver resolver)
@@ -51,14 +64,7 @@ Sysroot::Sysroot(const std::string& path, Resolver resolver)
 {
     if (!root_)
         throw Failure(path + ": " + std::generic_category().message(errno));
-}
-
-bool Sysroot::is_live() const
-{
-    struct stat here = {};
-    struct stat live = {};
-    return ::fstat(root_.number(), &here) == 0 && ::stat("/", &live) == 0 &&
-           here.st_dev == live.st_dev && here.st_ino == live.st_ino;
+    live_ = is_live_root(root_);
 }
 
 bool Sysroot::exists(const std::string& path) const
@@ -68,8 +74,12 @@ bool Sysroot::exists(const std::string& path) const
 
 std::optional<std::string> Sysroot::read(const std::string& path, std::size_t limit) const
 {
-    const Descriptor file = open(path);
-    return file ? read_to_end(file, limit) : std::nullopt;
+    std::optional<Descriptor> file;
+    if (live_ && is_kernel_path(path))
+        file = open_kernel_file(root_.number(), path);
+    if (!file)
+        file = open(path);
+    return *file ? read_to_end(*file, limit) : std::nullopt;
 }
 
 Descriptor Sysroot::open(const std::string& path) const

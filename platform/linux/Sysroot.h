@@ -25,7 +25,7 @@ public:
     explicit Sysroot(const std::string& path, Resolver resolver = resolve_in_root);
 
     /// This very machine, not a recorded one.
-    bool is_live() const;
+    bool is_live() const { return live_; }
 
     bool exists(const std::string& path) const;
 
@@ -55,6 +55,7 @@ private:
 
     Descriptor root_;
     Resolver resolver_;
+    bool live_ = false;
 };
 
 } // namespace ostrelum
