@@ -9,6 +9,9 @@ RIGHT_BAND_WIDTH, BAND_HEIGHT = 31, 31
 MENU_TOP, ROW_HEIGHT, MENU_ROWS = 49, 35, 13
 TAB_WIDTH, TAB_HEIGHT, TAB_RADIUS = 135, 31, 9
 BAR_HEIGHT = 35
+# The lines of the word on the tab and of the name on the bar, and the levels on which white letters can be read.
+TAB_TEXT_TOP, TAB_TEXT_FOOT, TAB_LEVEL = 7, 24, 83
+BAR_TEXT_TOP, BAR_LEVEL, BAR_FOOT = 9, 86, 80
 NOTCH_LEFT, NOTCH_TOP, NOTCH_WIDTH, NOTCH_HEIGHT = 163, 11, 7, 13
 
 # Place, left and top in the window, and size of each picture cut from the frame.
@@ -61,7 +64,7 @@ def frame_light(x, y):
         across = 1.0 - 0.35 * smooth(behind_page / RIGHT_BAND_WIDTH)
     from_edge = 1.0 - abs(2 * y / WINDOW_HEIGHT - 1)
     down = 1.0 - (1.0 - from_edge) ** 3
-    return 50 + 14 * across + 23 * down * (0.5 + 0.5 * across) + page_glow(x, y)
+    return 46 + 12 * across + 18 * down * (0.5 + 0.5 * across) + page_glow(x, y)
 
 
 def row_line(x, y):
@@ -69,9 +72,9 @@ def row_line(x, y):
     row, place = divmod(int(y) - MENU_TOP, ROW_HEIGHT)
     fade = smooth((x - 6) / 40) * smooth((COLUMN_WIDTH - 6 - x) / 40)
     if place == ROW_HEIGHT - 1 and -1 <= row < MENU_ROWS:
-        return -14 * fade
+        return -18 * fade
     if place == 0 and 0 <= row <= MENU_ROWS:
-        return 9 * fade
+        return 12 * fade
     return 0.0
 
 
@@ -83,9 +86,9 @@ def tab_distance(x, y):
     return max(dx, dy) - TAB_RADIUS
 
 
-def gloss(t, top, foot, steepness):
-    """A surface lit from above: bright at t = 0, soon calm, foot at t = 1."""
-    return foot + (top - foot) * (1.0 - clamp(t, 0.0, 1.0)) ** steepness
+def gloss(y, top, calm, height):
+    """A polished surface lit from above: top in its first line, calm from height on, where the letters stand."""
+    return calm + (top - calm) * clamp(1 - (y - 0.5) / height, 0, 1) ** 1.5
 
 
 def column_light(x, y):
@@ -93,9 +96,9 @@ def column_light(x, y):
     ground = frame_light(x, y) + row_line(x, y)
     edge = tab_distance(x, y)
     ground -= 16 * clamp(1 - edge / 4, 0, 1) ** 2
-    tab = gloss((y - 0.5) / (TAB_HEIGHT - 1), 170, 86, 3.0)
+    tab = gloss(y, 170, TAB_LEVEL, TAB_TEXT_TOP) + 16 * smooth((y - TAB_TEXT_FOOT) / (TAB_HEIGHT - TAB_TEXT_FOOT))
     if -2 < edge <= -1:
-        tab = min(tab + 14, 170)
+        tab = min(tab + 20, 170)
     cover = clamp(0.5 - edge, 0, 1)
     return ground + (tab - ground) * cover
 
@@ -121,7 +124,8 @@ def bar_light(x, y):
     """The highlight bar, with its dark last line and the notch in which the arrow lies."""
     if y > BAR_HEIGHT - 1:
         return 36.0
-    level = gloss((y - 0.5) / (BAR_HEIGHT - 2), 180, 80, 2.2)
+    below = smooth((y - BAR_TEXT_TOP) / (BAR_HEIGHT - BAR_TEXT_TOP))
+    level = gloss(y, 180, BAR_LEVEL, BAR_TEXT_TOP) + (BAR_FOOT - BAR_LEVEL) * below
     return level - 48 * clamp(1 - notch_distance(x, y) / 3, 0, 1) ** 1.5
 
 
