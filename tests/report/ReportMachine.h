@@ -2,25 +2,20 @@
 
 #include "report/ReportForm.h"
 #include "tests/MemoryProgram.h"
+#include "tests/RecordedObjects.h"
 
 #include <algorithm>
-#include <fstream>
-#include <sstream>
 
 namespace ostrelum {
 
-/// A machine that answers the queries of golden/machine.tsv: a line for each query of a report, in
-/// their order, and below it one for each object. A property without "=" is null.
+/// A machine that answers the queries of golden/machine.tsv: those of a report, in their order.
 class ReportMachine : public MemoryProgram {
 public:
     ReportMachine()
     {
-        std::ifstream file(OSTRELUM_TESTS_DIR "/report/golden/machine.tsv");
-        for (std::string line; std::getline(file, line);) {
-            if (line.starts_with('\t'))
-                script.results[queries.back()].push_back(object(line.substr(1)));
-            else
-                queries.push_back(line);
+        for (auto& [query, objects] : recorded_objects("report/golden/machine.tsv")) {
+            queries.push_back(query);
+            script.results[query] = std::move(objects);
         }
         machine.environment["UserName"] = "Ana";
         machine.processors = 4;
@@ -40,30 +35,11 @@ public:
     /// Changes a property of the first object of a class.
     void change(const std::string& class_name, std::string_view property, const Value& value)
     {
-        Instance& first = script.results.at(query_about(class_name)).front();
-        auto properties = first.properties();
-        std::ranges::find(properties, property, &Instance::Property::first)->second = value;
-        first = Instance(std::move(properties));
+        ostrelum::change(script.results.at(query_about(class_name)),
+                         {{std::string(property), value}});
     }
 
     std::vector<std::string> queries;
-
-private:
-    static Instance object(const std::string& line)
-    {
-        std::vector<Instance::Property> properties;
-        std::istringstream columns(line);
-        for (std::string column; std::getline(columns, column, '\t');) {
-            const auto sign = column.find('=');
-            Value value;
-            if (sign != std::string::npos)
-                value = column.substr(sign + 1);
-            if (value == Value("True") || value == Value("False"))
-                value = value.truth();
-            properties.emplace_back(column.substr(0, sign), value);
-        }
-        return Instance(std::move(properties));
-    }
 };
 
 } // namespace ostrelum

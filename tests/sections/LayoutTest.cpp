@@ -1,0 +1,155 @@
+#include "tests/sections/SectionTest.h"
+
+namespace ostrelum {
+namespace {
+
+using Layout = SectionTest;
+
+std::string seen_beside_the_rows()
+{
+    std::string names;
+    for (const auto& [visible, name] : {std::pair(F1.Line1.Visible, " Line1"),
+                                        {F1.Line2.Visible, " Line2"},
+                                        {F1.LNoDrive.Visible, " LNoDrive"},
+                                        {F1.Iaviso.Visible, " Iaviso"},
+                                        {F1.Laviso.Visible, " Laviso"},
+                                        {F1.Timer1.Enabled, " Timer1"}})
+        names += visible ? name : "";
+    return names;
+}
+
+/// Bit i for each row i whose title has a tooltip.
+int rows_with_title_tooltips()
+{
+    int rows = 0;
+    for (int row = 1; row <= 12; ++row)
+        rows |= F1.LT(row).ToolTipText.empty() ? 0 : 1 << row;
+    return rows;
+}
+
+TEST_F(Layout, OfEachPageWipesOutThatOfAnother)
+{
+    const struct {
+        int section;
+        const char* title;
+        const char* seen;
+        int title_tooltips = 0b1111111000110;
+        int line_row = 0, line_below = 0;
+        std::set<int> empty_rows;
+    } cases[] = {
+        {.section = 1, .title = "Summary", .seen = "", .empty_rows = {2, 7, 9}},
+        {2, "User account", " Line1 Iaviso Laviso Timer1", 0b1111111000110, 11, 7, {11, 12}},
+        {3, "Computer", "", 0b1111111110110, 0, 0, {7, 8, 9, 10, 11, 12}},
+        {.section = 4, .title = "Operating system", .seen = " Timer1", .empty_rows = {12}},
+        {.section = 5, .title = "Processor", .seen = "", .empty_rows = {10, 11, 12}},
+        {.section = 6, .title = "RAM", .seen = " Timer1", .empty_rows = {9, 10, 11, 12}},
+        {.section = 7, .title = "Hard drives", .seen = "", .empty_rows = {10, 11, 12}},
+        {.section = 8, .title = "Bios", .seen = "", .empty_rows = {6, 7, 8, 9, 10, 11, 12}},
+        {9, "Display", " Line1", 0b1111111011110, 5, 10, {5, 12}},
+        {10, "Keyboard and mouse", " Line1", 0b1111111000110, 3, 9, {3, 9, 10, 11, 12}},
+        {11, "Removable memory", " Line1 Iaviso Laviso", 0b1111111000110, 9, 4, {9, 10, 11, 12}},
+        {12, "CDs/DVDs", " Line1 Iaviso Laviso", 0b1111111000110, 8, 4, {8, 9, 10, 11, 12}},
+        {13, "Others hardware", " Line1 Line2 Timer1", 0b1111111000110, 4, 10, {4, 7}},
+    };
+    press("LMenu", 8);
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.title);
+        F1.Line1.Visible = F1.Line2.Visible = F1.LNoDrive.Visible = true;
+        F1.Iaviso.Visible = F1.Laviso.Visible = true;
+        F1.Laviso.ForeColor = RGB(255, 0, 0);
+        F1.Timer1.Enabled = false;
+        open(c.section);
+        EXPECT_EQ(F1.Titulo.Caption, c.title);
+        EXPECT_EQ(seen_beside_the_rows(), c.seen);
+        EXPECT_EQ(F1.LT(1).Font.Italic, c.section == 1);
+        EXPECT_TRUE(F1.LT(8).Font.Italic == (c.section == 1) || c.empty_rows.contains(8));
+        EXPECT_EQ(rows_with_title_tooltips(), c.title_tooltips);
+        if (c.line_row != 0) {
+            EXPECT_EQ(F1.Line1.Y1, F1.LT(c.line_row).Top + c.line_below);
+            EXPECT_EQ(F1.Line1.Y2, F1.Line1.Y1);
+        }
+        for (int row = 1; row <= 12; ++row)
+            EXPECT_TRUE(c.empty_rows.contains(row)
+                            ? (F1.L(row).Caption + F1.L(row).ToolTipText).empty()
+                            : F1.L(row).ToolTipText == F1.L(row).Caption)
+                << row << " " << F1.L(row).Caption;
+    }
+    EXPECT_EQ(F1.Line2.Y1, F1.LT(7).Top + 10);
+    EXPECT_EQ(F1.Line2.Y2, F1.Line2.Y1);
+}
+
+TEST_F(Layout, TheColoursAreTheSkinsAndTheNoticesOwn)
+{
+    open(1);
+    EXPECT_EQ(F1.LT(8).ForeColor, RGB(SkinR, SkinG, SkinB));
+    open(2);
+    EXPECT_EQ(F1.Laviso.ForeColor, RGB(75, 75, 75));
+    EXPECT_EQ(F1.Laviso.Caption, Trad[58]);
+    open(11);
+    EXPECT_EQ(F1.Laviso.ForeColor, RGB(0, 145, 0));
+}
+
+TEST_F(Layout, WithoutAMediumTheNoticeStandsAloneOnThePage)
+{
+    const struct {
+        int section;
+        const char *disks, *notice, *request;
+    } cases[] = {
+        {11, "Win32_LogicalDisk where DriveType = 2", "None removable drive has been conected",
+         "Couldn't detect any removable drive connected to the PC.\r\n"
+         "Please, connect at least a removable drive."},
+        {12, "Win32_LogicalDisk where DriveType = 5", "None CD/DVD has been inserted",
+         "Couldn't find any CD/DVD in the drives.\r\nPlease, insert at least a CD/DVD."},
+    };
+    for (const auto& c : cases) {
+        ResultSet slots;
+        for (const Value& size : {Value(), Value("0"), Value(-1), Value("none")}) {
+            slots.push_back(has[c.disks].front());
+            auto slot = ResultSet{has[c.disks].front()};
+            change(slot, {{"Size", size}});
+            slots.back() = slot.front();
+        }
+        slots.pop_back();
+        has[c.disks] = slots;
+        F1.Line1.Visible = F1.Line2.Visible = true;
+        open(c.section);
+        EXPECT_THAT(shown(1, 12), ::testing::Each(""));
+        for (int row = 1; row <= 12; ++row)
+            EXPECT_EQ(F1.L(row).ToolTipText, "") << row;
+        EXPECT_EQ(rows_with_title_tooltips(), 0b1111000000000);
+        EXPECT_EQ(seen_beside_the_rows(), " LNoDrive Iaviso Laviso");
+        EXPECT_EQ(F1.LNoDrive.Caption, c.notice);
+        EXPECT_EQ(F1.Laviso.Caption, c.request);
+        EXPECT_EQ(F1.Laviso.ForeColor, RGB(75, 75, 75));
+        EXPECT_EQ(F1.MediaCount, 0);
+        EXPECT_EQ(script.asked.size(), 1U) << "nothing else is asked";
+    }
+    EXPECT_EQ(F1.EmptyDrives, 3);
+}
+
+TEST_F(Layout, TheNoticeStandsByLanguageAndFont)
+{
+    const struct {
+        const char* language;
+        std::uint8_t fonts;
+        int drive_top, drive_height, disc_top;
+    } cases[] = {{"Dutch", 32, 135, 280, 200},   {"English", 32, 170, 220, 210},
+                 {"Spanish", 32, 170, 220, 205}, {"Dutch", 0, 160, 260, 220},
+                 {"English", 0, 190, 220, 220},  {"Spanish", 0, 190, 220, 220}};
+    has["Win32_LogicalDisk where DriveType = 2"] =
+        has["Win32_LogicalDisk where DriveType = 5"] = {};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.language);
+        Idioma = c.language;
+        FontsOk = c.fonts;
+        open(11);
+        EXPECT_EQ(F1.LNoDrive.Top, c.drive_top);
+        EXPECT_EQ(F1.LNoDrive.Height, c.drive_height);
+        open(12);
+        EXPECT_EQ(F1.LNoDrive.Top, c.disc_top);
+        EXPECT_EQ(F1.LNoDrive.Height, 180);
+    }
+}
+
+} // namespace
+} // namespace ostrelum

@@ -1,0 +1,303 @@
+#include "tests/sections/SectionTest.h"
+
+namespace ostrelum {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::Not;
+
+/// What rows show of a machine in which some properties of one class's first object differ, both
+/// written as in machine.tsv.
+struct Case {
+    int section;
+    const char *class_name, *changes, *rows;
+};
+
+/// "kept" is the value of the page before.
+const Case values[] = {
+    {2, "UserAccount", "Name= ana ", "2=Home-pc|3=Normal"},
+    {2, "UserAccount", "Name=Ana", "2=Second|3=Temp duplicate"},
+    {2, "UserAccount", "AccountType=2048", "3=Internal domain"},
+    {2, "UserAccount", "AccountType=513", "3=Unknown"},
+    {2, "UserAccount", "PasswordChangeable=TRUE", "5=Yes"},
+    {2, "UserAccount", "PasswordChangeable=0|PasswordExpires=-1", "5=No|6=Yes"},
+    {2, "UserAccount", "PasswordChangeable|PasswordExpires=perhaps", "5=Unknown|6=Unknown"},
+    {2, "NetworkLoginProfile", "Caption=ANA", "4=Guest|7=9"},
+    {2, "NetworkLoginProfile", "Privileges=1|NumberOfLogons=0",
+     "4=Limited|7=0|8=14:05:09 hs.|10=Unknown"},
+    {2, "NetworkLoginProfile", "Privileges=two|BadPasswordCount=-1|NumberOfLogons=many",
+     "4=Unknown|7=Unknown|10=Unknown"},
+    {2, "NetworkLoginProfile", "BadPasswordCount=x|LastLogon=********", "7=Unknown|8=Unknown"},
+    {2, "NetworkLoginProfile", "LastLogon=20120315000000", "8=00:00:00 hs."},
+    {2, "NetworkLoginProfile", "LastLogon=20120315246060", "8=Unknown"},
+    {3, "ComputerSystem", "Manufacturer", "1=Unknown|4=On|5=30 second/s|6=Workgroup"},
+    {3, "ComputerSystem", "AutomaticResetBootOption=true|SystemStartupDelay=0",
+     "4=Unknown|5=0 second/s"},
+    {3, "ComputerSystem", "AutomaticResetBootOption=1|SystemStartupDelay= ", "4=Unknown|5=Unknown"},
+    {3, "ComputerSystem", "Domain=MyDomain.LOCAL", "6=Mydomain.local"},
+    {3, "ComputerSystem", "Domain=x", "6=X"},
+    {4, "OperatingSystem", "Version=10", "2=10, 10|3=Version 3"},
+    {4, "OperatingSystem", "ServicePackMajorVersion=0", "2=6.1, 7601|3=None"},
+    {4, "OperatingSystem", "OSLanguage=1040", "7=Unknown"},
+    {4, "OperatingSystem", "OSLanguage=1043", "7=Nederlandse – Nederland"},
+    {4, "OperatingSystem", "NumberOfProcesses=0", "9=Unknown"},
+    {4, "OperatingSystem", "InstallDate=", "9=52|10=Unknown"},
+    {4, "OperatingSystem", "InstallDate=20120231140509", "10=Unknown"},
+    {4, "OperatingSystem", "InstallDate=20120315******", "10=Unknown"},
+    {5, "Processor", "L2CacheSize=0|Architecture=0", "1=Fast one|7=x86|8=Unknown|9=6 MB"},
+    {5, "Processor", "L2CacheSize=1536|Architecture=5", "7=Unknown|8=1 MB"},
+    {5, "Processor", "L2CacheSize=12288|L3CacheSize=some", "7=x64|8=Unknown|9=Unknown"},
+    {8, "BIOS", "SerialNumber=   ", "1=Boot 7|2=Maker Inc.|4=15/03/2012|5=Unknown"},
+    {8, "BIOS", "Name|ReleaseDate", "1=Unknown|4=Unknown"},
+    {8, "BIOS", "ReleaseDate=20120231000000", "4=kept|5=7"},
+    {9, "VideoController", "CurrentBitsPerPixel",
+     "3=1280 x 1024 pixels, (2) bits, 60 Hz|6=Card A|11=03/08/2011"},
+    {9, "VideoController", "CurrentHorizontalResolution=0", "3=Unknown"},
+    {9, "VideoController", "CurrentHorizontalResolution", "3=Unknown"},
+    {9, "VideoController", "CurrentVerticalResolution", "3=Unknown"},
+    {9, "VideoController", "CurrentRefreshRate=0", "3=Unknown"},
+    {9, "VideoController", "CurrentRefreshRate", "3=Unknown"},
+    {9, "VideoController", "DriverDate=unknown", "11=kept"},
+    {9, "VideoController", "DriverDate", "11=Unknown"},
+    {9, "VideoController", "AdapterRAM=1610612736", "7=1 GB"},
+    {9, "VideoController", "AdapterRAM=1048575", "7=Unknown"},
+    {9, "VideoController", "AdapterRAM=2097151.0", "7=1 MB"},
+    {9, "VideoController", "AdapterRAM", "7=Unknown"},
+    {9, "DesktopMonitor", "MonitorManufacturer", "1=Panel|2=Unknown"},
+    {10, "PointingDevice", "DeviceInterface=2|Handedness=0", "4=Mouse|7=Unknown|8=Unknown"},
+    {10, "PointingDevice", "DeviceInterface=160|Handedness=1", "7=Unknown|8=Not applicable"},
+    {10, "PointingDevice", "DeviceInterface=162 |Handedness=03", "7=USB|8=Unknown"},
+    {10, "Keyboard", "Description", "1=Keys|2=Unknown|7=USB"},
+    {13, "Battery", "DesignVoltage=12450|Name=\016Cell\016 6",
+     "2=Boards|5=Card|6=Sounds|8=Cell 6|9=B-1|10=~ 12.4 V|11=87%|12=01:35 hs."},
+    {13, "Battery", "DesignVoltage=0|EstimatedChargeRemaining=0|EstimatedRunTime=0",
+     "10=~ 0 V|11=0%|12=00:00 hs."},
+    {13, "Battery", "DesignVoltage=12350|EstimatedChargeRemaining= |EstimatedRunTime=1500",
+     "10=~ 12.4 V|11=Unknown|12=01:00 hs."},
+    {13, "Battery", "DesignVoltage=12.5|EstimatedRunTime=1966079", "10=kept|12=07:59 hs."},
+    {13, "Battery", "DesignVoltage|EstimatedRunTime=1966080", "10=Unknown|12=kept"},
+};
+
+/// Where the title depends on the value. "old title" is that of the page before.
+const Case titles_and_values[] = {
+    {4, "OperatingSystem", "FreeVirtualMemory=1024",
+     "11=Virtual memory in use: 4095 MB (99%) / 4096 MB (100%)"},
+    {4, "OperatingSystem", "FreeVirtualMemory=1023", "11=Total virtual memory: 4096 MB"},
+    {4, "OperatingSystem", "FreeVirtualMemory=4194304", "11=Total virtual memory: 4096 MB"},
+    {4, "OperatingSystem", "FreeVirtualMemory", "11=Total virtual memory: 4096 MB"},
+    {4, "OperatingSystem", "TotalVirtualMemorySize=1023|FreeVirtualMemory=0",
+     "11=old titleUnknown"},
+    {4, "OperatingSystem", "TotalVirtualMemorySize", "11=old titleUnknown"},
+    {5, "Processor", "CurrentClockSpeed=3199",
+     "2=Current/Maximum speed: 3199 Mhz (99%) / 3200 Mhz (100%)"},
+    {5, "Processor", "CurrentClockSpeed=3200", "2=Speed: 3200 Mhz"},
+    {5, "Processor", "CurrentClockSpeed=3201", "2=Speed: 3200 Mhz"},
+    {5, "Processor", "CurrentClockSpeed=0", "2=Speed: 3200 Mhz"},
+    {5, "Processor", "CurrentClockSpeed", "2=Speed: 3200 Mhz"},
+    {5, "Processor", "MaxClockSpeed=0", "2=old titleUnknown"},
+    {5, "Processor", "MaxClockSpeed=4294967296", "2=old titleUnknown|4=Manufacturer: Maker"},
+    {9, "VideoController", "MinRefreshRate=0", "4=Maximum update rate: 75 Hz"},
+    {9, "VideoController", "MinRefreshRate", "4=Maximum update rate: 75 Hz"},
+    {9, "VideoController", "MaxRefreshRate", "4=Minimum update rate: 56 Hz"},
+    {9, "VideoController", "MinRefreshRate=75", "4=Maximum update rate: 75 Hz"},
+    {9, "VideoController", "MinRefreshRate=0|MaxRefreshRate",
+     "4=Update rate minimum and maximum: Unknown"},
+    {9, "VideoController", "AdapterRAM=4294967295",
+     "4=Update rate minimum and maximum: 56 Hz - 75 Hz|7=Memory size: 3 GB"},
+};
+
+class Rows : public SectionTest {
+protected:
+    /// Opens the page of each case; `seen` takes what is to be compared from a row.
+    void expect(std::span<const Case> cases, std::string (*seen)(int))
+    {
+        const auto usual = has;
+        for (const Case& c : cases) {
+            has = usual;
+            change(has.at(std::string("Win32_") + c.class_name),
+                   recorded_object(c.changes, '|').properties());
+            open(c.section);
+            const Instance expected = recorded_object(c.rows, '|');
+            for (const auto& [number, text] : expected.properties()) {
+                const int row = std::stoi(number);
+                EXPECT_EQ(seen(row), text.text()) << c.class_name << " " << c.changes;
+                EXPECT_EQ(F1.L(row).ToolTipText, F1.L(row).Caption) << c.changes;
+            }
+        }
+        has = usual;
+    }
+    static std::string value(int row) { return F1.L(row).Caption; }
+    static std::string shown_row(int row) { return shown(row); }
+};
+
+TEST_F(Rows, TellOneValueAtATime)
+{
+    expect(values, value);
+}
+
+TEST_F(Rows, ChooseTheirTitlesByTheirValues)
+{
+    expect(titles_and_values, shown_row);
+    EXPECT_EQ(F1.LT(3).ToolTipText, Trad[111]);
+    EXPECT_EQ(F1.LT(4).ToolTipText, Trad[118]);
+    for (const auto& [minimum, key] : {std::pair(Value(), 114), {56, 116}}) {
+        change(has["Win32_VideoController"],
+               {{"MinRefreshRate", minimum}, {"MaxRefreshRate", key == 114 ? Value(75) : Value()}});
+        open(9);
+        EXPECT_EQ(F1.LT(4).ToolTipText, Trad[static_cast<std::size_t>(key)]);
+    }
+}
+
+TEST_F(Rows, TakeFiguresFromTheSystemToo)
+{
+    const struct {
+        std::uint32_t processors;
+        int buttons;
+        const char *sign, *speed, *rows;
+    } cases[] = {
+        {1, 0, ".", "MaxClockSpeed=800", "3=800 Mhz"},
+        {1, 1, ".", "MaxClockSpeed=1000", "3=1 Ghz"},
+        {1, 2, ",", "MaxClockSpeed=2394", "3=2,39 Ghz"},
+        {2, 16, ".", "MaxClockSpeed=800", "3=0.8 Ghz (2 CPUs)"},
+        {128, 3, ",", "MaxClockSpeed=3000", "3=3 Ghz (128 CPUs)"},
+        {1, 3, ".", "MaxClockSpeed=99", "3=0.09 Ghz"},
+        {2, 3, ".", "MaxClockSpeed=0", "3=Unknown"},
+        {1, 3, ".", "MaxClockSpeed=-5", "3=Unknown"},
+        {4, 3, ",", "MaxClockSpeed", "3=Unknown"},
+    };
+    for (const auto& c : cases) {
+        machine.processors = c.processors;
+        machine.metrics[SM_CMOUSEBUTTONS] = c.buttons;
+        regional.sign = c.sign;
+        expect(std::array{Case{1, "Processor", c.speed, c.rows}}, value);
+        open(10);
+        EXPECT_EQ(F1.L(6).Caption, c.buttons < 2 ? "Unknown" : std::to_string(c.buttons));
+    }
+    open(13);
+    EXPECT_EQ(F1.L(10).Caption, "~ 12,5 V");
+    clock.milliseconds = 29U * 24 * 60 * 60 * 1000 - 1;
+    open(2);
+    EXPECT_EQ(shown(9), "Usage time: 23:59:59 hs.");
+    clock.milliseconds += 1;
+    open(2);
+    EXPECT_EQ(shown(9), "Usage time: Unknown");
+    machine.processors = 0;
+    open(5);
+    EXPECT_EQ(shown(3), "Number of cores: Unknown");
+}
+
+TEST_F(Rows, TakeTheBoardAndTheLicenceFromTheRegistry)
+{
+    const std::string board = "HKEY_CURRENT_USER\\Software\\Install\\Ostrelum\\Mainboard\\Full";
+    store.values[board] = " Board of mine ";
+    open(13);
+    EXPECT_EQ(shown(1), "Motherboard name: Board of mine");
+    store.values[board] = 990U;
+    open(1);
+    EXPECT_EQ(shown(12), "Motherboard: 990");
+    std::vector<std::uint8_t> key(164);
+    key[52] = 1;
+    registry.values[{"SOFTWARE\\MICROSOFT\\Windows NT\\CurrentVersion", "DigitalProductId"}] = key;
+    open(4);
+    EXPECT_EQ(shown(6), "License code: BBBBB-BBBBB-BBBBB-BBBBB-BBBBC");
+}
+
+TEST_F(Rows, AreInTheLanguageOfTheTable)
+{
+    LangDutch();
+    change(has["Win32_PointingDevice"], {{"DeviceInterface", 3}, {"Handedness", 3}});
+    open(10);
+    EXPECT_EQ(F1.L(7).Caption + F1.L(8).Caption, "Seriële poortLinkshandig");
+}
+
+TEST_F(Rows, OfTheSummaryTakeSumsOfWholeMegabytes)
+{
+    open(3);
+    open(1);
+    EXPECT_THAT(shown(3, 6),
+                ElementsAre("Processor speed: 3.2 Ghz", "RAM: 4 GB", "Graphics card memory: 256 MB",
+                            "Total free space: 808.6 GB"));
+    EXPECT_THAT(shown(10, 11), ElementsAre("Operating system: System 7", "Graphics card: Card A"));
+    const std::string disks = "Win32_LogicalDisk where DriveType = 3";
+    EXPECT_THAT(script.asked, ElementsAre("Select MaxClockSpeed from Win32_Processor",
+                                          "Select Capacity from Win32_PhysicalMemory",
+                                          "Select AdapterRAM, Name from Win32_VideoController",
+                                          "Select Freespace from " + disks,
+                                          "Select Caption from Win32_OperatingSystem"));
+    const auto some = [](const char* name, const Value& bytes) {
+        return Instance(Changes{{name, bytes}});
+    };
+    const std::string three_quarters_over = std::to_string((100 << 20) + (3 << 18));
+    for (const auto& [name, property] :
+         {std::pair(std::string("Win32_PhysicalMemory"), "Capacity"), {disks, "Freespace"}})
+        has[name] = {some(property, three_quarters_over), some(property, {}), Instance(),
+                     some(property, three_quarters_over)};
+    open(1);
+    EXPECT_EQ(F1.L(4).Caption, "200 MB");
+    EXPECT_EQ(F1.L(6).Caption, "200 MB");
+    const std::pair<std::int64_t, const char*> cases[] = {
+        {0, "Unknown"},         {9, "9 MB"},
+        {1234, "1.2 GB"},       {9999999, "9.53 TB"},
+        {10000000, "9.536 TB"}, {2147483647, "2047.99 TB"}};
+    for (const auto& [megabytes, text] : cases) {
+        has[disks] = {some("Freespace", std::to_string(megabytes << 20))};
+        open(1);
+        EXPECT_EQ(F1.L(6).Caption, text) << megabytes;
+        EXPECT_EQ(F1.L(6).ToolTipText, text) << megabytes;
+    }
+}
+
+TEST_F(Rows, GoOnWithAnOlderSystemsPropertiesAndKeepWhatWasRead)
+{
+    const struct {
+        int section;
+        const char *newest, *class_name, *other;
+        int newest_row, other_row, row_behind;
+        const char* behind;
+    } cases[] = {{4, "OSArchitecture", "Win32_OperatingSystem", "SerialNumber", 4, 5, 9, "52"},
+                 {5, "L3CacheSize", "Win32_Processor", "L2CacheSize", 9, 8, 6, "Socket 7"}};
+    for (const auto& c : cases) {
+        lacking = c.newest;
+        open(c.section);
+        EXPECT_EQ(F1.L(c.newest_row).Caption, "Unknown");
+        EXPECT_EQ(F1.L(c.row_behind).Caption, c.behind);
+        EXPECT_NE(F1.L(c.other_row).Caption, "Unknown");
+        lacking = "none";
+        change(has[c.class_name], {{c.other, {}}});
+        open(c.section);
+        EXPECT_THAT(script.asked.back(), Not(::testing::HasSubstr(c.newest)))
+            << "a null in the walk asks anew";
+        EXPECT_EQ(F1.L(c.other_row).Caption, "Unknown");
+        EXPECT_EQ(F1.L(c.newest_row).Caption, "Unknown");
+        EXPECT_EQ(F1.L(c.row_behind).Caption, c.behind) << "what can be read is shown";
+    }
+}
+
+TEST_F(Rows, AreUnknownWithoutAService)
+{
+    const std::pair<int, std::vector<int>> cases[] = {{1, {3, 4, 5, 6, 10, 11, 12}},
+                                                      {2, {2, 3, 4, 5, 6, 7, 8, 10}},
+                                                      {3, {1, 2, 3, 4, 5, 6}},
+                                                      {4, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11}},
+                                                      {5, {1, 2, 4, 5, 6, 7, 8, 9}},
+                                                      {6, {1, 2, 3, 4, 5, 6, 7, 8}},
+                                                      {7, {9}},
+                                                      {8, {1, 2, 3, 4, 5}},
+                                                      {10, {1, 2, 4, 5, 6, 7, 8}},
+                                                      {9, {1, 2, 3, 4, 6, 7, 8, 9, 10, 11}},
+                                                      {13, {1, 2, 3, 5, 6, 8, 9, 10, 11, 12}}};
+    has.clear();
+    shell_gone = true;
+    for (const auto& [section, rows] : cases) {
+        open(section);
+        for (const int row : rows)
+            EXPECT_EQ(F1.L(row).Caption, "Unknown") << section << " " << row;
+    }
+    has["Win32_OperatingSystem"] = {};
+    open(4);
+    EXPECT_THAT(shown(1, 3),
+                ElementsAre("Name: Unknown", "Version and build: ", "Service pack: None"));
+}
+
+} // namespace
+} // namespace ostrelum
