@@ -2,30 +2,30 @@
 
 #include <gtest/gtest.h>
 
+#include <sstream>
 #include <string>
-#include <vector>
 
 namespace ostrelum {
 namespace {
 
+/// Sizes and their texts, as in "1000=0.9 GB|1024=1 GB"; nothing behind the sign is no form.
+std::vector<std::pair<std::int32_t, std::string>> sizes(const char* row)
+{
+    std::vector<std::pair<std::int32_t, std::string>> pairs;
+    std::istringstream entries(row);
+    for (std::string entry; std::getline(entries, entry, '|');) {
+        const auto sign = entry.find('=');
+        pairs.emplace_back(std::stoi(entry), entry.substr(sign + 1));
+    }
+    return pairs;
+}
+
 TEST(SizeWhole, ChangesItsUnitAtFourDigits)
 {
-    const struct {
-        std::int32_t megabytes;
-        const char* text;
-    } cases[] = {{0, "0 MB"},
-                 {999, "999 MB"},
-                 {1000, "0 GB"},
-                 {1023, "0 GB"},
-                 {1024, "1 GB"},
-                 {1536, "1 GB"},
-                 {2047, "1 GB"},
-                 {2048, "2 GB"},
-                 {-99, "-99 MB"},
-                 {-100, "-1 GB"},
-                 {2147483647, "2097151 GB"}};
-    for (const auto& c : cases)
-        EXPECT_EQ(SizeWhole(c.megabytes), c.text) << c.megabytes;
+    for (const auto& [megabytes, text] :
+         sizes("0=0 MB|999=999 MB|1000=0 GB|1023=0 GB|1024=1 GB|1536=1 GB|2047=1 GB|2048=2 GB|"
+               "-99=-99 MB|-100=-1 GB|2147483647=2097151 GB"))
+        EXPECT_EQ(SizeWhole(megabytes), text) << megabytes;
 }
 
 TEST(WholeMegabytes, AreRoundedDown)
@@ -35,116 +35,39 @@ TEST(WholeMegabytes, AreRoundedDown)
     EXPECT_EQ(WholeMegabytes(-1), "-1");
 }
 
-/// The first and the last number of each digit count that changes the form; "" is no form.
-struct Borders {
-    SizeUse use;
-    std::vector<std::pair<std::int32_t, const char*>> texts;
-};
-
-const std::pair<std::int32_t, const char*> no_digits_above_ten{-2147483647, ""};
-
-const Borders borders[] = {
+/// The first and the last number of each digit count that changes the form.
+const std::pair<SizeUse, const char*> borders[] = {
     {SizeUse::SummaryFree,
-     {{9, ""},
-      {10, "10 MB"},
-      {999, "999 MB"},
-      {1000, "0.9 GB"},
-      {1024, "1 GB"},
-      {1234, "1.2 GB"},
-      {9999, "9.7 GB"},
-      {10000, "9.76 GB"},
-      {12345, "12.0 GB"},
-      {99999, "97.6 GB"},
-      {100000, "97.65 GB"},
-      {999999, "976.5 GB"},
-      {1000000, "0.95 TB"},
-      {9999999, "9.53 TB"},
-      {10000000, ""},
-      {2147483647, ""}}},
+     "9=|10=10 MB|999=999 MB|1000=0.9 GB|1024=1 GB|1234=1.2 GB|9999=9.7 GB|10000=9.76 GB|"
+     "12345=12.0 GB|99999=97.6 GB|100000=97.65 GB|999999=976.5 GB|1000000=0.95 TB|"
+     "9999999=9.53 TB|10000000=|2147483647="},
     {SizeUse::SummaryFreeBeyond,
-     {{0, "0 MB"},
-      {9, "9 MB"},
-      {10, ""},
-      {9999999, ""},
-      {10000000, "9.536 TB"},
-      {99999999, "95.36 TB"},
-      {100000000, "95.367 TB"},
-      {999999999, "953.67 TB"},
-      {1000000000, "953.674 TB"},
-      {2147483647, "2047.99 TB"}}},
+     "0=0 MB|9=9 MB|10=|9999999=|10000000=9.536 TB|99999999=95.36 TB|100000000=95.367 TB|"
+     "999999999=953.67 TB|1000000000=953.674 TB|2147483647=2047.99 TB"},
     {SizeUse::DriveCapacity,
-     {{9, ""},
-      {999, ""},
-      {1000, "0 MB"},
-      {999999, "976 MB"},
-      {1000000, "0.9 GB"},
-      {2097152, "2 GB"},
-      {9999999, "9.5 GB"},
-      {10000000, "9.53 GB"},
-      {97650000, "93.1 GB"},
-      {99999999, "95.3 GB"},
-      {100000000, "95.36 GB"},
-      {488386584, "465.7 GB"},
-      {999999999, "953.6 GB"},
-      {1000000000, "953.67 GB"},
-      {2147483647, "2047.9 GB"},
-      no_digits_above_ten}},
-    {SizeUse::DriveFree,
-     {{99, ""},
-      {100, "100 KB"},
-      {999, "999 KB"},
-      {1000, "0 MB"},
-      {999999, "976 MB"},
-      {1000000, "0.9 GB"}}},
-    {SizeUse::DriveUsed,
-     {{0, "0 KB"},
-      {99, "99 KB"},
-      {999, "999 KB"},
-      {-99, "-99 KB"},
-      {1000, "0 MB"},
-      {-100, "-1 MB"},
-      {-1000, "-1 MB"}}},
+     "9=|999=|1000=0 MB|999999=976 MB|1000000=0.9 GB|2097152=2 GB|9999999=9.5 GB|"
+     "10000000=9.53 GB|97650000=93.1 GB|99999999=95.3 GB|100000000=95.36 GB|"
+     "488386584=465.7 GB|999999999=953.6 GB|1000000000=953.67 GB|2147483647=2047.9 GB|"
+     "-2147483647="},
+    {SizeUse::DriveFree, "99=|100=100 KB|999=999 KB|1000=0 MB|999999=976 MB|1000000=0.9 GB"},
+    {SizeUse::DriveUsed, "0=0 KB|99=99 KB|999=999 KB|-99=-99 KB|1000=0 MB|-100=-1 MB|-1000=-1 MB"},
     {SizeUse::RemovableCapacity,
-     {{9999, ""},
-      {10000, "9.76 MB"},
-      {99999, "97.6 MB"},
-      {100000, "97.65 MB"},
-      {999999, "976.5 MB"},
-      {1000000, "0.95 GB"},
-      {9999999, "9.53 GB"},
-      {10000000, "9.536 GB"},
-      {99999999, "95.36 GB"},
-      {100000000, "95.367 GB"},
-      {999999999, "953.67 GB"},
-      {1000000000, "0.93 TB"},
-      {2147483647, "1.99 TB"},
-      no_digits_above_ten}},
-    {SizeUse::RemovableFree,
-     {{0, "0 KB"}, {999, "999 KB"}, {1000, "0.9 MB"}, {9999, "9.7 MB"}, {10000, "9.76 MB"}}},
-    {SizeUse::RemovableUsed,
-     {{0, "0 KB"}, {999, "999 KB"}, {1000, "0.9 MB"}, {2147483647, "1.99 TB"}}},
+     "9999=|10000=9.76 MB|99999=97.6 MB|100000=97.65 MB|999999=976.5 MB|1000000=0.95 GB|"
+     "9999999=9.53 GB|10000000=9.536 GB|99999999=95.36 GB|100000000=95.367 GB|"
+     "999999999=953.67 GB|1000000000=0.93 TB|2147483647=1.99 TB|-2147483647="},
+    {SizeUse::RemovableFree, "0=0 KB|999=999 KB|1000=0.9 MB|9999=9.7 MB|10000=9.76 MB"},
+    {SizeUse::RemovableUsed, "0=0 KB|999=999 KB|1000=0.9 MB|2147483647=1.99 TB"},
     {SizeUse::DiscCapacity,
-     {{9, "9 KB"},
-      {999, "999 KB"},
-      {1000, "0.9 MB"},
-      {9999, "9.7 MB"},
-      {10000, "9.76 MB"},
-      {716800, "700 MB"},
-      {999999, "976.5 MB"},
-      {1000000, "0.95 GB"},
-      {9999999, "9.53 GB"},
-      {10000000, "9.536 GB"},
-      {99999999, "95.36 GB"},
-      {100000000, ""},
-      {1000000000, ""}}},
+     "9=9 KB|999=999 KB|1000=0.9 MB|9999=9.7 MB|10000=9.76 MB|716800=700 MB|999999=976.5 MB|"
+     "1000000=0.95 GB|9999999=9.53 GB|10000000=9.536 GB|99999999=95.36 GB|100000000=|"
+     "1000000000="},
 };
 
 TEST(SizeByDigits, ChangesItsFormAtEachBorder)
 {
-    for (const Borders& row : borders) {
-        for (const auto& [size, text] : row.texts)
-            EXPECT_EQ(SizeByDigits(row.use, size, "."), text)
-                << "use " << static_cast<int>(row.use) << ", " << size;
+    for (const auto& [use, row] : borders) {
+        for (const auto& [size, text] : sizes(row))
+            EXPECT_EQ(SizeByDigits(use, size, "."), text) << static_cast<int>(use) << ", " << size;
     }
 }
 
