@@ -26,7 +26,13 @@ void LineWidget::set_line(const Line& line)
 void LineWidget::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    painter.setPen(qt_colour(line_.BorderColor));
+    const QColor colour = qt_colour(line_.BorderColor);
+    // A pen would be as thin on a screen of double scale as on any other, and leave gaps.
+    if (line_.X1 == line_.X2 || line_.Y1 == line_.Y2) {
+        painter.fillRect(rect(), colour);
+        return;
+    }
+    painter.setPen(colour);
     painter.drawLine(line_.X1 - x(), line_.Y1 - y(), line_.X2 - x(), line_.Y2 - y());
 }
 
