@@ -1,5 +1,6 @@
 #include "platform/linux/ClassQuery.h"
 
+#include "platform/linux/Utf8.h"
 #include "platform/linux/WqlCondition.h"
 #include "platform/system/Failure.h"
 
@@ -49,9 +50,12 @@ public:
     }
 
 private:
-    /// The service delivers 64-bit numbers as text.
+    /// The service delivers 64-bit numbers as text. Texts that are paths may hold any character,
+    /// and what shows them has one line for each.
     static Value as_delivered(const Value& value, CimType type)
     {
+        if (value.is_text())
+            return made_one_line(value.text());
         return type == CimType::UInt64 && value.is_whole() ? value.text() : value;
     }
 

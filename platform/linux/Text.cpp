@@ -61,10 +61,9 @@ std::optional<std::uint64_t> whole_number(std::string_view text, int base)
 
 std::optional<std::string> text_or_none(std::string_view raw)
 {
-    const std::string_view text = trimmed_space(raw);
-    if (text.empty())
-        return std::nullopt;
-    return made_valid_utf8(text);
+    const std::string line = made_one_line(made_valid_utf8(raw));
+    const std::string_view text = trimmed_space(line);
+    return text.empty() ? std::nullopt : std::optional<std::string>(text);
 }
 
 } // namespace ostrelum

@@ -1,5 +1,7 @@
 #include "platform/linux/Utf8.h"
 
+#include <algorithm>
+
 namespace ostrelum {
 
 namespace {
@@ -57,6 +59,18 @@ std::string made_valid_utf8(std::string_view text)
         text.remove_prefix(length == 0 ? 1 : length);
     }
     return result;
+}
+
+std::string made_one_line(std::string text)
+{
+    const auto is_control = [](unsigned char c) { return c < ' ' || c == 0x7F; };
+    std::ranges::replace_if(text, is_control, ' ');
+    // U+0080 to U+009F.
+    for (std::size_t at = 0; (at = text.find('\xC2', at)) != text.npos; ++at) {
+        if (static_cast<unsigned char>(text[at + 1]) < 0xA0)
+            text.replace(at, 2, " ");
+    }
+    return text;
 }
 
 } // namespace ostrelum
