@@ -41,10 +41,12 @@ std::vector<std::string_view> words_of(std::string_view text)
 std::optional<std::string_view> value_behind(std::string_view text, std::string_view label,
                                              char separator)
 {
-    for (const std::string_view line : lines_of(text)) {
+    while (!text.empty()) {
+        const std::string_view line = text.substr(0, text.find('\n'));
         const std::size_t sign = line.find(separator);
         if (sign != std::string_view::npos && trimmed_space(line.substr(0, sign)) == label)
             return trimmed_space(line.substr(sign + 1));
+        text.remove_prefix(std::min(line.size() + 1, text.size()));
     }
     return std::nullopt;
 }
