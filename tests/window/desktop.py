@@ -47,8 +47,9 @@ class Desktop:
     def _start_display(self):
         read_end, write_end = os.pipe()
         screen = "{}x{}x24".format(*self.size)
+        # Without -noreset the server begins anew when the first client has gone, and takes the second with it.
         server = subprocess.Popen(["Xvfb", "-displayfd", str(write_end), "-screen", "0", screen, "-fbdir",
-                                   str(self.home), "-nolisten", "tcp"], pass_fds=[write_end],
+                                   str(self.home), "-nolisten", "tcp", "-noreset"], pass_fds=[write_end],
                                   stderr=subprocess.DEVNULL)
         os.close(write_end)
         self.processes.append(server)
@@ -117,9 +118,10 @@ class Desktop:
 
     def place(self, window):
         """Left, top, width and height of the window's client area on the screen."""
-        place = dict(line.split("=") for line in
-                     self.call("xdotool", "getwindowgeometry", "--shell", window).splitlines())
-        return tuple(int(place[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
+        # xdotool's own answer counts the window manager's frame twice.
+        told = dict(line.split(":", 1) for line in self.call("xwininfo", "-id", window).splitlines() if ": " in line)
+        return tuple(int(told[f"  {name}"]) for name in
+                     ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
 
     def pixel(self, window, x, y):
         """The colour of a pixel of the window's client area as it is on the screen."""
