@@ -4,7 +4,7 @@
 
 #include <algorithm>
 #include <array>
-#include <pwd.h>
+#include <iterator>
 
 namespace ostrelum {
 namespace {
@@ -41,19 +41,6 @@ bool is_listed(std::string_view members, std::string_view name)
         members.remove_prefix(std::min(member.size() + 1, members.size()));
     }
     return false;
-}
-
-/// An account that a directory or a home manager knows and no file. Such services keep at hand who
-/// is logged in, so this one question seldom has to cross a network.
-std::optional<Account> account_outside_files(std::uint32_t uid)
-{
-    std::array<char, 16384> texts = {};
-    passwd entry = {};
-    passwd* found = nullptr;
-    if (::getpwuid_r(uid, &entry, texts.data(), texts.size(), &found) != 0 || found == nullptr)
-        return std::nullopt;
-    const auto name = text_or_none(entry.pw_name);
-    return name ? std::optional(Account{*name, entry.pw_uid, entry.pw_gid, ""}) : std::nullopt;
 }
 
 } // namespace
@@ -101,10 +88,9 @@ std::vector<Account> local_accounts(const MachineView& machine)
     std::erase_if(accounts, [&](const Account& account) {
         return account.uid != 0 && !persons.holds(account.uid) && account.uid != own;
     });
-    if (own && machine.root.is_live() &&
-        std::ranges::find(accounts, *own, &Account::uid) == accounts.end()) {
-        if (auto account = account_outside_files(*own))
-            accounts.push_back(std::move(*account));
+    if (own && std::ranges::find(accounts, *own, &Account::uid) == accounts.end()) {
+        const auto line = machine.facts->directory_account(*own);
+        std::ranges::move(parse_passwd(line.value_or("")), std::back_inserter(accounts));
     }
     return accounts;
 }

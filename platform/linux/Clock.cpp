@@ -1,8 +1,5 @@
 #include "platform/linux/Clock.h"
 
-#include "platform/linux/Sysroot.h"
-#include "platform/system/Failure.h"
-
 #include <charconv>
 #include <ctime>
 
@@ -20,13 +17,9 @@ std::tm local_now()
     return local;
 }
 
-std::uint64_t recorded_ms(const std::string& root)
+std::uint64_t recorded_ms(const Sysroot& files)
 {
-    try {
-        return uptime_ms(Sysroot(root).read("/proc/uptime").value_or("")).value_or(0);
-    } catch (const Failure&) {
-        return 0;
-    }
+    return uptime_ms(files.read("/proc/uptime").value_or("")).value_or(0);
 }
 
 std::uint64_t running_ms()
@@ -55,7 +48,9 @@ std::optional<std::uint64_t> uptime_ms(std::string_view text)
 
 std::uint32_t LinuxClock::timeGetTime()
 {
-    return static_cast<std::uint32_t>(root_ == "/" ? running_ms() : recorded_ms(root_));
+    if (!files_)
+        return 0;
+    return static_cast<std::uint32_t>(files_->is_live() ? running_ms() : recorded_ms(*files_));
 }
 
 Date LinuxClock::date()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/linux/AccountsService.h"
 #include "platform/linux/Sysroot.h"
 
 #include <cstdint>
@@ -36,7 +37,7 @@ class Facts {
 public:
     virtual ~Facts() = default;
 
-    /// The space of the volume that holds a path. Waits as long as the volume lets it wait.
+    /// The space of the volume that holds a path. Waits two seconds at most.
     virtual std::optional<VolumeSpace> space(const std::string& path) = 0;
 
     /// When a file came into being, in seconds since 1970.
@@ -59,6 +60,16 @@ public:
     /// such as "0000:01:00.0".
     virtual std::optional<std::uint64_t> graphics_memory(const std::string& slot) = 0;
 
+    /// The rules for the password of an account, and when it last logged in, in seconds since 1970,
+    /// as the accounts service tells them (AccountsService.h).
+    virtual std::optional<PasswordPolicy> password_policy(std::uint64_t uid) = 0;
+    virtual std::optional<std::int64_t> login_time(std::uint64_t uid) = 0;
+
+    /// The line that /etc/passwd would have of an account which a directory or a home manager
+    /// knows, without a full name. Such services keep at hand who is logged in, so that this one
+    /// question seldom has to cross a network.
+    virtual std::optional<std::string> directory_account(std::uint64_t uid) = 0;
+
     /// Minutes by which the machine's local time is ahead of UTC at a moment in seconds since 1970.
     virtual int utc_offset(std::int64_t moment) = 0;
 };
@@ -69,7 +80,13 @@ std::unique_ptr<Facts> live_facts();
 /// The facts that a recorded machine keeps in the folder /.facts: the files statvfs (path, block
 /// size, blocks, free, available), btime (path, seconds), uname (as `uname -a` prints it), id (as
 /// `id` prints it), env (NAME=value), modes (connector, width, height, bits, thousandths of hertz),
-/// vram (PCI place, bytes). Recorded machines stand in UTC.
+/// vram (PCI place, bytes), password (user number, 1 if it expires, 1 if it may be changed), login
+/// (user number, seconds), passwd (lines of accounts from a directory), zone (moment, minutes ahead
+/// of UTC; at other moments the machine stands in UTC).
 std::unique_ptr<Facts> recorded_facts(const Sysroot& root);
+
+/// The same facts, each told to a witness as a recorded machine keeps it.
+std::unique_ptr<Facts> witnessed_facts(std::unique_ptr<Facts> facts,
+                                       std::shared_ptr<Witness> witness);
 
 } // namespace ostrelum

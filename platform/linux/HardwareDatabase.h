@@ -9,8 +9,9 @@
 
 namespace ostrelum {
 
-/// systemd's compiled database of hardware names. A recorded machine has names only if it brings
-/// its own database: this machine's would give it other names on every system.
+/// systemd's compiled database of hardware names. A recorded machine brings its own database, or in
+/// /.facts/hwdb the answers that one gave, in lines of alias, key, "=" and value: this machine's
+/// would give it other names on every system.
 class HardwareDatabase {
 public:
     explicit HardwareDatabase(const Sysroot& root);
@@ -20,6 +21,7 @@ public:
     std::optional<std::string> text(const std::string& alias, const char* key) const;
 
 private:
+    Sysroot root_;
     std::unique_ptr<sd_hwdb, sd_hwdb* (*)(sd_hwdb*)> database_;
 };
 

@@ -32,10 +32,17 @@ private:
 std::unique_ptr<ManagementService> make_linux_management_service(const std::string& root,
                                                                  SessionFactsSource session)
 {
-    Sysroot sysroot(root);
-    auto facts = sysroot.is_live() ? live_facts() : recorded_facts(sysroot);
+    return make_linux_management_service(Sysroot(root), std::move(session));
+}
+
+std::unique_ptr<ManagementService> make_linux_management_service(Sysroot root,
+                                                                 SessionFactsSource session)
+{
+    auto facts = root.is_live() ? live_facts() : recorded_facts(Sysroot(root, nullptr));
+    if (root.witness())
+        facts = witnessed_facts(std::move(facts), root.witness());
     return std::make_unique<LinuxManagementService>(
-        MachineView{std::move(sysroot), std::move(facts), std::move(session)});
+        MachineView{std::move(root), std::move(facts), std::move(session)});
 }
 
 } // namespace ostrelum

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/linux/Sysroot.h"
 #include "platform/system/Screens.h"
 #include "sources/ManagementService.h"
 
@@ -12,6 +13,9 @@ namespace ostrelum {
 /// recorded machine. `session` tells what only the desktop session knows and may be empty. Throws
 /// Failure if `root` is no folder.
 std::unique_ptr<ManagementService> make_linux_management_service(const std::string& root,
+                                                                 SessionFactsSource session);
+/// The same for a root that is open; a witness to it hears what no file tells, too.
+std::unique_ptr<ManagementService> make_linux_management_service(Sysroot root,
                                                                  SessionFactsSource session);
 
 } // namespace ostrelum

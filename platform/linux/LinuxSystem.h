@@ -23,6 +23,10 @@ struct LinuxSystem {
         : environment(variables), clock(root), regional(variables), machine(root, variables)
     {
     }
+    LinuxSystem(const Sysroot& root, const Environment& variables)
+        : environment(variables), clock(root), regional(variables), machine(root, variables)
+    {
+    }
 
     /// A new object of the class "WScript.Shell". Throws Failure for any other class.
     std::unique_ptr<Shell> CreateObject(const std::string& class_name) const

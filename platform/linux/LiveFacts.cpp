@@ -2,12 +2,14 @@
 #include "platform/linux/Facts.h"
 #include "platform/linux/KernelMode.h"
 #include "platform/linux/NvidiaMemory.h"
+#include "platform/linux/SpaceInTime.h"
 
+#include <array>
 #include <ctime>
 #include <fcntl.h>
 #include <map>
+#include <pwd.h>
 #include <sys/stat.h>
-#include <sys/statvfs.h>
 #include <sys/utsname.h>
 #include <unistd.h>
 
@@ -18,10 +20,7 @@ class LiveFacts : public Facts {
 public:
     std::optional<VolumeSpace> space(const std::string& path) override
     {
-        struct statvfs told = {};
-        if (::statvfs(path.c_str(), &told) != 0)
-            return std::nullopt;
-        return VolumeSpace{told.f_frsize, told.f_blocks, told.f_bfree, told.f_bavail};
+        return space_in_time(path);
     }
 
     std::optional<std::int64_t> birth_time(const std::string& path) override
@@ -63,6 +62,28 @@ public:
         if (is_new)
             entry->second = nvidia_memory(slot);
         return entry->second;
+    }
+
+    std::optional<PasswordPolicy> password_policy(std::uint64_t uid) override
+    {
+        return ostrelum::password_policy(uid);
+    }
+
+    std::optional<std::int64_t> login_time(std::uint64_t uid) override
+    {
+        return ostrelum::login_time(uid);
+    }
+
+    std::optional<std::string> directory_account(std::uint64_t uid) override
+    {
+        std::array<char, 16384> texts = {};
+        passwd entry = {};
+        passwd* found = nullptr;
+        const auto number = static_cast<uid_t>(uid);
+        if (::getpwuid_r(number, &entry, texts.data(), texts.size(), &found) != 0 || !found)
+            return std::nullopt;
+        return std::string(entry.pw_name) + ":x:" + std::to_string(entry.pw_uid) + ":" +
+               std::to_string(entry.pw_gid) + ":::";
     }
 
     int utc_offset(std::int64_t moment) override

@@ -4,7 +4,6 @@
 #include "platform/linux/LoginRecords.h"
 
 #include <limits>
-#include <unistd.h>
 
 namespace ostrelum {
 namespace {
@@ -50,12 +49,8 @@ std::optional<std::int64_t> LoginFiles::last_in_lastlog(const Account& account)
     const std::size_t size = lastlog_bytes(record_bytes(bytes_of(present_)));
     if (account.uid > std::numeric_limits<std::uint32_t>::max())
         return std::nullopt;
-    const Descriptor file = machine_.root.open("/var/log/lastlog");
-    std::string record(size, '\0');
-    const auto at = static_cast<off_t>(account.uid * size);
-    if (!file || ::pread(file.number(), record.data(), size, at) != static_cast<ssize_t>(size))
-        return std::nullopt;
-    return last_login(span_of(record));
+    const auto record = machine_.root.read_piece("/var/log/lastlog", account.uid * size, size);
+    return record ? last_login(span_of(*record)) : std::nullopt;
 }
 
 std::optional<std::uint32_t> LoginFiles::count(const Account& account)

@@ -1,7 +1,6 @@
 #include "platform/linux/Machine.h"
 
 #include "platform/linux/MouseButtons.h"
-#include "platform/linux/Sysroot.h"
 #include "platform/linux/UserFolders.h"
 #include "platform/linux/Utf8.h"
 #include "platform/system/Failure.h"
@@ -21,16 +20,6 @@ namespace ostrelum {
 namespace {
 
 constexpr int ATTR_DIRECTORY = 16;
-
-/// The files of a machine; nothing if its folder is not there.
-std::optional<Sysroot> files_of(const std::string& root)
-{
-    try {
-        return Sysroot(root);
-    } catch (const Failure&) {
-        return std::nullopt;
-    }
-}
 
 /// Programs that remap keys make devices of their own, with every button there is.
 bool made_by_program(const Sysroot& root, const std::string& device)
@@ -86,26 +75,29 @@ std::uint32_t count_in_list(std::string_view list)
     return list.empty() ? count : 0;
 }
 
-LinuxMachine::LinuxMachine(std::string root, Environment environment)
-    : root_(std::move(root)), environment_(std::move(environment)), instance_(environment_)
+LinuxMachine::LinuxMachine(const std::string& root, Environment environment)
+    : LinuxMachine(Sysroot::find(root), std::move(environment))
+{
+}
+
+LinuxMachine::LinuxMachine(std::optional<Sysroot> files, Environment environment)
+    : files_(std::move(files)), environment_(std::move(environment)), instance_(environment_)
 {
 }
 
 SystemInfo LinuxMachine::GetOstrelum()
 {
-    const auto files = files_of(root_);
-    const auto online = files ? files->read("/sys/devices/system/cpu/online") : std::nullopt;
+    const auto online = files_ ? files_->read("/sys/devices/system/cpu/online") : std::nullopt;
     std::uint32_t count = count_in_list(online.value_or(""));
     // A sandbox may hide the list; the processors of this machine are then asked for directly.
-    if (count == 0 && root_ == "/")
+    if (count == 0 && files_ && files_->is_live())
         count = static_cast<std::uint32_t>(std::max(::sysconf(_SC_NPROCESSORS_ONLN), 1L));
     return {std::max(count, 1U)};
 }
 
 int LinuxMachine::GetSystemMetrics(int index)
 {
-    const auto files = files_of(root_);
-    return files && index == SM_CMOUSEBUTTONS ? mouse_buttons(input_devices(*files)) : 0;
+    return files_ && index == SM_CMOUSEBUTTONS ? mouse_buttons(input_devices(*files_)) : 0;
 }
 
 std::string LinuxMachine::Environ(const std::string& name)

@@ -2,8 +2,10 @@
 
 #include "platform/linux/Environment.h"
 #include "platform/linux/SingleInstance.h"
+#include "platform/linux/Sysroot.h"
 #include "platform/system/Machine.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -17,7 +19,9 @@ std::uint32_t count_in_list(std::string_view list);
 /// recorded machine.
 class LinuxMachine : public Machine {
 public:
-    LinuxMachine(std::string root, Environment environment);
+    LinuxMachine(const std::string& root, Environment environment);
+    /// Nothing in `files`: a machine without any.
+    LinuxMachine(std::optional<Sysroot> files, Environment environment);
 
     SystemInfo GetOstrelum() override;
     int GetSystemMetrics(int index) override;
@@ -33,7 +37,7 @@ public:
     void End() override;
 
 private:
-    std::string root_;
+    std::optional<Sysroot> files_;
     Environment environment_;
     SingleInstance instance_;
 };

@@ -3,6 +3,8 @@
 #include "platform/linux/FirmwareFacts.h"
 #include "sources/Ascii.h"
 
+#include <utility>
+
 namespace ostrelum {
 namespace {
 
@@ -27,7 +29,12 @@ std::string board_name(const FirmwareFacts& firmware)
 } // namespace
 
 MachineShell::MachineShell(const std::string& root, std::unique_ptr<Shell> stored)
-    : root_(root), stored_(std::move(stored))
+    : MachineShell(Sysroot(root), std::move(stored))
+{
+}
+
+MachineShell::MachineShell(Sysroot root, std::unique_ptr<Shell> stored)
+    : root_(std::move(root)), stored_(std::move(stored))
 {
 }
 

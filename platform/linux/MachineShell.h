@@ -16,6 +16,7 @@ class MachineShell : public Shell {
 public:
     /// `root` is "/" or the folder of a recorded machine. Throws Failure if it is no folder.
     MachineShell(const std::string& root, std::unique_ptr<Shell> stored);
+    MachineShell(Sysroot root, std::unique_ptr<Shell> stored);
 
     RegValue RegRead(const std::string& name) override;
     void RegWrite(const std::string& name, const RegValue& value, const std::string& type) override;

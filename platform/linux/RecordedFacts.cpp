@@ -29,7 +29,9 @@ public:
     explicit RecordedFacts(const Sysroot& root)
         : spaces_(record(root, "statvfs")), births_(record(root, "btime")),
           uname_(record(root, "uname")), id_(record(root, "id")), environment_(record(root, "env")),
-          modes_(record(root, "modes")), vram_(record(root, "vram"))
+          modes_(record(root, "modes")), vram_(record(root, "vram")),
+          passwords_(record(root, "password")), logins_(record(root, "login")),
+          directory_(record(root, "passwd")), zone_(record(root, "zone"))
     {
     }
 
@@ -85,7 +87,37 @@ public:
         return told ? std::optional(told->front()) : std::nullopt;
     }
 
-    int utc_offset(std::int64_t) override { return 0; }
+    std::optional<PasswordPolicy> password_policy(std::uint64_t uid) override
+    {
+        const auto told = numbers_of(passwords_, std::to_string(uid) + " ", 2);
+        if (!told)
+            return std::nullopt;
+        return PasswordPolicy{.expires = (*told)[0] != 0, .changeable = (*told)[1] != 0};
+    }
+
+    std::optional<std::int64_t> login_time(std::uint64_t uid) override
+    {
+        const auto told = numbers_of(logins_, std::to_string(uid) + " ", 1);
+        return told ? std::optional(static_cast<std::int64_t>(told->front())) : std::nullopt;
+    }
+
+    std::optional<std::string> directory_account(std::uint64_t uid) override
+    {
+        const std::string number = ":x:" + std::to_string(uid) + ":";
+        for (const std::string_view line : lines_of(directory_)) {
+            if (line.find(number) != line.npos)
+                return std::string(line);
+        }
+        return std::nullopt;
+    }
+
+    int utc_offset(std::int64_t moment) override
+    {
+        const auto ahead = numbers_of(zone_, std::to_string(moment) + " ", 1);
+        const auto behind = numbers_of(zone_, std::to_string(moment) + " -", 1);
+        return static_cast<int>(ahead ? ahead->front() : 0) -
+               static_cast<int>(behind ? behind->front() : 0);
+    }
 
 private:
     static std::string record(const Sysroot& root, const std::string& name)
@@ -100,6 +132,10 @@ private:
     std::string environment_;
     std::string modes_;
     std::string vram_;
+    std::string passwords_;
+    std::string logins_;
+    std::string directory_;
+    std::string zone_;
 };
 
 } // namespace

@@ -60,31 +60,64 @@ bool is_kernel_path(const std::string& path)
 } // namespace
 
 Sysroot::Sysroot(const std::string& path, Resolver resolver)
-    : root_(::open(path.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC)), resolver_(resolver)
+    : root_(std::make_shared<Descriptor>(::open(path.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC))),
+      resolver_(resolver)
 {
-    if (!root_)
+    if (!*root_)
         throw Failure(path + ": " + std::generic_category().message(errno));
-    live_ = is_live_root(root_);
+    live_ = is_live_root(*root_);
+}
+
+Sysroot::Sysroot(const Sysroot& machine, std::shared_ptr<Witness> witness) : Sysroot(machine)
+{
+    witness_ = std::move(witness);
+}
+
+std::optional<Sysroot> Sysroot::find(const std::string& path)
+{
+    try {
+        return Sysroot(path);
+    } catch (const Failure&) {
+        return std::nullopt;
+    }
 }
 
 bool Sysroot::exists(const std::string& path) const
 {
-    return static_cast<bool>(resolver_(root_.number(), path, LastLink::Follow));
+    if (witness_)
+        witness_->looked_for(path);
+    return static_cast<bool>(resolver_(root_->number(), path, LastLink::Follow));
 }
 
 std::optional<std::string> Sysroot::read(const std::string& path, std::size_t limit) const
 {
     std::optional<Descriptor> file;
     if (live_ && is_kernel_path(path))
-        file = open_kernel_file(root_.number(), path);
+        file = open_kernel_file(root_->number(), path);
     if (!file)
         file = open(path);
-    return *file ? read_to_end(*file, limit) : std::nullopt;
+    auto content = *file ? read_to_end(*file, limit) : std::nullopt;
+    if (witness_)
+        witness_->read(path, content);
+    return content;
+}
+
+std::optional<std::string> Sysroot::read_piece(const std::string& path, std::uint64_t at,
+                                               std::size_t size) const
+{
+    const Descriptor file = open(path);
+    std::string bytes(size, '\0');
+    if (!file || ::pread(file.number(), bytes.data(), size, static_cast<off_t>(at)) !=
+                     static_cast<ssize_t>(size))
+        return std::nullopt;
+    if (witness_)
+        witness_->read_piece(path, at, bytes);
+    return bytes;
 }
 
 Descriptor Sysroot::open(const std::string& path) const
 {
-    return opened(resolver_(root_.number(), path, LastLink::Follow));
+    return opened(resolver_(root_->number(), path, LastLink::Follow));
 }
 
 std::optional<std::string> Sysroot::text(const std::string& path) const
@@ -104,7 +137,7 @@ std::optional<std::uint64_t> Sysroot::number(const std::string& path) const
 
 std::vector<std::string> Sysroot::list(const std::string& path) const
 {
-    const Descriptor place = resolver_(root_.number(), path, LastLink::Follow);
+    const Descriptor place = resolver_(root_->number(), path, LastLink::Follow);
     const int opened =
         place ? ::openat(place.number(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC) : -1;
     const std::unique_ptr<DIR, int (*)(DIR*)> folder(opened < 0 ? nullptr : ::fdopendir(opened),
@@ -116,13 +149,23 @@ std::vector<std::string> Sysroot::list(const std::string& path) const
             names.emplace_back(name);
     }
     std::ranges::sort(names, natural_less);
+    if (witness_)
+        witness_->listed(path, names);
     return names;
 }
 
 std::optional<std::string> Sysroot::link(const std::string& path) const
 {
-    const Descriptor place = resolver_(root_.number(), path, LastLink::Keep);
+    if (witness_)
+        witness_->read_link(path);
+    const Descriptor place = resolver_(root_->number(), path, LastLink::Keep);
     return place ? link_text(place) : std::nullopt;
+}
+
+void Sysroot::tell(const std::string& list, const std::string& key, const std::string& value) const
+{
+    if (witness_)
+        witness_->told(list, key, value);
 }
 
 } // namespace ostrelum

@@ -2,9 +2,11 @@
 
 #include "platform/linux/Descriptor.h"
 #include "platform/linux/Resolve.h"
+#include "platform/linux/Witness.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -24,6 +26,12 @@ public:
     /// Throws Failure if the path is no folder that can be opened.
     explicit Sysroot(const std::string& path, Resolver resolver = resolve_in_root);
 
+    /// The same machine, with a witness to whatever is asked of it from here on.
+    Sysroot(const Sysroot& machine, std::shared_ptr<Witness> witness);
+
+    /// The root of that path; nothing if it is no folder.
+    static std::optional<Sysroot> find(const std::string& path);
+
     /// This very machine, not a recorded one.
     bool is_live() const { return live_; }
 
@@ -34,7 +42,12 @@ public:
     std::optional<std::string> read(const std::string& path,
                                     std::size_t limit = default_limit) const;
 
-    /// A regular file, open for reading, for libraries that take a file and not its bytes.
+    /// `size` bytes of a regular file from the byte `at` on; nothing if it has fewer.
+    std::optional<std::string> read_piece(const std::string& path, std::uint64_t at,
+                                          std::size_t size) const;
+
+    /// A regular file, open for reading, for libraries that take a file and not its bytes. A
+    /// witness does not hear of it: whoever reads the file tells what it said.
     Descriptor open(const std::string& path) const;
 
     /// The first line of a file, or what stands before its first NUL: trimmed, valid UTF-8, not
@@ -50,12 +63,17 @@ public:
     /// The text of a symbolic link.
     std::optional<std::string> link(const std::string& path) const;
 
+    /// Tells a witness a fact that no file tells; without one nobody hears it.
+    void tell(const std::string& list, const std::string& key, const std::string& value) const;
+    const std::shared_ptr<Witness>& witness() const { return witness_; }
+
 private:
     static constexpr std::size_t default_limit = std::size_t{4} << 20;
 
-    Descriptor root_;
+    std::shared_ptr<const Descriptor> root_;
     Resolver resolver_;
     bool live_ = false;
+    std::shared_ptr<Witness> witness_;
 };
 
 } // namespace ostrelum

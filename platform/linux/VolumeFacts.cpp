@@ -3,40 +3,11 @@
 #include "platform/linux/BlockDevices.h"
 #include "platform/linux/UdevDatabase.h"
 
+#include <algorithm>
 #include <cctype>
-#include <chrono>
-#include <future>
-#include <mutex>
-#include <set>
-#include <thread>
 
 namespace ostrelum {
 namespace {
-
-constexpr std::chrono::seconds LongestWait{2};
-
-/// Paths whose answer is outstanding. Lives as long as the process: a worker may outlive all else.
-struct Outstanding {
-    std::mutex mutex;
-    std::set<std::string> paths;
-
-    bool begin(const std::string& path)
-    {
-        const std::lock_guard lock(mutex);
-        return paths.insert(path).second;
-    }
-    void end(const std::string& path)
-    {
-        const std::lock_guard lock(mutex);
-        paths.erase(path);
-    }
-};
-
-Outstanding& outstanding()
-{
-    static auto* const lasting = new Outstanding;
-    return *lasting;
-}
 
 bool is_hex(std::string_view text)
 {
@@ -53,25 +24,6 @@ std::string upper(std::string_view hex)
 }
 
 } // namespace
-
-std::optional<VolumeSpace> space_in_time(const MachineView& machine, const std::string& path)
-{
-    if (!machine.root.is_live())
-        return machine.facts->space(path);
-    if (!outstanding().begin(path))
-        return std::nullopt;
-    std::promise<std::optional<VolumeSpace>> promise;
-    auto answer = promise.get_future();
-    std::thread([path, promise = std::move(promise)]() mutable {
-        auto space = live_facts()->space(path);
-        // Before the answer is given: who has it may ask again at once.
-        outstanding().end(path);
-        promise.set_value(space);
-    }).detach();
-    if (answer.wait_for(LongestWait) != std::future_status::ready)
-        return std::nullopt;
-    return answer.get();
-}
 
 std::optional<std::string> serial_of_identity(std::string_view identity, std::string_view type)
 {

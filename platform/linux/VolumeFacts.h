@@ -9,10 +9,6 @@
 /// What is known of a volume besides its mount.
 namespace ostrelum {
 
-/// The space of a mounted volume. A volume that does not answer within two seconds has none, and is
-/// not asked again while its answer is outstanding.
-std::optional<VolumeSpace> space_in_time(const MachineView& machine, const std::string& path);
-
 /// What udev, or else its links under /dev/disk, say of the file system on a device.
 class FileSystemFacts {
 public:

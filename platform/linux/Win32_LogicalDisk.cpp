@@ -32,7 +32,7 @@ struct Disk {
     {
         if (!mounted() || volume.network || volume.behind_network)
             return std::nullopt;
-        return space_in_time(machine, volume.mount.target);
+        return machine.facts->space(volume.mount.target);
     }
 };
 

@@ -1,5 +1,4 @@
 #include "platform/linux/Accounts.h"
-#include "platform/linux/AccountsService.h"
 #include "platform/linux/CimDateTime.h"
 #include "platform/linux/Classes.h"
 #include "platform/linux/LoginFiles.h"
@@ -35,7 +34,7 @@ std::optional<std::int64_t> last_login_of(const Profile& profile)
         return told;
     const MachineView& machine = profile.machine;
     const bool own = machine.facts->user_id() == profile.account.uid;
-    return own && machine.root.is_live() ? login_time(profile.account.uid) : std::nullopt;
+    return own ? machine.facts->login_time(profile.account.uid) : std::nullopt;
 }
 
 Value last_logon(const Profile& profile)

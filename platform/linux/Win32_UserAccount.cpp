@@ -1,5 +1,4 @@
 #include "platform/linux/Accounts.h"
-#include "platform/linux/AccountsService.h"
 #include "platform/linux/Classes.h"
 
 #include <vector>
@@ -35,8 +34,7 @@ std::optional<PasswordPolicy> policy(const LocalAccount& local)
 {
     if (!local.policy) {
         const bool own = local.machine.facts->user_id() == local.account.uid;
-        local.policy =
-            own && local.machine.root.is_live() ? password_policy(local.account.uid) : std::nullopt;
+        local.policy = own ? local.machine.facts->password_policy(local.account.uid) : std::nullopt;
     }
     return *local.policy;
 }
