@@ -1,15 +1,16 @@
 #include "platform/linux/Edid.h"
 
+#include "tests/platform/linux/MadeEdid.h"
+
 #include <cstdlib>
 
-/// Any bytes as a monitor's data: no mode is without size or speed, and the limits are in order.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+namespace {
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+void check(const std::string& bytes)
 {
-    const auto edid = ostrelum::read_edid({reinterpret_cast<const char*>(data), size});
+    const auto edid = ostrelum::read_edid(bytes);
     if (!edid)
-        return 0;
+        return;
     for (const auto& timing : edid->detailed) {
         if (timing.width <= 0 || timing.height <= 0 || timing.refresh_mHz <= 0)
             std::abort();
@@ -18,5 +19,23 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (limits && (limits->lowest <= 0 || limits->lowest > limits->highest))
             std::abort();
     }
+}
+
+} // namespace
+
+/// Any bytes as a monitor's data, as they are and as blocks whose sums are right: no mode is
+/// without size or speed, and the limits are in order.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    constexpr std::size_t block = 128;
+    const std::string bytes(data, data + size);
+    check(bytes);
+    std::string right;
+    for (std::size_t at = 0; at + block <= size; at += block)
+        right += ostrelum::summed(bytes.substr(at, block));
+    if (!right.empty())
+        check(right.replace(0, 8, "\0\xFF\xFF\xFF\xFF\xFF\xFF\0", 8));
     return 0;
 }

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace ostrelum {
 
@@ -14,6 +15,8 @@ public:
     /// The record of a device: "b8:0" and "c13:64" by number, "+pci:0000:00:02.0" by subsystem and
     /// name. A device without one has no properties.
     UdevRecord(const Sysroot& root, std::string_view device);
+    /// The record whose file holds these lines.
+    explicit UdevRecord(std::string lines) : lines_(std::move(lines)) {}
 
     /// A property's value, trimmed, not empty. Keys that end in "_ENC" are decoded: udev writes
     /// "\x20" there for what other keys lose to an underscore.

@@ -1,36 +1,12 @@
 #include "platform/linux/DeviceNames.h"
 
+#include "tests/platform/linux/MadeHardwareDatabase.h"
 #include "tests/platform/linux/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
 namespace ostrelum {
 namespace {
-
-void put(std::string& bytes, std::initializer_list<std::uint64_t> numbers)
-{
-    for (const std::uint64_t number : numbers) {
-        for (unsigned shift = 0; shift < 64; shift += 8)
-            bytes += static_cast<char>(number >> shift);
-    }
-}
-
-/// A compiled hardware database (its trie, version 1) in which devices with that beginning of their
-/// alias have one maker.
-std::string database(const std::string& beginning, const std::string& maker)
-{
-    constexpr std::uint64_t header = 80, node = 24, child = 16, value = 16;
-    constexpr std::uint64_t strings = header + node + value;
-    const std::string key = std::string(" ID_VENDOR_FROM_DATABASE") + '\0';
-    const std::string prefix = beginning + "*" + '\0';
-    const std::string text = '\0' + prefix + key + maker + '\0';
-    std::string bytes = "KSLPHHRH";
-    put(bytes, {252, strings + text.size(), header, node, child, value, header, node + value,
-                text.size()});
-    put(bytes,
-        {strings + 1, 0, 1, strings + 1 + prefix.size(), strings + 1 + prefix.size() + key.size()});
-    return bytes + text;
-}
 
 TEST(DeviceNames, PublishedOnesComeBeforeTheDatabase)
 {
@@ -43,7 +19,7 @@ TEST(DeviceNames, PublishedOnesComeBeforeTheDatabase)
     EXPECT_EQ(pci_code(root, slot), "10DE:1287");
     EXPECT_FALSE(pci_code(root, "0000:02:00.0"));
 
-    machine.file("usr/lib/udev/hwdb.bin", database("pci:v000010DE", "Database maker"));
+    machine.file("usr/lib/udev/hwdb.bin", hardware_database("pci:v000010DE", "Database maker"));
     EXPECT_EQ(pci_names(root, slot).vendor, "Database maker");
     EXPECT_FALSE(pci_names(root, slot).model);
 
@@ -61,7 +37,7 @@ TEST(DeviceNames, AMachineWithoutADatabaseHasNoneOfThisSystem)
 
     machine.file("etc/udev/hwdb.bin", "no database");
     EXPECT_FALSE(usb_vendor(root, 0x046D));
-    machine.file("usr/lib/udev/hwdb.bin", database("usb:v046D", "Mouse maker"));
+    machine.file("usr/lib/udev/hwdb.bin", hardware_database("usb:v046D", "Mouse maker"));
     EXPECT_EQ(usb_vendor(root, 0x046D), "Mouse maker");
     EXPECT_FALSE(usb_vendor(root, 0x046E));
 }
@@ -70,7 +46,7 @@ TEST(DeviceNames, MonitorsWithLettersOfSomebodyElseAreTheirMakers)
 {
     const TemporaryFolder machine;
     const Sysroot root(machine / "");
-    machine.file("etc/udev/hwdb.bin", database("acpi:", "Registered"));
+    machine.file("etc/udev/hwdb.bin", hardware_database("acpi:", "Registered"));
     EXPECT_EQ(monitor_maker(root, "LGD", true), "Registered");
     EXPECT_EQ(monitor_maker(root, "CSO", true), "CSOT");
     EXPECT_EQ(monitor_maker(root, "SEC", true), "Samsung");

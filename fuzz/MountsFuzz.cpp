@@ -1,0 +1,29 @@
+#include "platform/linux/Utf8.h"
+#include "platform/linux/Volumes.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+
+/// Any bytes as a mount table: its volumes are mounts of it, each place once and in order, and the
+/// ways over network mounts end.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    using namespace ostrelum;
+    const auto mounts = parse_mounts(std::string(data, data + size));
+    for (const Mount& mount : mounts) {
+        if (!valid_utf8(mount.root + mount.target + mount.type + mount.source))
+            std::abort();
+    }
+    std::string last;
+    for (const Volume& volume : volumes_of(mounts)) {
+        const Mount& mount = volume.mount;
+        const bool known = std::ranges::find(mounts, mount.source, &Mount::source) != mounts.end();
+        if (!known || mount.target <= last || volume.network != is_network_type(mount.type))
+            std::abort();
+        last = mount.target;
+    }
+    return 0;
+}
