@@ -41,6 +41,8 @@ std::vector<std::string_view> words_of(std::string_view text)
 std::optional<std::string_view> value_behind(std::string_view text, std::string_view label,
                                              char separator)
 {
+    if (text.find(label) == std::string_view::npos)
+        return std::nullopt;
     while (!text.empty()) {
         const std::string_view line = text.substr(0, text.find('\n'));
         const std::size_t sign = line.find(separator);
