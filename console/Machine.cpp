@@ -6,6 +6,7 @@
 #include "frame/Platform.h"
 #include "frame/SettingRows.h"
 #include "frame/Shared.h"
+#include "platform/linux/Facts.h"
 #include "platform/linux/LinuxManagementService.h"
 #include "platform/linux/MachineShell.h"
 #include "report/Report.h"
@@ -13,11 +14,21 @@
 namespace ostrelum {
 namespace {
 
-Environment environment_of(const Options& options)
+constexpr const char* UserName = "UserName";
+
+/// A recording tells whose pages it was made of.
+std::optional<std::string> user_of(const Options& options, const Sysroot& files)
+{
+    if (options.user || files.is_live())
+        return options.user;
+    return recorded_facts(Sysroot(files, nullptr))->variable(UserName);
+}
+
+Environment environment_of(const Options& options, const Sysroot& files)
 {
     Environment environment = process_environment();
-    if (options.user)
-        environment["UserName"] = *options.user;
+    if (const auto user = user_of(options, files))
+        environment[UserName] = *user;
     return environment;
 }
 
@@ -30,10 +41,13 @@ std::string with_lf(std::string text)
 }
 
 ConsoleMachine::ConsoleMachine(const Options& options)
-    : system_(options.sysroot, environment_of(options))
+    : ConsoleMachine(options, Sysroot(options.sysroot))
 {
-    // Bound here once, so that a folder that is not there is told instead of passed over.
-    auto service = make_linux_management_service(options.sysroot, SessionFactsSource());
+}
+
+ConsoleMachine::ConsoleMachine(const Options& options, const Sysroot& files)
+    : system_(files, environment_of(options, files))
+{
     store_.values[full_name(LanguageName)] = options.language;
     platform = {.toolkit = &toolkit_,
                 .registry = &system_.registry,
@@ -44,11 +58,14 @@ ConsoleMachine::ConsoleMachine(const Options& options)
                 .clock = &system_.clock,
                 .regional = &system_.regional,
                 .machine = &system_.machine,
-                .GetObject = [&](const std::string&) { return std::move(service); },
+                .GetObject =
+                    [files](const std::string&) {
+                        return make_linux_management_service(files, SessionFactsSource());
+                    },
                 .CreateObject =
-                    [this, root = options.sysroot](const std::string&) {
+                    [this, files](const std::string&) {
                         return std::make_unique<MachineShell>(
-                            root, std::make_unique<MemoryShell>(store_));
+                            files, std::make_unique<MemoryShell>(store_));
                     }};
     load_program();
 }
@@ -57,6 +74,11 @@ ConsoleMachine::~ConsoleMachine()
 {
     reset_shared_state();
     platform = {};
+}
+
+std::string ConsoleMachine::user()
+{
+    return system_.machine.Environ(UserName);
 }
 
 std::string ConsoleMachine::page(int section)

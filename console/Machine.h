@@ -15,15 +15,23 @@ namespace ostrelum {
 /// A text with the line ends of a terminal.
 std::string with_lf(std::string text);
 
+/// Number of the last section.
+inline constexpr int SectionCount = 13;
+
 /// The program on a terminal: the collectors run as in the window, on the memory toolkit, and
-/// answer from the machine that the options name. One can be at a time.
+/// answer from one machine. One can be at a time.
 class ConsoleMachine {
 public:
     /// Starts the program on the machine. Throws Failure if the machine's folder is not there.
     explicit ConsoleMachine(const Options& options);
+    /// The same on the machine with these files, whatever folder the options name.
+    ConsoleMachine(const Options& options, const Sysroot& files);
     ConsoleMachine(const ConsoleMachine&) = delete;
     ConsoleMachine& operator=(const ConsoleMachine&) = delete;
     ~ConsoleMachine();
+
+    /// The account of the user page.
+    std::string user();
 
     /// What Copy all takes from a section's page, 1 to 13, with LF line ends.
     std::string page(int section);

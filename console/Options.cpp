@@ -37,6 +37,7 @@ const char* const usage =
     "  report FORMAT      the report as text, html, rtf or bbcode\n"
     "  report FORMAT --output FILE\n"
     "                     the same into a file, as the window saves it\n"
+    "  record DIR         what all of these read of the machine, copied into a new folder\n"
     "  classes            every class with its properties and their types\n"
     "\n"
     "Options:\n"

@@ -1,6 +1,7 @@
 #include "console/Json.h"
 #include "console/Machine.h"
 #include "console/Options.h"
+#include "console/Record.h"
 #include "platform/linux/LinuxManagementService.h"
 #include "report/Report.h"
 #include "sources/Schema.h"
@@ -16,7 +17,6 @@ namespace {
 constexpr int Done = 0;
 constexpr int Failed = 1;
 constexpr int WrongUsage = 2;
-constexpr int SectionCount = 13;
 
 using Arguments = std::vector<std::string>;
 
@@ -72,6 +72,14 @@ int run_report(const Options& options, const Arguments& arguments)
     return Done;
 }
 
+int run_record(const Options& options, const Arguments& arguments)
+{
+    if (arguments.size() != 1 || arguments[0].empty())
+        return WrongUsage;
+    record_machine(options, arguments[0]);
+    return Done;
+}
+
 int run_classes(const Options&, const Arguments& arguments)
 {
     if (!arguments.empty())
@@ -90,7 +98,9 @@ struct Command {
 };
 
 constexpr Command commands[] = {
-    {"query", run_query}, {"page", run_page}, {"report", run_report}, {"classes", run_classes}};
+    {"query", run_query},   {"page", run_page},       {"report", run_report},
+    {"record", run_record}, {"classes", run_classes},
+};
 
 int run(const Options& options)
 {
