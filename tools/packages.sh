@@ -4,7 +4,7 @@
 run_packages="g++ cmake ninja-build pkg-config python3 qt6-base-dev libmount-dev libsystemd-dev nlohmann-json3-dev fonts-liberation"
 # What testing takes besides.
 test_packages="libgtest-dev libgmock-dev clang-format librsvg2-bin xvfb openbox picom hsetroot xdotool imagemagick
-    x11-utils xclip at-spi2-core gir1.2-atspi-2.0 python3-gi libglib2.0-bin dbus"
+    x11-utils xclip at-spi2-core gir1.2-atspi-2.0 python3-gi libglib2.0-bin dbus strace"
 # What the long tests take besides: a fuzzer, and a second opinion about memory.
 long_packages="clang-14 libclang-rt-14-dev valgrind"
 # What looking for mistakes without running takes besides.

@@ -2,25 +2,34 @@
 
 #include <chrono>
 #include <future>
+#include <memory>
 #include <mutex>
 #include <set>
 #include <sys/statvfs.h>
+#include <system_error>
 #include <thread>
 
 namespace ostrelum {
 namespace {
 
-constexpr std::chrono::seconds LongestWait{2};
+using Milliseconds = std::chrono::milliseconds;
+using Space = std::optional<VolumeSpace>;
+
+constexpr Milliseconds LongestWait{2000};
+/// While another answer is overdue: ten dead volumes take little longer than one.
+constexpr Milliseconds ShorterWait{100};
 
 /// Paths whose answer is outstanding. Lives as long as the process: a worker may outlive all else.
 struct Outstanding {
     std::mutex mutex;
     std::set<std::string> paths;
 
-    bool begin(const std::string& path)
+    /// How long to wait for the answer; nothing if it is outstanding already.
+    std::optional<Milliseconds> begin(const std::string& path)
     {
         const std::lock_guard lock(mutex);
-        return paths.insert(path).second;
+        const auto wait = paths.empty() ? LongestWait : ShorterWait;
+        return paths.insert(path).second ? std::optional(wait) : std::nullopt;
     }
     void end(const std::string& path)
     {
@@ -35,7 +44,7 @@ Outstanding& outstanding()
     return *lasting;
 }
 
-std::optional<VolumeSpace> space_of(const std::string& path)
+Space space_of(const std::string& path)
 {
     struct statvfs told = {};
     if (::statvfs(path.c_str(), &told) != 0)
@@ -43,21 +52,33 @@ std::optional<VolumeSpace> space_of(const std::string& path)
     return VolumeSpace{told.f_frsize, told.f_blocks, told.f_bfree, told.f_bavail};
 }
 
+/// Asks in a thread of its own, which is left to itself if the answer does not come.
+std::future<Space> ask(const std::string& path)
+{
+    const auto promise = std::make_shared<std::promise<Space>>();
+    const auto answer = [=](const Space& space) {
+        // Before the answer is given: who has it may ask again at once.
+        outstanding().end(path);
+        promise->set_value(space);
+    };
+    try {
+        std::thread([=] { answer(space_of(path)); }).detach();
+    } catch (const std::system_error&) {
+        // The user may have no more threads.
+        answer(std::nullopt);
+    }
+    return promise->get_future();
+}
+
 } // namespace
 
 std::optional<VolumeSpace> space_in_time(const std::string& path)
 {
-    if (!outstanding().begin(path))
+    const auto longest = outstanding().begin(path);
+    if (!longest)
         return std::nullopt;
-    std::promise<std::optional<VolumeSpace>> promise;
-    auto answer = promise.get_future();
-    std::thread([path, promise = std::move(promise)]() mutable {
-        auto space = space_of(path);
-        // Before the answer is given: who has it may ask again at once.
-        outstanding().end(path);
-        promise.set_value(space);
-    }).detach();
-    if (answer.wait_for(LongestWait) != std::future_status::ready)
+    auto answer = ask(path);
+    if (answer.wait_for(*longest) != std::future_status::ready)
         return std::nullopt;
     return answer.get();
 }

@@ -8,7 +8,8 @@
 namespace ostrelum {
 
 /// The space of the volume of this machine that holds a path. One that does not answer within two
-/// seconds has none, and is not asked again while its answer is outstanding.
+/// seconds has none, and is not asked again while its answer is outstanding; others are meanwhile
+/// given a tenth of a second.
 std::optional<VolumeSpace> space_in_time(const std::string& path);
 
 } // namespace ostrelum
