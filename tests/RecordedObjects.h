@@ -1,12 +1,10 @@
 #pragma once
 
 #include "sources/ManagementService.h"
+#include "tests/Split.h"
 
 #include <algorithm>
 #include <fstream>
-#include <sstream>
-#include <utility>
-#include <vector>
 
 namespace ostrelum {
 
@@ -17,8 +15,7 @@ using RecordedObjects = std::vector<std::pair<std::string, ResultSet>>;
 inline Instance recorded_object(const std::string& line, char between = '\t')
 {
     std::vector<Instance::Property> properties;
-    std::istringstream columns(line);
-    for (std::string column; std::getline(columns, column, between);) {
+    for (const std::string& column : split(line, between)) {
         const auto sign = column.find('=');
         Value value;
         if (sign != std::string::npos)

@@ -47,20 +47,16 @@ protected:
 TEST_F(Drives, AreListedSideBySide)
 {
     SectionTest::open(7);
-    EXPECT_THAT(shown(1, 9),
-                ElementsAre("Name: System - Local disk", "Drive letter: (C:) - (D:)",
-                            "Capacity: (232.8 GB) - (698.6 GB)",
-                            "Space in use: (110.1 GB - 47%) - (12.6 GB - 2%)",
-                            "Free space: (122.6 GB - 53%) - (686.0 GB - 98%)",
-                            "Internal name: Disk A - Disk B", "File system: ext4 - btrfs",
-                            "Serial number: 1A2B - 1A2B", "Total partitions: 3"));
+    EXPECT_THAT(shown(4, 6), ElementsAre("Space in use: (110.1 GB - 47%) - (12.6 GB - 2%)",
+                                         "Free space: (122.6 GB - 53%) - (686.0 GB - 98%)",
+                                         "Internal name: Disk A - Disk B"));
+    EXPECT_EQ(shown(9), "Total partitions: 3") << "of the last drive inside";
     SectionTest::open(11);
-    EXPECT_THAT(shown(1, 8),
-                ElementsAre("Name: DATA - Removable memory", "Drive letter: (E:) - (F:)",
-                            "Capacity: (7.45 GB) - (97.6 MB)",
-                            "Space in use: (2.45 GB - 33%) - (97.6 MB - 100%)",
-                            "Free space: (5 GB - 67%) - (0 KB - 0%)", "Internal name: Stick - Box",
-                            "File system: vfat - vfat", "Serial number: 1A2B - 1A2B"));
+    EXPECT_THAT(shown(3, 6), ElementsAre("Capacity: (7.45 GB) - (97.6 MB)",
+                                         "Space in use: (2.45 GB - 33%) - (97.6 MB - 100%)",
+                                         "Free space: (5 GB - 67%) - (0 KB - 0%)",
+                                         "Internal name: Stick - Box"));
+    EXPECT_EQ(shown(1), "Name: DATA - Removable memory");
     EXPECT_EQ(F1.Laviso.Caption, "\r\n2 removable drives are conected.");
     SectionTest::open(12);
     EXPECT_THAT(shown(1, 7),

@@ -30,10 +30,8 @@ protected:
 TEST_F(Memory, AddsUpAllModulesAndShowsTheLastOnesKind)
 {
     open(6);
-    EXPECT_THAT(shown(1, 8), ElementsAre("Type: DDR2", "Chip type: DIMM", "Total memory: 4 GB",
-                                         "Memory in use: 3072 MB (75%)",
-                                         "Available memory: 1024 MB (25%)", "Modules installed: 2",
-                                         "Data bus width: 64 Bits", "Use: System cache"));
+    EXPECT_THAT(shown(1, 3), ElementsAre("Type: DDR2", "Chip type: DIMM", "Total memory: 4 GB"));
+    EXPECT_EQ(shown(8), "Use: System cache");
     open_with({module(18, megabytes(512)), module({}, {}, "  "), module({}, megabytes(512), {}),
                module({}, {}, {}), module({}, megabytes(2 << 20))},
               {});

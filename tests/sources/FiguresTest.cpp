@@ -3,6 +3,7 @@
 #include "sources/NumberText.h"
 #include "sources/Percent.h"
 #include "sources/Processors.h"
+#include "tests/Split.h"
 
 #include <gtest/gtest.h>
 
@@ -11,20 +12,17 @@ namespace {
 
 TEST(RealText, HasFifteenSignificantDigitsAndNoTrailingZeros)
 {
-    const struct {
-        double number;
-        const char* text;
-    } cases[] = {{2.394, "2.394"},
-                 {3, "3"},
-                 {0.8, "0.8"},
-                 {1.2056640625, "1.2056640625"},
-                 {1.0 / 3, "0.333333333333333"},
-                 {2147483647.0 / 1024, "2097151.99902344"},
-                 {0.1 + 0.2, "0.3"},
-                 {-0.0, "0"},
-                 {-1.5, "-1.5"}};
-    for (const auto& c : cases)
-        EXPECT_EQ(RealText(c.number, "."), c.text);
+    const std::pair<double, std::string> cases[] = {{2.394, "2.394"},
+                                                    {3, "3"},
+                                                    {0.8, "0.8"},
+                                                    {1.2056640625, "1.2056640625"},
+                                                    {1.0 / 3, "0.333333333333333"},
+                                                    {2147483647.0 / 1024, "2097151.99902344"},
+                                                    {0.1 + 0.2, "0.3"},
+                                                    {-0.0, "0"},
+                                                    {-1.5, "-1.5"}};
+    for (const auto& [number, text] : cases)
+        EXPECT_EQ(RealText(number, "."), text);
     EXPECT_EQ(RealText(0.5, ","), "0,5");
     EXPECT_EQ(WholeText(-7), "-7");
 }
@@ -96,13 +94,10 @@ TEST(ClockText, KeepsFourCharacters)
 
 TEST(CacheText, GoesByItsLength)
 {
-    const struct {
-        const char *kilobytes, *text;
-    } cases[] = {{"", ""},         {"0", ""},        {"64", "64 KB"},  {"512", "512 KB"},
-                 {"1024", "1 MB"}, {"1536", "1 MB"}, {"2048", "2 MB"}, {"6144", "6 MB"},
-                 {"9999", "9 MB"}, {"12288", ""}};
-    for (const auto& c : cases)
-        EXPECT_EQ(CacheText(c.kilobytes), c.text);
+    for (const auto& [kilobytes, text] :
+         pairs("0=|64=64 KB|512=512 KB|1024=1 MB|1536=1 MB|2048=2 MB|9999=9 MB|12288="))
+        EXPECT_EQ(CacheText(kilobytes), text);
+    EXPECT_EQ(CacheText(""), "");
     EXPECT_THROW(CacheText("some"), Failure);
 }
 

@@ -1,31 +1,18 @@
 #include "sources/Sizes.h"
 
-#include <gtest/gtest.h>
+#include "tests/Split.h"
 
-#include <sstream>
-#include <string>
+#include <gtest/gtest.h>
 
 namespace ostrelum {
 namespace {
 
-/// Sizes and their texts, as in "1000=0.9 GB|1024=1 GB"; nothing behind the sign is no form.
-std::vector<std::pair<std::int32_t, std::string>> sizes(const char* row)
-{
-    std::vector<std::pair<std::int32_t, std::string>> pairs;
-    std::istringstream entries(row);
-    for (std::string entry; std::getline(entries, entry, '|');) {
-        const auto sign = entry.find('=');
-        pairs.emplace_back(std::stoi(entry), entry.substr(sign + 1));
-    }
-    return pairs;
-}
-
 TEST(SizeWhole, ChangesItsUnitAtFourDigits)
 {
     for (const auto& [megabytes, text] :
-         sizes("0=0 MB|999=999 MB|1000=0 GB|1023=0 GB|1024=1 GB|1536=1 GB|2047=1 GB|2048=2 GB|"
+         pairs("0=0 MB|999=999 MB|1000=0 GB|1023=0 GB|1024=1 GB|1536=1 GB|2047=1 GB|2048=2 GB|"
                "-99=-99 MB|-100=-1 GB|2147483647=2097151 GB"))
-        EXPECT_EQ(SizeWhole(megabytes), text) << megabytes;
+        EXPECT_EQ(SizeWhole(std::stoi(megabytes)), text) << megabytes;
 }
 
 TEST(WholeMegabytes, AreRoundedDown)
@@ -35,7 +22,8 @@ TEST(WholeMegabytes, AreRoundedDown)
     EXPECT_EQ(WholeMegabytes(-1), "-1");
 }
 
-/// The first and the last number of each digit count that changes the form.
+/// The first and the last number of each digit count that changes the form; nothing behind the sign
+/// is no form.
 const std::pair<SizeUse, const char*> borders[] = {
     {SizeUse::SummaryFree,
      "9=|10=10 MB|999=999 MB|1000=0.9 GB|1024=1 GB|1234=1.2 GB|9999=9.7 GB|10000=9.76 GB|"
@@ -66,8 +54,9 @@ const std::pair<SizeUse, const char*> borders[] = {
 TEST(SizeByDigits, ChangesItsFormAtEachBorder)
 {
     for (const auto& [use, row] : borders) {
-        for (const auto& [size, text] : sizes(row))
-            EXPECT_EQ(SizeByDigits(use, size, "."), text) << static_cast<int>(use) << ", " << size;
+        for (const auto& [size, text] : pairs(row))
+            EXPECT_EQ(SizeByDigits(use, std::stoi(size), "."), text)
+                << static_cast<int>(use) << ", " << size;
     }
 }
 

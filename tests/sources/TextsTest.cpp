@@ -1,6 +1,7 @@
 #include "sources/Texts.h"
 
 #include "sources/LetterCase.h"
+#include "tests/Split.h"
 
 #include <gtest/gtest.h>
 
@@ -24,27 +25,14 @@ TEST(FillMark, FillsEveryOccurrenceAndNoMore)
 
 TEST(CapitalText, WorksOnCharacters)
 {
-    const struct {
-        const char *text, *capital;
-    } cases[] = {{"WORKGROUP", "Workgroup"},
-                 {"MyDomain.LOCAL", "Mydomain.local"},
-                 {"WORKGROUP-PC", "Workgroup-pc"},
-                 {"x", "X"},
-                 {"", ""},
-                 {"ÑANDÚ", "Ñandú"},
-                 {"éTÉ", "Été"},
-                 {"ΣΟΦΌΣ", "Σοφόσ"},
-                 {"дОМЕН Ё", "Домен ё"},
-                 {"ıIİ", "Iii"},
-                 {"1ABC", "1abc"},
-                 {"\xC3", "\xC3"},
-                 {"a\xFF\xE1\xBA"
-                  "B",
-                  "A\xFF\xE1\xBA"
-                  "b"},
-                 {"😀AB", "😀ab"}};
-    for (const auto& c : cases)
-        EXPECT_EQ(CapitalText(c.text), c.capital) << c.text;
+    for (const auto& [text, capital] :
+         pairs("WORKGROUP=Workgroup|MyDomain.LOCAL=Mydomain.local|WORKGROUP-PC=Workgroup-pc|x=X|"
+               "ÑANDÚ=Ñandú|éTÉ=Été|ΣΟΦΌΣ=Σοφόσ|дОМЕН Ё=Домен ё|ıIİ=Iii|1ABC=1abc|\xC3=\xC3|"
+               "a\xFF\xE1\xBA"
+               "B=A\xFF\xE1\xBA"
+               "b|😀AB=😀ab"))
+        EXPECT_EQ(CapitalText(text), capital) << text;
+    EXPECT_EQ(CapitalText(""), "");
 }
 
 TEST(LetterCase, AgreesWithTheSystemsTablesOnAllItsAlphabets)
