@@ -1,3 +1,4 @@
+#include "tests/Split.h"
 #include "tests/Stage.h"
 
 #include "frame/Page.h"
@@ -132,20 +133,11 @@ TEST_F(Navigation, ClearPageEmptiesWhatTheSectionLeft)
 TEST_F(Navigation, RightClickOffersCopyWhereTheRowHasSomething)
 {
     // By section, the rows that can be copied.
-    const char* copied[] = {"",
-                            "3 4 5 6 10 11 12 ",
-                            "1 2 3 4 5 6 7 8 9 10 ",
-                            "1 2 3 4 5 6 ",
-                            "1 2 3 4 5 6 7 8 9 10 11 ",
-                            "1 2 3 4 5 6 7 8 9 ",
-                            "1 2 3 4 5 6 7 8 ",
-                            "1 2 3 4 5 6 7 8 9 ",
-                            "1 2 3 4 5 ",
-                            "1 2 3 4 6 7 8 9 10 11 ",
-                            "1 2 4 5 6 7 8 ",
-                            "1 2 3 4 5 6 7 8 ",
-                            "1 2 3 4 5 6 7 ",
-                            "1 2 3 5 6 8 9 10 11 12 "};
+    const auto copied = split("|3 4 5 6 10 11 12 |1 2 3 4 5 6 7 8 9 10 |1 2 3 4 5 6 |"
+                              "1 2 3 4 5 6 7 8 9 10 11 |1 2 3 4 5 6 7 8 9 |1 2 3 4 5 6 7 8 |"
+                              "1 2 3 4 5 6 7 8 9 |1 2 3 4 5 |1 2 3 4 6 7 8 9 10 11 |"
+                              "1 2 4 5 6 7 8 |1 2 3 4 5 6 7 8 |1 2 3 4 5 6 7 |"
+                              "1 2 3 5 6 8 9 10 11 12 ");
     for (std::uint8_t section = 1; section <= 13; ++section) {
         F1.Seccion = section;
         std::string offered;

@@ -29,16 +29,6 @@ TEST_F(Page, NoValueReachesTheBands)
         EXPECT_GT(over, value) << over->name << " lies over the rows";
 }
 
-TEST_F(Page, AValueThatFailsLeavesTheOldOneAndItsTooltip)
-{
-    set_row(4, "Name:", std::string("old"));
-    F1.L(4).ToolTipText = "stale";
-    set_row(4, "Released:", []() -> std::string { throw Failure("no date"); });
-    EXPECT_EQ(F1.LT(4).Caption, "Released: ");
-    EXPECT_EQ(F1.L(4).Caption, "old");
-    EXPECT_EQ(F1.L(4).ToolTipText, "old");
-}
-
 TEST_F(Page, HeadingsTakeTheSkinColourAndPlainTitlesGiveItBack)
 {
     set_heading(1, "Main features");
@@ -48,21 +38,6 @@ TEST_F(Page, HeadingsTakeTheSkinColourAndPlainTitlesGiveItBack)
     plain_title(1);
     EXPECT_EQ(F1.LT(1).ForeColor, RGB(32, 32, 32));
     EXPECT_FALSE(F1.LT(1).Font.Italic);
-}
-
-TEST_F(Page, WalksTakeAllTheFirstOrTheFirstThatMatches)
-{
-    const ResultSet three{Instance({{"n", 1}}), Instance({{"n", 2}}), Instance({{"n", 3}})};
-    int sum = 0;
-    const auto add = [&](const Instance& item) { sum += item["n"].whole(); };
-    each(three, add);
-    EXPECT_EQ(sum, 6);
-    first(three, add);
-    EXPECT_EQ(sum, 7);
-    first_match(three, [](const Instance& item) { return item["N"].whole() == 2; });
-    EXPECT_EQ(WmiItem["n"].whole(), 2);
-    first({}, add);
-    EXPECT_EQ(sum, 7);
 }
 
 TEST_F(Page, AFailedQueryLeavesNothingToWalk)
