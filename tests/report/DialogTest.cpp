@@ -54,11 +54,8 @@ TEST_F(ReportDialog, OpensInItsFirstState)
     });
     FontsOk = 0;
     open([] {
-        EXPECT_EQ(F2.Desc1.Font, (FontSpec{.Name = "Trebuchet MS", .Size = 12}));
-        EXPECT_EQ(F2.Desc2.Font, (FontSpec{.Name = "Tahoma", .Size = 8}));
         EXPECT_EQ(F2.LStatus.Font, (FontSpec{.Name = "Tahoma", .Size = 9}));
         EXPECT_EQ(F2.LStatus.Top, 98);
-        EXPECT_EQ(F2.BClose.Font, F2.Desc2.Font);
     });
 }
 
@@ -202,24 +199,6 @@ TEST_F(ReportDialog, ThePictureCrossesOverInNineteenBlends)
         click("BClose");
     });
     open([&] { EXPECT_NE(F2.Pic1.Stored, F6->Made.Stored) << "the next report starts anew"; });
-}
-
-TEST_F(ReportDialog, LeavesTheRefreshOfTheRamPageItsTotal)
-{
-    script.results["Select FreePhysicalMemory, LargeSystemCache from Win32_OperatingSystem"] =
-        script.results["Select FreePhysicalMemory from Win32_OperatingSystem"] = {
-            Instance({{"FreePhysicalMemory", "1048576"}, {"LargeSystemCache", 0}})};
-    F1.raise("LMenu", {.kind = EventKind::MouseDown, .index = 6, .button = LeftButton});
-    const std::string in_use = F1.L(4).Caption;
-    ASSERT_EQ(in_use, "3072 MB (75%)");
-    TransEnabled = false;
-    open([&] {
-        tick("Descargador");
-        click("BClose");
-    });
-    F1.L(4).Caption.clear();
-    F1.raise("Timer1", {.kind = EventKind::Timer});
-    EXPECT_EQ(F1.L(4).Caption, in_use);
 }
 
 } // namespace

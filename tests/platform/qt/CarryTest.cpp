@@ -100,13 +100,6 @@ TEST_F(CarryTest, ALabelIsAsWideAsItsInk)
     }
 }
 
-TEST_F(CarryTest, FontsAreCountedInPixels)
-{
-    EXPECT_EQ(font_of({.Size = 9.75}).pixelSize(), 13);
-    EXPECT_EQ(font_of({.Size = 8.25}).pixelSize(), 11);
-    EXPECT_EQ(font_of({.Size = 26.25}).pixelSize(), 35);
-}
-
 TEST_F(CarryTest, NoStandInIsMuchWiderThanTheLayoutAllows)
 {
     if (!QFontDatabase::families().contains("Liberation Sans"))
