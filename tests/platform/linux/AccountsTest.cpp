@@ -103,16 +103,11 @@ TEST(Accounts, AdministerByMembershipOrPrimaryGroup)
 {
     const std::string groups =
         "sudo:x:27:ana, eva\nwheel:x:10:\nusers:x:100:joe\nsudoers:x:28:joe\n";
-    const struct {
-        Account account;
-        bool administers;
-    } cases[] = {{{"ana", 1000, 1000, ""}, true},
-                 {{"eva", 1001, 1001, ""}, true},
-                 {{"an", 1002, 1002, ""}, false},
-                 {{"joe", 1003, 100, ""}, false},
-                 {{"kim", 1004, 10, ""}, true}};
-    for (const auto& c : cases)
-        EXPECT_EQ(administers(groups, c.account), c.administers) << c.account.name;
+    for (const Account& account :
+         {Account{"ana", 1000, 1000, ""}, {"eva", 1001, 1001, ""}, {"kim", 1004, 10, ""}})
+        EXPECT_TRUE(administers(groups, account)) << account.name;
+    for (const Account& account : {Account{"an", 1002, 1002, ""}, {"joe", 1003, 100, ""}})
+        EXPECT_FALSE(administers(groups, account)) << account.name;
 }
 
 TEST(PasswordPolicies, FollowTheAges)

@@ -13,8 +13,6 @@ TEST(RecordedFacts, AreReadFromTheirFolder)
     machine.file(".facts/statvfs",
                  "/ 4096 10 9 8\n/mnt 1 2 3 4\n/mnt/my disk 512 7 6 5\n/bad 1 2\n");
     machine.file(".facts/btime", "/ 1795383844\n/lost+found x\n");
-    machine.file(".facts/uname", "Linux vm 6.1.0 #1 SMP (2026-07-02) aarch64 GNU/Linux\n");
-    machine.file(".facts/id", "uid=1000(alice) gid=1000(alice) groups=27(sudo)\n");
     machine.file(".facts/env", "LC_ALL=\nLANG=es_AR.UTF-8\n");
     const auto facts = recorded_facts(Sysroot(machine / ""));
     EXPECT_EQ(facts->space("/"), (VolumeSpace{4096, 10, 9, 8}));
@@ -23,21 +21,7 @@ TEST(RecordedFacts, AreReadFromTheirFolder)
         EXPECT_EQ(facts->space(path), std::nullopt) << path;
     EXPECT_EQ(facts->birth_time("/"), 1795383844);
     EXPECT_EQ(facts->birth_time("/lost+found"), std::nullopt);
-    EXPECT_EQ(facts->processor_kind(), "aarch64");
-    EXPECT_EQ(facts->user_id(), 1000U);
-    EXPECT_EQ(facts->variable("LANG"), "es_AR.UTF-8");
     EXPECT_EQ(facts->variable("LANGUAGE"), std::nullopt);
-}
-
-TEST(RecordedFacts, CanBeMissing)
-{
-    const TemporaryFolder machine;
-    const auto facts = recorded_facts(Sysroot(machine / ""));
-    EXPECT_EQ(facts->space("/"), std::nullopt);
-    EXPECT_EQ(facts->birth_time("/"), std::nullopt);
-    EXPECT_EQ(facts->processor_kind(), std::nullopt);
-    EXPECT_EQ(facts->user_id(), std::nullopt);
-    EXPECT_EQ(facts->variable("LANG"), std::nullopt);
 }
 
 TEST(CimDateTime, IsLocalTimeWithItsOffset)

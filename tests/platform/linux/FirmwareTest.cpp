@@ -1,6 +1,7 @@
 #include "platform/linux/LinuxManagementService.h"
 #include "platform/linux/Placeholder.h"
 #include "platform/system/Failure.h"
+#include "tests/Split.h"
 #include "tests/platform/linux/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -62,16 +63,6 @@ TEST(Firmware, IsReadFromItsTableAlone)
     EXPECT_EQ(objects(machine, "Win32_BIOS"), Objects());
 }
 
-TEST(Firmware, IsReadFromADeviceTree)
-{
-    const TemporaryFolder machine;
-    machine.file("proc/device-tree/compatible", "acme,board-4\0acme,chip\0"s);
-    machine.file("proc/device-tree/model", "ACME Board 4\0"s);
-    machine.file("proc/device-tree/serial-number", "00c0ffee\0"s);
-    EXPECT_EQ(objects(machine, "Win32_BIOS"), (Objects{{null, null, null, "00c0ffee", null}}));
-    EXPECT_EQ(objects(machine, "Win32_BaseBoard"), (Objects{{"acme", "ACME Board 4"}}));
-}
-
 TEST(Firmware, IsReadFromAMainframe)
 {
     const TemporaryFolder machine;
@@ -81,36 +72,23 @@ TEST(Firmware, IsReadFromAMainframe)
     EXPECT_EQ(objects(machine, "Win32_BIOS"), Objects());
 }
 
-TEST(Firmware, WithoutASourceIsNoObject)
+TEST(Firmware, OfASourceWithoutTextsIsAnObjectWithoutValues)
 {
     const TemporaryFolder machine;
-    EXPECT_EQ(objects(machine, "Win32_BIOS"), Objects());
-    EXPECT_EQ(objects(machine, "Win32_BaseBoard"), Objects());
-    // A source without a maker's text is an object without values.
     machine.file("sys/class/dmi/id/board_name", "Default string\n");
     EXPECT_EQ(objects(machine, "Win32_BaseBoard"), (Objects{{null, null}}));
 }
 
 TEST(Firmware, HasADayOfReleaseOrNone)
 {
-    const std::pair<const char*, Value> cases[] = {
-        {"02/29/2020", "20200229000000.000000+000"},
-        {"12/31/99", "19991231000000.000000+000"},
-        {"01/02/03", "19030102000000.000000+000"},
-        {"02/29/2021", null},
-        {"13/01/2020", null},
-        {"00/10/2020", null},
-        {"7/31/2013", null},
-        {"07-31-2013", null},
-        {"07/31/-013", null},
-        {"0a/31/2013", null},
-        {"07/31/20131", null},
-        {"//", null},
-    };
-    for (const auto& [date, expected] : cases) {
+    for (const auto& [date, expected] :
+         pairs("02/29/2020=20200229000000.000000+000|12/31/99=19991231000000.000000+000|"
+               "01/02/03=19030102000000.000000+000|02/29/2021|13/01/2020|00/10/2020|7/31/2013|"
+               "07-31-2013|07/31/-013|0a/31/2013|07/31/20131|//")) {
         const TemporaryFolder machine;
         machine.file("sys/class/dmi/id/bios_date", date);
-        EXPECT_EQ(objects(machine, "Win32_BIOS").at(0).at(2), expected) << date;
+        EXPECT_EQ(objects(machine, "Win32_BIOS").at(0).at(2), expected.empty() ? null : expected)
+            << date;
     }
 }
 

@@ -61,19 +61,15 @@ TEST(Graphics, TheFirmwaresCardIsTheFirst)
 
 TEST(Graphics, MonitorsAreCalledByTheBestTheyTell)
 {
-    struct Case {
-        std::string edid;
-        const char* row;
-    };
-    for (const Case& each : {
-             Case{monitor(descriptor(0xFE, "Part 1\n") + descriptor(0xFC, "Name\n")), "XYZ|Name"},
-             Case{monitor(descriptor(0xFE, "Part 1\n")), "XYZ|Part 1"},
-             Case{monitor(), "XYZ|XYZ 1234"},
-         }) {
+    const std::pair<std::string, const char*> cases[] = {
+        {descriptor(0xFE, "Part 1\n") + descriptor(0xFC, "Name\n"), "XYZ|Name"},
+        {descriptor(0xFE, "Part 1\n"), "XYZ|Part 1"},
+        {"", "XYZ|XYZ 1234"}};
+    for (const auto& [told, row] : cases) {
         const MadeMachine machine;
         pci_card(machine, "0000:01:00.0", "1", "card0");
-        monitor_at(machine, "0000:01:00.0", "card0-eDP-1", each.edid);
-        EXPECT_THAT(machine.rows(Monitors), ElementsAre(each.row));
+        monitor_at(machine, "0000:01:00.0", "card0-eDP-1", monitor(told));
+        EXPECT_THAT(machine.rows(Monitors), ElementsAre(row));
     }
 }
 
@@ -190,20 +186,13 @@ TEST(Graphics, ADriverOfItsOwnHasItsOwnDate)
 TEST(Graphics, DaysInBuildLines)
 {
     using namespace std::chrono;
-    const struct {
-        const char* line;
-        std::optional<year_month_day> date;
-    } cases[] = {
-        {"#45-Ubuntu SMP Fri Aug 30 12:02:04 UTC 2024", 2024y / August / 30},
-        {"#1 SMP PREEMPT_DYNAMIC Debian 6.1.119-1 (2024-11-22)", 2024y / November / 22},
-        {"#1 Wed May  1 07:11:28 PM CEST 2024", 2024y / May / 1},
-        {"#1 Thu Feb 30 07:11:28 UTC 2023", std::nullopt},
-        {"#1 Thu Feb 28 07:11:28 UTC", std::nullopt},
-        {"(2024-13-01) (2024/11/22) Jan", std::nullopt},
-        {"", std::nullopt},
-    };
-    for (const auto& each : cases)
-        EXPECT_EQ(build_date(each.line), each.date) << each.line;
+    EXPECT_EQ(build_date("#45-Ubuntu SMP Fri Aug 30 12:02:04 UTC 2024"), 2024y / August / 30);
+    EXPECT_EQ(build_date("#1 SMP PREEMPT_DYNAMIC Debian 6.1.119-1 (2024-11-22)"),
+              2024y / November / 22);
+    EXPECT_EQ(build_date("#1 Wed May  1 07:11:28 PM CEST 2024"), 2024y / May / 1);
+    for (const char* none : {"#1 Thu Feb 30 07:11:28 UTC 2023", "#1 Thu Feb 28 07:11:28 UTC",
+                             "(2024-13-01) (2024/11/22) Jan", ""})
+        EXPECT_EQ(build_date(none), std::nullopt) << none;
 }
 
 } // namespace

@@ -37,17 +37,6 @@ TEST(InputDevices, AreToldApartByCapabilityWhereUdevDoesNotRun)
     EXPECT_THAT(machine.rows(Pointers), ElementsAre("162|2|null|Device 2", "1|2|null|Device 3"));
 }
 
-TEST(InputDevices, AreWhatUdevSays)
-{
-    const MadeMachine machine;
-    input(machine, "pci/usb1/1-1/1-1:1.0", 0, "0003", "0");
-    input(machine, "pci/usb1/1-2/1-2:1.0", 1, "0003", Keys);
-    machine.file("run/udev/data/+input:input0", "E:ID_INPUT=1\nE:ID_INPUT_KEYBOARD=1\n");
-    machine.file("run/udev/data/+input:input1", "E:ID_INPUT=1\nE:ID_INPUT_TRACKBALL=1\n");
-    EXPECT_THAT(machine.rows(Keyboards), ElementsAre("USB keyboard|Device 0"));
-    EXPECT_THAT(machine.rows(Pointers), ElementsAre("162|2|null|Device 1"));
-}
-
 TEST(InputDevices, PartsOfOneDeviceComeOnceAndMadeOnesNever)
 {
     const MadeMachine machine;

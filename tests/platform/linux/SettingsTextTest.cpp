@@ -101,15 +101,5 @@ TEST(SettingsText, ReadsBackWhatItWrites)
     }
 }
 
-TEST(SettingsText, SplitsAFullName)
-{
-    const auto name = split_setting_name("HKEY_CURRENT_USER\\Key\\ColorValue");
-    ASSERT_TRUE(name);
-    EXPECT_EQ(name->key, "HKEY_CURRENT_USER\\Key");
-    EXPECT_EQ(name->name, "ColorValue");
-    for (const char* bad : {"", "ColorValue", "\\ColorValue", "HKEY_CURRENT_USER\\"})
-        EXPECT_FALSE(split_setting_name(bad)) << bad;
-}
-
 } // namespace
 } // namespace ostrelum
