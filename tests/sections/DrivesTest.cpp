@@ -171,6 +171,10 @@ TEST_F(Drives, OpticalAreNotAskedAgainByAClickOnTheOpenPage)
     open(12, {volume("1024", {}, "Now")});
     EXPECT_EQ(shown(1), "Name: Now") << "without a name the next click asks anew";
     EXPECT_FALSE(F1.Line2.Visible);
+    has["Win32_CDROMDrive"].clear();
+    open_anew(12, {volume("1024", {}, "Now")});
+    open(12, {volume("1024", {}, "Other")});
+    EXPECT_EQ(shown(1), "Name: Other") << "without a drive's name too";
 }
 
 } // namespace
