@@ -9,6 +9,7 @@
 #include "platform/linux/Facts.h"
 #include "platform/linux/LinuxManagementService.h"
 #include "platform/linux/MachineShell.h"
+#include "platform/linux/MaskedService.h"
 #include "report/Report.h"
 
 namespace ostrelum {
@@ -32,6 +33,15 @@ Environment environment_of(const Options& options, const Sysroot& files)
     return environment;
 }
 
+/// As the program is told of it.
+Environment shown_environment(const Options& options, const Sysroot& files)
+{
+    Environment environment = environment_of(options, files);
+    if (options.mask)
+        environment[UserName] = Hidden;
+    return environment;
+}
+
 } // namespace
 
 std::string with_lf(std::string text)
@@ -40,13 +50,22 @@ std::string with_lf(std::string text)
     return text;
 }
 
+std::unique_ptr<ManagementService> service_of(const Options& options, const Sysroot& files)
+{
+    auto service = make_linux_management_service(files, SessionFactsSource());
+    if (!options.mask)
+        return service;
+    LinuxMachine machine(files, environment_of(options, files));
+    return std::make_unique<MaskedService>(std::move(service), machine.Environ(UserName));
+}
+
 ConsoleMachine::ConsoleMachine(const Options& options)
     : ConsoleMachine(options, Sysroot(options.sysroot))
 {
 }
 
 ConsoleMachine::ConsoleMachine(const Options& options, const Sysroot& files)
-    : system_(files, environment_of(options, files))
+    : system_(files, shown_environment(options, files))
 {
     store_.values[full_name(LanguageName)] = options.language;
     platform = {.toolkit = &toolkit_,
@@ -58,10 +77,7 @@ ConsoleMachine::ConsoleMachine(const Options& options, const Sysroot& files)
                 .clock = &system_.clock,
                 .regional = &system_.regional,
                 .machine = &system_.machine,
-                .GetObject =
-                    [files](const std::string&) {
-                        return make_linux_management_service(files, SessionFactsSource());
-                    },
+                .GetObject = [=](const std::string&) { return service_of(options, files); },
                 .CreateObject =
                     [this, files](const std::string&) {
                         return std::make_unique<MachineShell>(

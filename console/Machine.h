@@ -15,6 +15,10 @@ namespace ostrelum {
 /// A text with the line ends of a terminal.
 std::string with_lf(std::string text);
 
+/// The management service of the machine with these files; with stand-ins for what identifies, if
+/// the options say so.
+std::unique_ptr<ManagementService> service_of(const Options& options, const Sysroot& files);
+
 /// Number of the last section.
 inline constexpr int SectionCount = 13;
 

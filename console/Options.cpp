@@ -43,16 +43,21 @@ const char* const usage =
     "Options:\n"
     "  --sysroot DIR      a recorded machine instead of this one\n"
     "  --language NAME    English, Spanish or Dutch\n"
-    "  --user NAME        the account of the user page\n";
+    "  --user NAME        the account of the user page\n"
+    "  --mask             \"(hidden)\" for names of users, machines, networks, volumes\n"
+    "                     and folders and for serial numbers; before record, too\n";
 
 std::optional<Options> read_options(const std::vector<std::string>& arguments)
 {
     Options options;
     std::size_t at = 0;
     while (at < arguments.size() && arguments[at].starts_with("--")) {
-        if (at + 1 == arguments.size() || !take(options, arguments[at], arguments[at + 1]))
+        const bool mask = arguments[at] == "--mask";
+        options.mask = options.mask || mask;
+        const std::size_t next = at + (mask ? 1 : 2);
+        if (!mask && (next > arguments.size() || !take(options, arguments[at], arguments[at + 1])))
             return std::nullopt;
-        at += 2;
+        at = next;
     }
     options.command.assign(arguments.begin() + static_cast<std::ptrdiff_t>(at), arguments.end());
     if (options.command.empty())

@@ -14,6 +14,8 @@ struct Options {
     std::string language = "English";
     /// Account whose page is shown; nothing for the user's own.
     std::optional<std::string> user;
+    /// Hides what identifies a person, a machine or a part of it.
+    bool mask = false;
     /// The command and its arguments, at least one word.
     std::vector<std::string> command;
 };

@@ -1,29 +1,36 @@
 #include "console/Record.h"
 
 #include "console/Machine.h"
-#include "platform/linux/LinuxManagementService.h"
+#include "platform/linux/MaskedMachine.h"
 #include "platform/linux/Recorder.h"
 #include "sources/Schema.h"
 
 #include <memory>
+#include <string>
+#include <vector>
 
 namespace ostrelum {
 namespace {
 
 /// All that the program can ask: the pages and the report as they do, and of each class also the
-/// properties that only another page or tick selects.
-void ask_everything(const Options& options, const Sysroot& files)
+/// properties that only another page or tick selects. The accounts that are shown, the user's own
+/// first.
+std::vector<std::string> ask_everything(const Options& options, const Sysroot& files)
 {
     ConsoleMachine machine(options, files);
     for (int section = 1; section <= SectionCount; ++section)
         machine.page(section);
     machine.report("text");
-    const auto service = make_linux_management_service(files, SessionFactsSource());
+    const auto service = service_of(options, files);
     for (const ClassSchema& schema : class_schemas())
         service->ExecQuery("Select * from " + std::string(schema.name));
-    files.tell("env", "UserName=" + machine.user(), "");
     // The clock of a running machine is no file, but that of its recording is one.
     files.read("/proc/uptime");
+    std::vector<std::string> accounts{machine.user()};
+    files.tell("env", "UserName=" + accounts.front(), "");
+    for (const Instance& account : service->ExecQuery("Select Name from Win32_UserAccount"))
+        accounts.push_back(account["Name"].text());
+    return accounts;
 }
 
 } // namespace
@@ -33,8 +40,12 @@ void record_machine(const Options& options, const std::string& folder)
     check_unused(folder);
     const Sysroot files(options.sysroot);
     const auto recorder = std::make_shared<Recorder>(files);
-    ask_everything(options, Sysroot(files, recorder));
-    write_machine(recorder->machine(), folder);
+    // What is hidden is so in the recording: the machine itself is asked as it is.
+    Options open = options;
+    open.mask = false;
+    const auto accounts = ask_everything(open, Sysroot(files, recorder));
+    const RecordedMachine& machine = recorder->machine();
+    write_machine(options.mask ? masked_machine(machine, accounts) : machine, folder);
 }
 
 } // namespace ostrelum

@@ -2,7 +2,6 @@
 #include "console/Machine.h"
 #include "console/Options.h"
 #include "console/Record.h"
-#include "platform/linux/LinuxManagementService.h"
 #include "report/Report.h"
 #include "sources/Schema.h"
 
@@ -24,7 +23,7 @@ int run_query(const Options& options, const Arguments& arguments)
 {
     if (arguments.size() != 1)
         return WrongUsage;
-    const auto service = make_linux_management_service(options.sysroot, SessionFactsSource());
+    const auto service = service_of(options, Sysroot(options.sysroot));
     std::cout << as_json(service->ExecQuery(arguments[0])) << '\n';
     return Done;
 }

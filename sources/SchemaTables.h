@@ -11,6 +11,18 @@ enum class CimType { Boolean, UInt16, UInt32, UInt64, String, DateTime };
 /// Whether a property comes with every object, selected or not.
 enum class Key : bool { No, Yes };
 
+/// How a property tells whose machine it is: what has to be hidden before others may read it.
+enum class Identity {
+    /// It does not.
+    None,
+    /// It identifies a person, a machine, a network, a part or a volume.
+    Value,
+    /// It names an account; one must still be told from another.
+    Account,
+    /// A place, in which folders may be named after any of these.
+    Path,
+};
+
 struct PropertySchema {
     std::string_view name;
     CimType type;
@@ -18,6 +30,7 @@ struct PropertySchema {
     std::string_view unit;
     std::string_view meaning;
     Key key = Key::No;
+    Identity identity = Identity::None;
 };
 
 inline constexpr PropertySchema Win32_BaseBoard_properties[] = {
@@ -27,7 +40,8 @@ inline constexpr PropertySchema Win32_BaseBoard_properties[] = {
 
 inline constexpr PropertySchema Win32_Battery_properties[] = {
     {"DesignVoltage", CimType::UInt64, "mV", "Voltage"},
-    {"DeviceID", CimType::String, "", "Serial number, maker and name run together", Key::Yes},
+    {"DeviceID", CimType::String, "", "Serial number, maker and name run together", Key::Yes,
+     Identity::Value},
     {"EstimatedChargeRemaining", CimType::UInt16, "%", "Charge left"},
     {"EstimatedRunTime", CimType::UInt32, "min", "Time until empty"},
     {"Name", CimType::String, "", "The maker's name for the battery"},
@@ -37,7 +51,7 @@ inline constexpr PropertySchema Win32_BIOS_properties[] = {
     {"Manufacturer", CimType::String, "", "Maker of the firmware"},
     {"Name", CimType::String, "", "Version text of the firmware", Key::Yes},
     {"ReleaseDate", CimType::DateTime, "", "Day of the firmware's release"},
-    {"SerialNumber", CimType::String, "", "Serial number of the machine"},
+    {"SerialNumber", CimType::String, "", "Serial number of the machine", Key::No, Identity::Value},
     {"SMBIOSBIOSVersion", CimType::String, "", "Version text of the firmware"},
 };
 
@@ -49,7 +63,7 @@ inline constexpr PropertySchema Win32_CDROMDrive_properties[] = {
 
 inline constexpr PropertySchema Win32_ComputerSystem_properties[] = {
     {"AutomaticResetBootOption", CimType::Boolean, "", "The system starts again after a crash"},
-    {"Domain", CimType::String, "", "Domain, else workgroup"},
+    {"Domain", CimType::String, "", "Domain, else workgroup", Key::No, Identity::Value},
     {"Manufacturer", CimType::String, "", "Maker of the machine"},
     {"Model", CimType::String, "", "The maker's name for the machine"},
     {"SystemStartupDelay", CimType::UInt16, "s", "Wait of the start menu"},
@@ -73,21 +87,22 @@ inline constexpr PropertySchema Win32_Keyboard_properties[] = {
 };
 
 inline constexpr PropertySchema Win32_LogicalDisk_properties[] = {
-    {"Caption", CimType::String, "", "Where the volume is found"},
+    {"Caption", CimType::String, "", "Where the volume is found", Key::No, Identity::Path},
     {"DriveType", CimType::UInt32, "", "2 removable, 3 fixed, 4 network, 5 optical, 6 memory"},
     {"FileSystem", CimType::String, "", "Name of the file system"},
     {"FreeSpace", CimType::UInt64, "byte", "Space that the user may still fill"},
-    {"Name", CimType::String, "", "Where the volume is found"},
+    {"Name", CimType::String, "", "Where the volume is found", Key::No, Identity::Path},
     {"Size", CimType::UInt64, "byte", "Size of the volume"},
-    {"VolumeName", CimType::String, "", "The user's name for the volume"},
-    {"VolumeSerialNumber", CimType::String, "", "Eight hexadecimal digits"},
+    {"VolumeName", CimType::String, "", "The user's name for the volume", Key::No, Identity::Value},
+    {"VolumeSerialNumber", CimType::String, "", "Eight hexadecimal digits", Key::No,
+     Identity::Value},
 };
 
 inline constexpr PropertySchema Win32_NetworkLoginProfile_properties[] = {
     {"BadPasswordCount", CimType::UInt32, "", "Failed logons"},
-    {"Caption", CimType::String, "", "Name of the account"},
+    {"Caption", CimType::String, "", "Name of the account", Key::No, Identity::Account},
     {"LastLogon", CimType::DateTime, "", "Last logon"},
-    {"Name", CimType::String, "", "Name of the account", Key::Yes},
+    {"Name", CimType::String, "", "Name of the account", Key::Yes, Identity::Account},
     {"NumberOfLogons", CimType::UInt32, "", "Logons; 4294967295 not known"},
     {"Privileges", CimType::UInt32, "", "0 guest, 1 user, 2 administrator"},
 };
@@ -101,8 +116,8 @@ inline constexpr PropertySchema Win32_OperatingSystem_properties[] = {
     {"NumberOfProcesses", CimType::UInt32, "", "Running processes"},
     {"OSArchitecture", CimType::String, "", "Width of the system's words"},
     {"OSLanguage", CimType::UInt32, "", "LCID of the system's language"},
-    {"RegisteredUser", CimType::String, "", "Owner of the system"},
-    {"SerialNumber", CimType::String, "", "Identity of the installation"},
+    {"RegisteredUser", CimType::String, "", "Owner of the system", Key::No, Identity::Value},
+    {"SerialNumber", CimType::String, "", "Identity of the installation", Key::No, Identity::Value},
     {"ServicePackMajorVersion", CimType::UInt16, "", "Service pack, 0 for none"},
     {"TotalVirtualMemorySize", CimType::UInt64, "KB", "Memory with swap space"},
     {"Version", CimType::String, "", "Version of the kernel"},
@@ -142,9 +157,9 @@ inline constexpr PropertySchema Win32_SoundDevice_properties[] = {
 
 inline constexpr PropertySchema Win32_UserAccount_properties[] = {
     {"AccountType", CimType::UInt32, "", "512 an ordinary account"},
-    {"Caption", CimType::String, "", "Name of the account"},
-    {"Domain", CimType::String, "", "Domain, or the machine's name", Key::Yes},
-    {"Name", CimType::String, "", "Name of the account", Key::Yes},
+    {"Caption", CimType::String, "", "Name of the account", Key::No, Identity::Account},
+    {"Domain", CimType::String, "", "Domain, or the machine's name", Key::Yes, Identity::Value},
+    {"Name", CimType::String, "", "Name of the account", Key::Yes, Identity::Account},
     {"PasswordChangeable", CimType::Boolean, "", "The user may change the password"},
     {"PasswordExpires", CimType::Boolean, "", "The password has an end"},
 };

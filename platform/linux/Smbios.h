@@ -20,6 +20,10 @@ public:
 
     std::uint8_t type() const { return formatted_[0]; }
 
+    /// Its bytes, and those of the strings behind it with all that ends them.
+    Bytes formatted() const { return formatted_; }
+    Bytes strings() const { return strings_; }
+
     /// A field by its offset in the structure, as the standard numbers them. Nothing for one
     /// that ends behind the structure: older firmware has shorter ones.
     std::optional<std::uint8_t> byte(std::size_t offset) const;

@@ -1,6 +1,7 @@
 #include "platform/linux/VolumeFacts.h"
 
 #include "platform/linux/BlockDevices.h"
+#include "platform/linux/StandIns.h"
 #include "platform/linux/UdevDatabase.h"
 
 #include <algorithm>
@@ -74,8 +75,8 @@ std::optional<std::string> FileSystemFacts::serial(std::string_view mounted_as) 
     auto identity = udev("ID_FS_UUID");
     if (!identity)
         identity = link_name("/dev/disk/by-uuid");
-    if (!identity)
-        return std::nullopt;
+    if (!identity || is_stand_in(*identity))
+        return identity;
     return serial_of_identity(*identity, type(mounted_as).value_or(""));
 }
 

@@ -9,6 +9,7 @@
 #include "platform/linux/Mounts.h"
 #include "platform/linux/Owner.h"
 #include "platform/linux/Processes.h"
+#include "platform/linux/StandIns.h"
 
 #include <algorithm>
 #include <vector>
@@ -125,6 +126,8 @@ Value registered_user(const System& system)
 Value serial_number(const System& system)
 {
     const auto id = system.root().text("/etc/machine-id");
+    if (id && is_stand_in(*id))
+        return *id;
     return id ? value_of(installation_id(*id)) : Value();
 }
 

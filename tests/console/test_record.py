@@ -2,6 +2,7 @@
 
 import os
 import pathlib
+import re
 import shutil
 import stat
 import subprocess
@@ -11,9 +12,38 @@ import unittest
 from test_machines import CONSOLE, ENVIRONMENT, MACHINES, USERS, console
 
 # Rows of this machine that change from one second to the next.
-LIVE_ROWS = ("Usage time:", "Number of processes:", "Virtual memory in use:", "Memory in use:", "Available memory:",
-             "Current/Maximum speed:", "Processor speed:", "Speed:", "Space in use:", "Free space:", "Total free space:",
-             "Current voltage:", "Load percentage:", "Remaining usage time:", "Number of bad passwords", "Logon's number:")
+LIVE_ROWS = ("Usage time:", "Number of processes:", "Virtual memory in use:", "Memory in use:",
+             "Available memory:", "Current/Maximum speed:", "Processor speed:", "Speed:", "Space in use:",
+             "Free space:", "Total free space:", "Current voltage:", "Load percentage:", "Remaining usage time:",
+             "Number of bad passwords", "Logon's number:")
+
+
+# Keys under which udev's records, and properties under which queries, tell whose machine it is.
+UDEV_IDENTITY = re.compile(r"^E:(?:ID_SERIAL|ID_FS_UUID|ID_FS_LABEL|DM_NAME|\w+_SERIAL_NUMBER)\w*=(.+)$", re.MULTILINE)
+QUERY_IDENTITY = re.compile(r'"(?:SerialNumber|VolumeSerialNumber|VolumeName|RegisteredUser|Domain)": "(.+)"')
+# What else the recorded machines have of it: serial numbers of monitors, servers, who built the kernel, volumes.
+FURTHER = {"1AB2C3D4", "HCHW301122", "10.0.0.5", "buildd", "mockbuild", "nvme0n1p3_crypt", "4107", "EXAMPLE.TEST",
+           "CASA", "DATOS USB", "FOTOS", "Respaldo", "Casa y fotos", "c3d2e1f0-0a1b-4c2d-8e3f-405162738495"}
+# Words that are also said without meaning anybody.
+COMMON = {"boot", "EFI", "fedora", "scratch", "Windows", "WORKGROUP", "guest", "Not Specified", "uninitialized"}
+MASKED_ROWS = ("Name:", "Domain:", "Workgroup:", "Serial number:", "Registered by:", "Drive letter:", "Start time:",
+               "Number of bad passwords entered:", "Logon's number:")
+
+
+def identities(root):
+    """The texts by which a recorded machine, its parts or its users can be recognised."""
+    def read(path):
+        return (root / path).read_text("utf-8") if (root / path).exists() else ""
+
+    found = set(FURTHER) | {read("etc/machine-id").strip(), read("proc/sys/kernel/hostname").strip()}
+    for path in root.glob("run/udev/data/*"):
+        found |= set(UDEV_IDENTITY.findall(path.read_text("utf-8")))
+    found |= set(QUERY_IDENTITY.findall("\n".join(text for text in shown(root).values())))
+    found |= {path.read_text("utf-8").strip() for path in root.rglob("product_serial")}
+    for line in read("etc/passwd").splitlines():
+        name, _, number, _, full_name = line.split(":")[:5]
+        found |= {name, full_name.partition(",")[0]} if 1000 <= int(number) < 60000 else set()
+    return {text for text in found if text and "filled" not in text.lower() and text != "0123456789"} - COMMON
 
 
 def classes(root):
@@ -63,6 +93,32 @@ class RecordingTest(unittest.TestCase):
         kinds = {stat.S_IFMT(path.lstat().st_mode) for path in recording.rglob("*")}
         self.assertLessEqual(kinds, {stat.S_IFREG, stat.S_IFDIR, stat.S_IFLNK})
         self.assertFalse((recording / "etc" / "shadow").exists())
+
+    def assertTellsNone(self, texts, identity, of):
+        for name, text in texts.items():
+            told = [word for word in identity
+                    if re.search(rb"(?<!\w)" + re.escape(word.encode()) + rb"(?!\w)", text, re.IGNORECASE)]
+            self.assertEqual(told, [], f"{of}, {name}")
+
+    def test_masked_tells_nobody(self):
+        for machine, user in USERS.items():
+            with self.subTest(machine=machine):
+                root = MACHINES / machine
+                identity = identities(root) | ({user} - {"root"})
+                recording = self.record(root, machine, "--user", user, "--mask")
+                held = content(recording)
+                self.assertTellsNone({name: name.encode() + b"\n" + (held[name] if isinstance(held[name], bytes) else
+                                                                     (held[name] or "").encode())
+                                      for name in held}, identity, "recording")
+                of_recording, of_machine = shown(recording), shown(root, "--user", user, "--mask")
+                for texts in (of_recording, of_machine):
+                    self.assertTellsNone({name: text.encode() for name, text in texts.items()}, identity, "shown")
+                plain = console(root, "--user", user, "page", "all").splitlines()
+                for texts in (of_recording, of_machine):
+                    for before, after in zip(plain, texts["pages"].splitlines(), strict=True):
+                        if before != after:
+                            self.assertTrue(before.startswith(MASKED_ROWS), before)
+                            self.assertRegex(after, "hidden|Unknown")
 
     def test_is_written_whole_or_not_at_all(self):
         (self.folder / "used").mkdir()

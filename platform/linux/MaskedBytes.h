@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+/// Tables of firmware and monitors without their serial numbers, which keep their places and form.
+namespace ostrelum {
+
+/// The structures of the firmware, the machine, the board, processors and memory modules
+/// (DSP0134, Smbios.h), with the texts that name makers, models and sockets; all else is blotted
+/// out.
+std::string masked_firmware_table(const std::string& table);
+
+/// What a monitor tells (Edid.h) without its serial numbers, and without extensions of other
+/// standards than CTA-861; nothing for data that is none.
+std::string masked_edid(const std::string& edid);
+
+} // namespace ostrelum
