@@ -126,9 +126,10 @@ std::optional<std::uint64_t> number_of(const std::optional<std::string>& text)
 /// The slot of that number, if it is fitted.
 std::optional<MemoryDevice> published_slot(const UdevRecord& firmware, int number)
 {
-    const auto fact = [&](std::string_view name) {
-        return firmware.text("MEMORY_DEVICE_" + std::to_string(number) + "_" + std::string(name));
-    };
+    const std::string slot = "MEMORY_DEVICE_" + std::to_string(number) + "_";
+    if (!firmware.mentions(slot))
+        return std::nullopt;
+    const auto fact = [&](const char* name) { return firmware.text(slot + name); };
     const auto type = fact("TYPE");
     const auto form = fact("FORM_FACTOR");
     if ((!type && !form) || fact("PRESENT") == "0")

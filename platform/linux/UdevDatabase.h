@@ -22,6 +22,12 @@ public:
     /// "\x20" there for what other keys lose to an underscore.
     std::optional<std::string> text(std::string_view key) const;
 
+    /// Whether a key of that beginning can be there: a quick no for most.
+    bool mentions(std::string_view beginning) const
+    {
+        return lines_.find(beginning) != lines_.npos;
+    }
+
 private:
     std::string lines_;
 };
