@@ -49,6 +49,7 @@ TEST(Battery, VoltageChargeAndTime)
          "null|BAT0|0|0"},
         {"charge by energy", "energy_now=29990000|energy_full=40000000|charge_now=1|charge_full=1",
          "null|BAT0|74|null"},
+        {"a full charge of nothing", "energy_now=5|energy_full=0", "null|BAT0|null|null"},
         {"time by what flows out, which some drivers give as negative",
          "status=Discharging|charge_now=1900000|current_now=-1200000", "null|BAT0|null|95"},
         {"time as the battery tells it",
