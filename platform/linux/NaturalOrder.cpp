@@ -1,6 +1,7 @@
 #include "platform/linux/NaturalOrder.h"
 
 #include <algorithm>
+#include <string>
 
 namespace ostrelum {
 namespace {
@@ -39,7 +40,7 @@ bool natural_less(std::string_view a, std::string_view b)
             continue;
         }
         if (a.front() != b.front())
-            return a.front() < b.front();
+            return std::char_traits<char>::lt(a.front(), b.front());
         a.remove_prefix(1);
         b.remove_prefix(1);
     }

@@ -1,5 +1,7 @@
 #include "platform/linux/Volumes.h"
 
+#include "platform/linux/NaturalOrder.h"
+
 #include <algorithm>
 #include <array>
 #include <map>
@@ -178,7 +180,8 @@ std::vector<Volume> volumes_of(const std::vector<Mount>& mounts)
         if (network || !shows_only_parts(mount))
             volumes.push_back({mount, network, way_leads_over_network(mount, mounts)});
     }
-    std::ranges::sort(volumes, {}, [](const Volume& volume) { return volume.mount.target; });
+    std::ranges::sort(volumes, natural_less,
+                      [](const Volume& volume) { return std::string_view(volume.mount.target); });
     return volumes;
 }
 

@@ -20,8 +20,8 @@ def copy_of(machine, folder):
                                         ignore=shutil.ignore_patterns("expected")))
 
 
-def run(*arguments, before=(), timeout=120, **options):
-    return subprocess.run([*before, CONSOLE, *arguments], capture_output=True, env=ENVIRONMENT, timeout=timeout, **options)
+def run(*arguments, before=(), program=CONSOLE):
+    return subprocess.run([*before, program, *arguments], capture_output=True, env=ENVIRONMENT, timeout=120, check=False)
 
 
 def text_of(*arguments, **options):

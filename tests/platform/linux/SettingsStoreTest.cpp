@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <csignal>
+#include <cstdlib>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -142,11 +143,12 @@ TEST(SettingsStore, KilledAtAnyMomentItIsTheOldOrTheNewOne)
     const SettingsStore store(folder.file("settings", "# first line\n"));
     const std::string values[2] = {std::string(60000, 'a'), std::string(90000, 'b')};
     store.write(language, values[0]);
-    for (int round = 0; round < 40; ++round) {
+    const int rounds = std::getenv("OSTRELUM_LONG") ? 2000 : 40;
+    for (int round = 0; round < rounds; ++round) {
         const pid_t child = ::fork();
         if (child == 0)
             rewrite_for_ever(store, values);
-        std::this_thread::sleep_for(std::chrono::microseconds(500 + 311 * round));
+        std::this_thread::sleep_for(std::chrono::microseconds(500 + 311 * (round % 40)));
         ::kill(child, SIGKILL);
         int status = 0;
         ASSERT_EQ(::waitpid(child, &status, 0), child);

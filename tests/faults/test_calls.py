@@ -1,0 +1,45 @@
+"""No call that fails ends the program: the console on a recorded machine and on this one."""
+
+import unittest
+from concurrent.futures import ThreadPoolExecutor
+
+import calls
+import machine
+
+PLACES = 60 if machine.LONG else 4
+TITLES = machine.titles_of("notebook")
+
+
+def pages(options, before):
+    text = machine.text_of(*options, "page", "all", before=before)
+    machine.pages_of(text, TITLES)
+
+
+@unittest.skipUnless(calls.can_trace(), "tracing is not permitted here")
+class CallsTest(unittest.TestCase):
+    def check(self, options, first_own):
+        def complaint(fault):
+            try:
+                pages(options, calls.tracer("/dev/null", *calls.failing(*fault)))
+            except AssertionError as error:
+                return f"{fault}: {error}"
+            return None
+
+        faults = calls.faults_of(lambda tracer: pages(options, tracer), first_own, PLACES)
+        self.assertGreater(len(faults), PLACES)
+        with ThreadPoolExecutor(2) as workers:
+            self.assertEqual([found for found in workers.map(complaint, faults) if found], [])
+
+    def test_on_a_recorded_machine(self):
+        root = str(machine.MACHINES / "notebook")
+        self.check(["--sysroot", root, "--user", "alma"], f'"{root}"')
+
+    def test_on_this_machine(self):
+        self.check([], 'AT_FDCWD, "/", O_RDONLY|O_CLOEXEC|O_PATH')
+
+    def test_without_threads(self):
+        pages([], calls.tracer("/dev/null", *calls.failing("clone3", "EAGAIN", 1, "+")))
+
+
+if __name__ == "__main__":
+    unittest.main()
