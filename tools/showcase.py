@@ -21,8 +21,6 @@ FONTS = """<?xml version="1.0"?>
 <fontconfig>
   <dir>/usr/share/fonts/truetype/liberation</dir>
   <cachedir>/var/cache/fontconfig</cachedir>
-  <alias binding="strong"><family>sans-serif</family><prefer><family>Liberation Sans</family></prefer></alias>
-  <alias binding="strong"><family>Sans Serif</family><prefer><family>Liberation Sans</family></prefer></alias>
   <include ignore_missing="yes">/etc/fonts/conf.d</include>
 </fontconfig>
 """

@@ -27,4 +27,11 @@ inline QPalette window_palette(Colour ground)
     return QPalette(QColor(240, 240, 240), qt_colour(ground));
 }
 
+/// The colours of a tick box: on a white ground the style's outline would hardly be seen.
+inline QPalette box_palette(QPalette palette)
+{
+    palette.setColor(QPalette::Window, QColor(165, 165, 165));
+    return palette;
+}
+
 } // namespace ostrelum

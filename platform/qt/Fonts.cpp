@@ -56,4 +56,9 @@ TextSize measure(const QString& text, const QFont& font)
     return {box.width(), box.height()};
 }
 
+int left_lean(const QString& text, const QFont& font)
+{
+    return text.isEmpty() ? 0 : std::max(0, -QFontMetrics(font).leftBearing(text.front()));
+}
+
 } // namespace ostrelum

@@ -15,4 +15,7 @@ QFont font_of(const FontSpec& spec);
 /// own width is counted in.
 TextSize measure(const QString& text, const QFont& font);
 
+/// Pixels that the ink of a text's first letter leans out of the text on the left, 0 or more.
+int left_lean(const QString& text, const QFont& font);
+
 } // namespace ostrelum

@@ -1,5 +1,6 @@
 #include "platform/qt/InputCarriers.h"
 
+#include "platform/qt/Colours.h"
 #include "platform/qt/Fonts.h"
 #include "platform/qt/Text.h"
 
@@ -76,6 +77,7 @@ CheckBoxCarrier::CheckBoxCarrier(CheckBox& box, const ControlEntry& entry, QWidg
                                  const Surroundings& around)
     : CarrierOf(box, entry, around), widget_(new QCheckBox(&parent))
 {
+    widget_->setPalette(box_palette(widget_->palette()));
     // Not the click: a screen reader ticks the box without one.
     QObject::connect(widget_, &QCheckBox::toggled, widget_, [this](bool ticked) {
         if (around_.gate.carrying())

@@ -38,7 +38,7 @@ bool LabelCarrier::press(int button)
 void LabelCarrier::apply()
 {
     apply_text();
-    place(*widget_);
+    place_text();
     if (changed(&Label::ForeColor))
         paint_text(*widget_, control_.ForeColor);
     if (changed(&Label::ToolTipText))
@@ -50,10 +50,23 @@ void LabelCarrier::apply()
     appear(*widget_);
 }
 
+/// A slanted letter may lean out of the text on the left, where the widget would cut it.
+void LabelCarrier::place_text()
+{
+    if (!changed(&Label::Left, &Label::Top, &Label::Width, &Label::Height, &Label::Caption,
+                 &Label::Font))
+        return;
+    const int lean =
+        sizes_itself() ? left_lean(qt_text(control_.Caption), font_of(control_.Font)) : 0;
+    widget_->setContentsMargins(lean, 0, 0, 0);
+    widget_->setGeometry(control_.Left - lean, control_.Top, control_.Width + lean,
+                         control_.Height);
+}
+
 void LabelCarrier::apply_text()
 {
-    const bool sizes_itself = control_.AutoSize && !control_.WordWrap;
-    if (sizes_itself && changed(&Label::Caption, &Label::Font, &Label::AutoSize, &Label::WordWrap))
+    if (sizes_itself() &&
+        changed(&Label::Caption, &Label::Font, &Label::AutoSize, &Label::WordWrap))
         fit(around_.toolkit, control_);
     if (changed(&Label::Font))
         widget_->setFont(font_of(control_.Font));

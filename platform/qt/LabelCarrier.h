@@ -25,6 +25,8 @@ public:
 private:
     void apply() override;
     void apply_text();
+    void place_text();
+    bool sizes_itself() const { return control_.AutoSize && !control_.WordWrap; }
 
     LabelWidget* widget_;
     MouseFeed* feed_;

@@ -6,6 +6,7 @@
 #include "platform/qt/Text.h"
 
 #include <QEventLoop>
+#include <QFontInfo>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QPointer>
@@ -22,6 +23,14 @@ void translate_toolkit(QApplication& application)
     auto* words = new QTranslator(&application);
     if (words->load(QLocale(), "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(words);
+}
+
+/// Where no desktop says which font menus and tooltips have, the system's first one may be a
+/// terminal's.
+void choose_font()
+{
+    if (QFontInfo(QApplication::font()).fixedPitch())
+        QApplication::setFont(font_of({.Name = "Tahoma", .Size = 9}));
 }
 
 /// Wayland knows no opacity of a window, and the toolkit would complain at each try.
@@ -45,6 +54,7 @@ QtToolkit::QtToolkit(int& argc, char** argv, const QtLook& look)
 {
     // The places of the controls are fixed, so their look is too.
     QApplication::setStyle(QStyleFactory::create("Fusion"));
+    choose_font();
     // The program decides when it ends, not the last window.
     QApplication::setQuitOnLastWindowClosed(false);
     QGuiApplication::setDesktopFileName(qt_text(look.desktop_entry));

@@ -87,16 +87,21 @@ TEST_F(CarryTest, LaterControlsLieOverEarlierOnes)
 
 TEST_F(CarryTest, ALabelIsAsWideAsItsInk)
 {
-    for (const char* text : {"Value f", "Wolff", "M/", "K"}) {
+    for (const char* text : {"Value f", "Wolff", "M/", "K", "A", "f"}) {
         form.Free.Font = {.Name = "Liberation Serif", .Size = 24, .Italic = true};
         form.Free.Caption = text;
         toolkit().Refresh(form);
+        constexpr int room = 20;
         QLabel roomy(text);
         roomy.setFont(font_of(form.Free.Font));
-        roomy.setFixedSize(form.Free.Width + 20, form.Free.Height);
-        const QImage beyond = roomy.grab(QRect(form.Free.Width, 0, 20, 99)).toImage();
-        for (int y = 0; y < form.Free.Height; ++y)
-            ASSERT_EQ(beyond.pixel(0, y), beyond.pixel(19, y)) << text << " at " << y;
+        roomy.setContentsMargins(room, 0, 0, 0);
+        roomy.setFixedSize(form.Free.Width + 2 * room, form.Free.Height);
+        const QImage shot = roomy.grab().toImage();
+        const int before = room - (form.Free.Left - widget("Free").x()) - 1;
+        for (int y = 0; y < form.Free.Height; ++y) {
+            ASSERT_EQ(shot.pixel(before, y), shot.pixel(0, y)) << text << " at " << y;
+            ASSERT_EQ(shot.pixel(room + form.Free.Width, y), shot.pixel(0, y)) << text;
+        }
     }
 }
 
