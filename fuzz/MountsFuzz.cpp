@@ -1,3 +1,4 @@
+#include "platform/linux/NaturalOrder.h"
 #include "platform/linux/Utf8.h"
 #include "platform/linux/Volumes.h"
 
@@ -21,7 +22,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const Volume& volume : volumes_of(mounts)) {
         const Mount& mount = volume.mount;
         const bool known = std::ranges::find(mounts, mount.source, &Mount::source) != mounts.end();
-        if (!known || mount.target <= last || volume.network != is_network_type(mount.type))
+        const bool in_order = natural_less(last, mount.target);
+        if (!known || !in_order || volume.network != is_network_type(mount.type))
             std::abort();
         last = mount.target;
     }
