@@ -25,6 +25,9 @@ std::array<std::string_view, Count> fields_of(std::string_view line)
 std::uint64_t defined(std::string_view definitions, std::string_view key, std::uint64_t fallback)
 {
     for (const std::string_view line : lines_of(definitions)) {
+        // Most lines of the file are comment.
+        if (line.find(key) == line.npos)
+            continue;
         const auto words = words_of(line);
         if (words.size() >= 2 && words[0] == key)
             return whole_number(words[1]).value_or(fallback);
