@@ -14,6 +14,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 #include <vector>
+#ifdef __SANITIZE_ADDRESS__
+#include <sanitizer/lsan_interface.h>
+#endif
 
 namespace ostrelum {
 
@@ -136,6 +139,10 @@ bool LinuxMachine::PrevInstance()
 
 void LinuxMachine::End()
 {
+#ifdef __SANITIZE_ADDRESS__
+    // What an ordinary end would check.
+    __lsan_do_leak_check();
+#endif
     std::_Exit(0);
 }
 

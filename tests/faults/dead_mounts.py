@@ -3,8 +3,8 @@
 
 Usage: unshare --mount dead_mounts.py FOLDER COMMAND [ARGUMENT...]
 
-Mounted in FOLDER: FAR and PORTAL, whose servers have stopped; DISKS, disks with a driver in user space that has stopped;
-AUTO, a place where a stopped daemon should mount something. Without root there are only the first two.
+Mounted in FOLDER: FAR and PORTAL, whose servers have stopped; DISKS, disks with a driver in user space that has
+stopped; AUTO, a place where a stopped daemon should mount something. Without root there are only the first two.
 """
 
 import ctypes
