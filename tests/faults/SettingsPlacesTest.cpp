@@ -40,8 +40,8 @@ int code_of(pid_t child)
 
 bool mounts_small_disk(const std::string& place)
 {
-    const bool apart = ::unshare(CLONE_NEWNS) == 0 || ::unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0;
-    return apart && ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+    return ::unshare(CLONE_NEWNS) == 0 &&
+           ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
            ::mount("small", place.c_str(), "tmpfs", 0, "size=64k") == 0;
 }
 
@@ -87,7 +87,7 @@ TEST(SettingsPlaces, AFailedWriteLeavesTheFileAsItWas)
         const int code =
             code_of(begin([&] { return write_where_it_cannot_be(folder / "", spoil); }));
         if (code == NoMounts)
-            GTEST_SKIP() << "no mounts of one's own are allowed here";
+            GTEST_SKIP() << "only root may mount here";
         EXPECT_EQ(code, 0) << what;
     }
 }
