@@ -7,21 +7,22 @@
 namespace ostrelum {
 namespace {
 
-QPixmap pointer_pixmap(const Picture& picture)
+/// On X11 a pointer's picture is taken pixel by pixel, and its hot spot with it.
+QCursor pointer_of(const Picture& picture, Point hot_spot)
 {
     const Bitmap& doubled = picture.doubled();
-    if (qGuiApp->devicePixelRatio() <= 1 || doubled.width == 0)
-        return pixmap_of(picture.bitmap());
+    if (qGuiApp->devicePixelRatio() < 2 || doubled.width == 0)
+        return QCursor(pixmap_of(picture.bitmap()), hot_spot.x, hot_spot.y);
     QPixmap pixmap = pixmap_of(doubled);
     pixmap.setDevicePixelRatio(2);
-    return pixmap;
+    const int scale = QGuiApplication::platformName() == u"xcb" ? 2 : 1;
+    return QCursor(pixmap, scale * hot_spot.x, scale * hot_spot.y);
 }
 
 } // namespace
 
 Pointers::Pointers(const Picture& hand, Point hot_spot)
-    : hand_(hand.empty() ? QCursor(Qt::PointingHandCursor)
-                         : QCursor(pointer_pixmap(hand), hot_spot.x, hot_spot.y))
+    : hand_(hand.empty() ? QCursor(Qt::PointingHandCursor) : pointer_of(hand, hot_spot))
 {
 }
 
