@@ -109,7 +109,6 @@ void check_unused(const std::string& folder)
 
 void write_machine(const RecordedMachine& machine, const std::string& folder)
 {
-    check_unused(folder);
     try {
         const PartFolder part(named(folder));
         write_content(machine, part);

@@ -93,6 +93,8 @@ class RecordingTest(unittest.TestCase):
         kinds = {stat.S_IFMT(path.lstat().st_mode) for path in recording.rglob("*")}
         self.assertLessEqual(kinds, {stat.S_IFREG, stat.S_IFDIR, stat.S_IFLNK})
         self.assertFalse((recording / "etc" / "shadow").exists())
+        # The clock of this machine is a system call; its recording's is a file.
+        self.assertGreater(float((recording / "proc" / "uptime").read_text().split()[0]), 0)
 
     def assertTellsNone(self, texts, identity, of):
         for name, text in texts.items():
