@@ -6,6 +6,7 @@ import signal
 import subprocess
 import tempfile
 import time
+import unittest
 from pathlib import Path
 
 PROGRAM = os.environ.get("OSTRELUM_PROGRAM", "build/bin/dervalin-ostrelum")
@@ -162,3 +163,9 @@ class Desktop:
 
     def __exit__(self, *unused):
         self.close()
+
+
+class WindowTest(unittest.TestCase):
+    def assertShows(self, desktop, text):
+        shown = wait_for(lambda: any(text in line for line in desktop.labels()), 10, 0.3)
+        self.assertTrue(shown, f"{text!r} is not among {desktop.labels()}")

@@ -6,7 +6,7 @@ import unittest
 from itertools import cycle
 from pathlib import Path
 
-from desktop import Desktop, wait_for
+from desktop import Desktop, WindowTest, wait_for
 from test_program import near, settings
 
 PICTURES = Path(__file__).resolve().parents[2] / "art/pictures"
@@ -24,11 +24,7 @@ def open_options(desktop, window, entry):
     desktop.call("xdotool", "key", *["Down"] * entry, "Return")
 
 
-class PanelTest(unittest.TestCase):
-    def assertShows(self, desktop, text):
-        shown = wait_for(lambda: any(text in line for line in desktop.labels()), 10, 0.3)
-        self.assertTrue(shown, f"{text!r} is not among {desktop.labels()}")
-
+class PanelTest(WindowTest):
     def test_the_keyboard_customises_and_enter_accepts(self):
         with Desktop() as desktop:
             program = desktop.start_program()

@@ -4,7 +4,7 @@ import subprocess
 import time
 import unittest
 
-from desktop import Desktop, wait_for
+from desktop import Desktop, WindowTest, wait_for
 
 KEY = "HKEY_CURRENT_USER\\Software\\Classes\\VirtualStore\\MACHINE\\SOFTWARE\\Dervalin\\Ostrelum"
 # A point of the white page with no control on it.
@@ -19,11 +19,7 @@ def near(colour, expected, tolerance=4):
     return all(abs(a - b) <= tolerance for a, b in zip(colour, expected))
 
 
-class ProgramTest(unittest.TestCase):
-    def assertShows(self, desktop, text):
-        shown = wait_for(lambda: any(text in line for line in desktop.labels()), 10, 0.3)
-        self.assertTrue(shown, f"{text!r} is not among {desktop.labels()}")
-
+class ProgramTest(WindowTest):
     def test_first_run_fades_in_and_out_and_ends_well(self):
         with Desktop() as desktop:
             program = desktop.start_program()
