@@ -15,8 +15,8 @@ enum class LastLink : bool { Follow, Keep };
 /// of it, and the kernel's magic links (such as /proc/self/cwd) lead nowhere. Nothing there: none.
 Descriptor resolve_in_root(int root, const std::string& path, LastLink last);
 
-/// The same without the kernel's help: for kernels before 5.6, and for sandboxes that refuse
-/// openat2.
+/// The same without the kernel's help: for kernels before 5.6, for sandboxes that refuse openat2,
+/// and for the moments in which the kernel puts off its answer.
 Descriptor resolve_by_hand(int root, const std::string& path, LastLink last);
 
 /// Opens for reading what the kernel makes up under /proc and /sys of the running system. There are

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <thread>
 
 namespace ostrelum {
 namespace {
@@ -49,6 +50,24 @@ TEST_P(SysrootTest, LetsNoLinkLeadOut)
     EXPECT_EQ(machine.link("/etc/name"), Text());
     EXPECT_EQ(machine.read("/loop"), Text());
     EXPECT_FALSE(machine.is_live());
+}
+
+TEST_P(SysrootTest, FindsFilesWhileOthersAreRenamed)
+{
+    folder_.file("root/etc/name", "inside");
+    folder_.file("one", "");
+    link("../etc/../etc/../etc/name", "etc/up");
+    const std::jthread renaming([&](const std::stop_token& stop) {
+        while (!stop.stop_requested()) {
+            std::filesystem::rename(folder_ / "one", folder_ / "other");
+            std::filesystem::rename(folder_ / "other", folder_ / "one");
+        }
+    });
+    const Sysroot machine = root();
+    int found = 0;
+    for (int turn = 0; turn < 10'000; ++turn)
+        found += machine.exists("/etc/up") ? 1 : 0;
+    EXPECT_EQ(found, 10'000);
 }
 
 TEST_P(SysrootTest, OpensNothingButRegularFiles)
