@@ -1,7 +1,8 @@
 #include "platform/linux/Edid.h"
 
+#include "platform/linux/CtaBlocks.h"
+#include "platform/linux/DisplayId.h"
 #include "platform/linux/Text.h"
-#include "platform/linux/VideoCodes.h"
 
 #include <algorithm>
 #include <array>
@@ -23,10 +24,6 @@ enum Descriptor : std::uint8_t {
     RangeLimits = 0xFD,
     FreeText = 0xFE,
 };
-
-/// What is slower or faster, in thousandths of a hertz, is no mode of a monitor.
-constexpr std::int64_t slowest_mHz = 1'000;
-constexpr std::int64_t fastest_mHz = 1'000'000;
 
 /// Rates of the established timings in hertz, from the highest bit of the first byte on.
 constexpr std::array<int, 17> established_rates = {70, 88, 60, 67, 72, 75, 56, 60, 72,
@@ -77,15 +74,12 @@ public:
 
     void read_extension(Bytes block)
     {
-        constexpr std::uint8_t cta_861 = 2;
-        constexpr std::size_t header = 4;
-        const std::size_t first = block[2];
-        if (block[0] != cta_861 || first < header || first >= block_size)
-            return;
-        read_data_blocks(block.subspan(header, first - header));
-        for (std::size_t offset = first; offset + descriptor_size < block_size;
-             offset += descriptor_size)
-            read_descriptor(block.subspan(offset, descriptor_size));
+        constexpr std::uint8_t cta_861 = 0x02;
+        constexpr std::uint8_t display_id = 0x70;
+        if (block[0] == cta_861)
+            read_cta(block);
+        else if (block[0] == display_id)
+            add(read_display_id(block.subspan(1, block_size - 2)));
     }
 
     Edid result() && { return std::move(edid_); }
@@ -108,28 +102,26 @@ private:
         }
     }
 
-    /// Each begins with its kind in three bits and its length in five.
-    void read_data_blocks(Bytes blocks)
+    void read_cta(Bytes block)
     {
-        constexpr unsigned video = 2;
-        while (!blocks.empty()) {
-            const Bytes rest = blocks.subspan(1);
-            const Bytes content = rest.first(std::min<std::size_t>(blocks[0] & 31U, rest.size()));
-            if (blocks[0] >> 5 == video)
-                read_video_codes(content);
-            blocks = rest.subspan(content.size());
-        }
+        constexpr std::size_t header = 4;
+        const std::size_t first = block[2];
+        if (first < header || first >= block_size)
+            return;
+        std::ranges::for_each(rates_of_data_blocks(block.subspan(header, first - header)),
+                              [this](int rate) { add_rate(rate); });
+        for (std::size_t offset = first; offset + descriptor_size < block_size;
+             offset += descriptor_size)
+            read_descriptor(block.subspan(offset, descriptor_size));
     }
 
-    void read_video_codes(Bytes codes)
+    /// The limits of the first block go before those of an extension.
+    void add(const DisplayId& more)
     {
-        for (const std::uint8_t byte : codes) {
-            // The low codes have room for a bit that says "native".
-            const bool native = byte > 128 && byte <= 192;
-            const auto rate = rate_of_video_code(native ? byte & 0x7F : byte);
-            if (rate)
-                add_rate(*rate);
-        }
+        if (!edid_.limits)
+            edid_.limits = more.limits;
+        std::ranges::for_each(more.detailed, [this](const EdidTiming& each) { add(each); });
+        std::ranges::for_each(more.rates, [this](int rate) { add_rate(rate); });
     }
 
     void read_descriptor(Bytes bytes)
@@ -152,9 +144,8 @@ private:
         const int beyond = revision_ >= first_with_offsets ? bytes[4] & 3 : 0;
         const bool both_beyond = beyond == 3;
         const bool highest_beyond = (beyond & 2) != 0;
-        const RefreshLimits limits = {bytes[5] + (both_beyond ? offset : 0),
-                                      bytes[6] + (highest_beyond ? offset : 0)};
-        if (limits.lowest > 0 && limits.lowest <= limits.highest)
+        if (const auto limits = limits_of(bytes[5] + (both_beyond ? offset : 0),
+                                          bytes[6] + (highest_beyond ? offset : 0)))
             edid_.limits = limits;
     }
 
@@ -168,14 +159,15 @@ private:
         const bool interlaced = (bytes[17] & 0x80) != 0;
         // The two half pictures of an interlaced mode share one more line.
         const std::int64_t halves = std::int64_t{columns} * (2 * lines + (interlaced ? 1 : 0));
-        if (width == 0 || height == 0)
-            return;
-        const std::int64_t rate = (2 * clock_mHz + halves / 2) / halves;
-        if (rate < slowest_mHz || rate > fastest_mHz)
-            return;
-        const int refresh = static_cast<int>(rate);
-        edid_.detailed.push_back({width, interlaced ? 2 * height : height, refresh});
-        add_rate((refresh + 500) / 1000);
+        if (const auto timing =
+                timing_of(width, interlaced ? 2 * height : height, clock_mHz, halves))
+            add(*timing);
+    }
+
+    void add(const EdidTiming& timing)
+    {
+        edid_.detailed.push_back(timing);
+        add_rate((timing.refresh_mHz + 500) / 1000);
     }
 
     void add_rate(int rate)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/linux/EdidTiming.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -7,25 +9,8 @@
 #include <vector>
 
 /// What a monitor tells of itself (VESA Enhanced EDID Standard, release A, revision 2, with the
-/// extension block of CTA-861).
+/// extension blocks of CTA-861 and of DisplayID).
 namespace ostrelum {
-
-/// A mode that the monitor describes in full.
-struct EdidTiming {
-    /// Pixels.
-    int width = 0;
-    int height = 0;
-    /// Thousandths of a hertz; of an interlaced mode, half pictures.
-    int refresh_mHz = 0;
-    bool operator==(const EdidTiming&) const = default;
-};
-
-/// Refresh rates in hertz.
-struct RefreshLimits {
-    int lowest = 0;
-    int highest = 0;
-    bool operator==(const RefreshLimits&) const = default;
-};
 
 struct Edid {
     /// Three letters that UEFI's PNP registry gives to makers, such as "SAM"; empty if they are

@@ -106,12 +106,68 @@ TEST(Edid, TakesTheCodesOfVideoModesIntoTheExtremes)
              Case{"\x23\x20\x34\x3F\x42\xC7\x20", RefreshLimits{24, 60}}, // behind sound: 199, 32
              Case{"\x42\xC0\x13", RefreshLimits{50, 100}},                // 64 (native), 19
              Case{"\x42\x80\xFF", std::nullopt},
-             Case{"\x5F\x10", RefreshLimits{60, 60}}, // longer than its room
+             Case{"\x5F\x10", RefreshLimits{60, 60}},     // longer than its room
+             Case{"\xE2\x0E\x60", RefreshLimits{50, 50}}, // reduced colour: 96
+             Case{std::string("\x6C\x03\x0C\0\0\0\0\0\x20\0\x40\x01\x03", 13),
+                  RefreshLimits{24, 30}},
+             Case{std::string("\x6F\x03\x0C\0\0\0\0\0\xE0\1\1\1\1\0\x20\x02", 16),
+                  RefreshLimits{25, 25}},
+             Case{std::string("\x6A\x03\x0C\0\0\0\0\0\0\0\x40\x01", 11), std::nullopt}, // no video
          }) {
         std::string block = cta_block(4 + static_cast<unsigned>(each.blocks.size()), "");
         block.replace(4, each.blocks.size(), each.blocks);
         EXPECT_EQ(read_edid(monitor("", 1) + summed(block))->rates_of_modes, each.rates);
     }
+}
+
+/// A data block of DisplayID.
+std::string data_block(unsigned char kind, const std::string& content, char revision = 0)
+{
+    return std::string{static_cast<char>(kind), revision, static_cast<char>(content.size())} +
+           content;
+}
+
+TEST(Edid, TakesDisplayIdsModesAndLimitsToo)
+{
+    // 684420 units of the clock over 2560 + 160 columns and 1440 + 85 lines.
+    const std::string fast("\x83\x71\x0A\x80\xFF\x09\x9F\0\0\0\0\0\x9F\x05\x54\0\0\0\0\0", 20);
+    const std::string limits("\0\0\0\0\0\0\x30\x2C\x81", 9);
+    const std::string older_limits("\0\0\0\0\0\0\0\0\0\0\x30\x4B\0\0\0", 15);
+    const std::string formula("\0\xFF\x09\x9F\x05\xC7", 6);
+    std::string interlaced = fast;
+    interlaced[3] = 0x10;
+    const EdidTiming slow = {1900, 1200, 61847};
+    const EdidTiming quick = {2560, 1440, 165000};
+    struct Case {
+        std::string blocks;
+        std::vector<EdidTiming> detailed;
+        int highest;
+        std::optional<RefreshLimits> limits;
+    };
+    for (const Case& each : {
+             Case{data_block(0x22, fast), {slow, quick}, 165, {}},
+             Case{data_block(0x03, fast.substr(0, 18)), {slow}, 62, {}},
+             Case{data_block(0x22, interlaced + fast), {slow, quick}, 165, {}},
+             Case{data_block(0x24, formula), {slow}, 200, {}},
+             Case{data_block(0x81, "\x41\x3F"), {slow}, 120, {}},
+             Case{data_block(0x25, limits, 1) + data_block(0x22, fast),
+                  {slow, quick},
+                  165,
+                  {{48, 300}}},
+             Case{data_block(0x25, limits), {slow}, 62, {}},
+             Case{data_block(0x09, older_limits), {slow}, 62, {{48, 75}}},
+             Case{data_block(0x25, limits.substr(1), 1), {slow}, 62, {}},
+             Case{data_block(0x22, fast).substr(0, 20), {slow}, 62, {}},
+         }) {
+        const auto edid =
+            read_edid(monitor(mode(15400, 1900, 1200, 45), 1) + display_id(each.blocks));
+        EXPECT_EQ(edid->detailed, each.detailed);
+        EXPECT_EQ(edid->rates_of_modes->highest, each.highest);
+        EXPECT_EQ(edid->limits, each.limits);
+    }
+    const auto both = read_edid(monitor(descriptor(0xFD, "\x28\x90"), 1) +
+                                display_id(data_block(0x25, limits, 1)));
+    EXPECT_EQ(both->limits, (RefreshLimits{40, 144})) << "the first block's own";
 }
 
 TEST(Edid, RefusesWhatIsNoMonitorsData)

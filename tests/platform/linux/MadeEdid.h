@@ -58,4 +58,18 @@ inline std::string mode(unsigned clock, unsigned width, unsigned height, unsigne
     return bytes;
 }
 
+/// An extension of DisplayID with these data blocks.
+inline std::string display_id(const std::string& blocks, char version = 0x20)
+{
+    std::string block(128, '\0');
+    block[0] = 0x70;
+    block[1] = version;
+    block[2] = static_cast<char>(blocks.size());
+    block[3] = 3;
+    block.replace(5, blocks.size(), blocks);
+    // The section has a sum of its own, behind the last block.
+    block[126] = '\0';
+    return summed(block);
+}
+
 } // namespace ostrelum

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace ostrelum {
+
+/// Hertz of the modes, half pictures where they are interlaced, that a collection of data blocks
+/// names by their codes (CTA-861-I, section 7.4; HDMI 1.4b, section 8.3.2). A block that is longer
+/// than its room ends there.
+std::vector<int> rates_of_data_blocks(std::span<const std::uint8_t> blocks);
+
+} // namespace ostrelum

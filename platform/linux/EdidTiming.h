@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+namespace ostrelum {
+
+/// A mode that the monitor describes in full.
+struct EdidTiming {
+    /// Pixels.
+    int width = 0;
+    int height = 0;
+    /// Thousandths of a hertz; of an interlaced mode, half pictures.
+    int refresh_mHz = 0;
+    bool operator==(const EdidTiming&) const = default;
+};
+
+/// Refresh rates in hertz.
+struct RefreshLimits {
+    int lowest = 0;
+    int highest = 0;
+    bool operator==(const RefreshLimits&) const = default;
+};
+
+/// The mode of a size in pixels, of a pixel clock in thousandths of a hertz, and of as many clocks
+/// in two pictures; nothing for one of no size, or slower than one picture or faster than a
+/// thousand in a second, which no monitor has.
+std::optional<EdidTiming> timing_of(int width, int height, std::int64_t clock_mHz,
+                                    std::int64_t clocks_of_two);
+
+/// Limits as a monitor tells them; nothing without a lowest one and where the highest is below it.
+std::optional<RefreshLimits> limits_of(int lowest, int highest);
+
+} // namespace ostrelum
