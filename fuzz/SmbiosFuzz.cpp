@@ -1,13 +1,21 @@
+#include "platform/linux/MaskedBytes.h"
 #include "platform/linux/Smbios.h"
 
 #include <cstdlib>
 
-/// Any bytes as a firmware table: every field of every structure can be asked for.
+/// Any bytes as a firmware table: every field of every structure can be asked for, and masking
+/// keeps the structures.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    for (const ostrelum::SmbiosStructure& structure : ostrelum::smbios_structures({data, size})) {
+    const auto structures = ostrelum::smbios_structures({data, size});
+    const std::string masked = ostrelum::masked_firmware_table(std::string(data, data + size));
+    const ostrelum::Bytes bytes(reinterpret_cast<const std::uint8_t*>(masked.data()),
+                                masked.size());
+    if (ostrelum::smbios_structures(bytes).size() != structures.size())
+        std::abort();
+    for (const ostrelum::SmbiosStructure& structure : structures) {
         for (std::size_t offset = 0; offset <= 256; ++offset) {
             structure.word(offset);
             structure.dword(offset);

@@ -58,21 +58,21 @@ std::optional<RefreshLimits> dynamic_limits(Bytes content, unsigned revision)
     return limits_of(content[6], content[7] + more);
 }
 
-void read_block(std::uint8_t kind, unsigned revision, Bytes content, DisplayId& found)
+void read_block(const DisplayIdBlock& block, DisplayId& found)
 {
     constexpr std::int64_t kHz = 1'000'000;
     constexpr std::size_t range_limits = 15;
-    switch (kind) {
-    case DetailedTimings: return read_detailed(content, 10 * kHz, found);
-    case DetailedTimingsV2: return read_detailed(content, kHz, found);
-    case FormulaTimings: return read_formula(content, found);
-    case DynamicRangeLimits: found.limits = dynamic_limits(content, revision); return;
+    switch (block.kind) {
+    case DetailedTimings: return read_detailed(block.content, 10 * kHz, found);
+    case DetailedTimingsV2: return read_detailed(block.content, kHz, found);
+    case FormulaTimings: return read_formula(block.content, found);
+    case DynamicRangeLimits: found.limits = dynamic_limits(block.content, block.revision); return;
     case RangeLimits:
-        if (content.size() >= range_limits)
-            found.limits = limits_of(content[10], content[11]);
+        if (block.content.size() >= range_limits)
+            found.limits = limits_of(block.content[10], block.content[11]);
         return;
     case CtaDataBlocks:
-        for (const int rate : rates_of_data_blocks(content))
+        for (const int rate : rates_of_data_blocks(block.content))
             found.rates.push_back(rate);
         return;
     default: return;
@@ -81,11 +81,18 @@ void read_block(std::uint8_t kind, unsigned revision, Bytes content, DisplayId& 
 
 } // namespace
 
-DisplayId read_display_id(Bytes section)
+bool DisplayIdBlock::tells_refresh() const
+{
+    constexpr std::uint8_t told[] = {DetailedTimings, RangeLimits,        DetailedTimingsV2,
+                                     FormulaTimings,  DynamicRangeLimits, CtaDataBlocks};
+    return std::ranges::find(told, kind) != std::end(told);
+}
+
+std::vector<DisplayIdBlock> display_id_blocks(Bytes section)
 {
     constexpr std::size_t section_header = 4;
     constexpr std::size_t block_header = 3;
-    DisplayId found;
+    std::vector<DisplayIdBlock> found;
     if (section.size() < section_header)
         return found;
     Bytes blocks = section.subspan(section_header);
@@ -94,10 +101,17 @@ DisplayId read_display_id(Bytes section)
         const Bytes rest = blocks.subspan(block_header);
         if (blocks[2] > rest.size())
             break;
-        const unsigned revision = blocks[1] & 7U;
-        read_block(blocks[0], revision, rest.first(blocks[2]), found);
+        found.push_back({blocks[0], blocks[1] & 7U, rest.first(blocks[2])});
         blocks = rest.subspan(blocks[2]);
     }
+    return found;
+}
+
+DisplayId read_display_id(Bytes section)
+{
+    DisplayId found;
+    for (const DisplayIdBlock& block : display_id_blocks(section))
+        read_block(block, found);
     return found;
 }
 

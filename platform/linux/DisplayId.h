@@ -9,6 +9,20 @@
 
 namespace ostrelum {
 
+/// A piece of a section of DisplayID.
+struct DisplayIdBlock {
+    std::uint8_t kind = 0;
+    unsigned revision = 0;
+    std::span<const std::uint8_t> content;
+
+    /// Whether read_display_id has a use for it.
+    bool tells_refresh() const;
+};
+
+/// The pieces of a section, which begins with its version. One that is longer than its room ends
+/// the walk.
+std::vector<DisplayIdBlock> display_id_blocks(std::span<const std::uint8_t> section);
+
 /// What a section of DisplayID tells of refresh rates (VESA DisplayID 1.3 and 2.1): the modes of
 /// fast built-in panels often stand there alone.
 struct DisplayId {
@@ -18,8 +32,7 @@ struct DisplayId {
     std::vector<int> rates;
 };
 
-/// Reads the section from its version on. A data block that is longer than its room ends the walk;
-/// interlaced modes are passed over.
+/// Interlaced modes are passed over.
 DisplayId read_display_id(std::span<const std::uint8_t> section);
 
 } // namespace ostrelum

@@ -1,5 +1,6 @@
 #include "platform/linux/MaskedBytes.h"
 
+#include "platform/linux/DisplayId.h"
 #include "platform/linux/Edid.h"
 #include "platform/linux/Smbios.h"
 
@@ -72,6 +73,13 @@ bool sum_is_right(const std::string& block)
     return std::accumulate(block.begin(), block.end(), 0) % 256 == 0;
 }
 
+std::string summed(std::string block)
+{
+    block.back() = 0;
+    block.back() = static_cast<char>(-std::accumulate(block.begin(), block.end(), 0));
+    return block;
+}
+
 std::string masked_block(std::string block, std::size_t first_descriptor)
 {
     constexpr std::string_view serial("\0\0\0\xFF", 4);
@@ -80,18 +88,32 @@ std::string masked_block(std::string block, std::size_t first_descriptor)
         if (block.compare(at, serial.size(), serial) == 0)
             block.replace(at + 5, descriptor_size - 5, descriptor_size - 5, ' ');
     }
-    block.back() = 0;
-    block.back() = static_cast<char>(-std::accumulate(block.begin(), block.end(), 0));
-    return block;
+    return summed(std::move(block));
+}
+
+std::string masked_display_id(const std::string& block)
+{
+    constexpr std::size_t header = 5, block_header = 3;
+    const Bytes bytes(reinterpret_cast<const std::uint8_t*>(block.data()), block_size);
+    std::string masked = block.substr(0, header);
+    for (const DisplayIdBlock& each : display_id_blocks(bytes.subspan(1, block_size - 2))) {
+        masked.append(block, masked.size(), block_header);
+        masked += each.tells_refresh() ? std::string(each.content.begin(), each.content.end())
+                                       : std::string(each.content.size(), '\0');
+    }
+    masked.resize(block_size, '\0');
+    return summed(std::move(masked));
 }
 
 std::string masked_extension(const std::string& block)
 {
-    constexpr char cta_861 = 2;
+    constexpr char cta_861 = 0x02, display_id = 0x70;
     const std::size_t first = static_cast<std::uint8_t>(block[2]);
-    if (block[0] != cta_861 || !sum_is_right(block))
-        return std::string(block_size, '\0');
-    return masked_block(block, first == 0 ? block_size : first);
+    if (block[0] == cta_861 && sum_is_right(block))
+        return masked_block(block, first == 0 ? block_size : first);
+    if (block[0] == display_id && sum_is_right(block))
+        return masked_display_id(block);
+    return std::string(block_size, '\0');
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "platform/linux/MaskedTexts.h"
 #include "platform/linux/Smbios.h"
 #include "platform/linux/WholeFile.h"
+#include "tests/platform/linux/MadeEdid.h"
 
 #include <gtest/gtest.h>
 
@@ -84,12 +85,16 @@ TEST(Masked, BlotsOutSerialNumbersOfMonitors)
                         4096)
             .value();
     ASSERT_NE(edid.find("1AB2C3D4"), std::string::npos);
-    // An extension of another standard, which has room for a serial number too.
-    const std::string display_id = "\x70" + std::string(126, 'S') + "\x36"s;
-    const std::string masked = masked_edid(edid + display_id);
+    const std::string other_standard = summed(std::string(128, 'S'));
+    // Some piece with a serial number before one mode by formula, at 200 Hz.
+    const std::string more = display_id("\x29\0\4SSSS"s + "\x24\0\6\0\xFF\x09\x9F\x05\xC7"s);
+    const std::string masked = masked_edid(edid + other_standard + more);
     EXPECT_EQ(masked.find("1AB2C3D4"), std::string::npos);
     EXPECT_EQ(masked.find("SSSS"), std::string::npos);
     EXPECT_EQ(masked.substr(12, 4), "\0\0\0\0"s);
+    const std::size_t blocks = edid.size() / 128;
+    EXPECT_EQ(read_edid(monitor("", 1) + masked.substr((blocks + 1) * 128))->rates_of_modes,
+              (RefreshLimits{200, 200}));
     const auto before = read_edid(edid), after = read_edid(masked);
     ASSERT_TRUE(before && after);
     EXPECT_EQ(after->name, before->name);
