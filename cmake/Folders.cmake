@@ -31,11 +31,19 @@ function(ostrelum_folder name)
     ostrelum_headers_alone(${target} ${headers})
 endfunction()
 
-# One source that includes nothing but the header, for each header.
+# One source that includes nothing but the header, for each header that no source of the same name includes before
+# anything else.
 function(ostrelum_headers_alone target)
     set(alone)
     foreach(header ${ARGN})
         file(RELATIVE_PATH path ${CMAKE_SOURCE_DIR} ${header})
+        string(REGEX REPLACE "\\.h$" ".cpp" own ${header})
+        if(EXISTS ${own})
+            file(STRINGS ${own} first REGEX "^#include" LIMIT_COUNT 1)
+            if(first STREQUAL "#include \"${path}\"")
+                continue()
+            endif()
+        endif()
         string(REPLACE "/" "_" stem ${path})
         set(source ${CMAKE_BINARY_DIR}/headers/${stem}.cpp)
         if(NOT EXISTS ${source})
