@@ -1,4 +1,4 @@
-"""Recorded machines for the tests of faults: copies to break, and what the console shows of them."""
+"""Recorded machines and what the console shows of them, and copies of them to break."""
 
 import os
 import pathlib
@@ -8,6 +8,10 @@ import unicodedata
 
 CONSOLE = os.environ.get("OSTRELUM_CONSOLE", "build/bin/ostrelum-console")
 MACHINES = pathlib.Path(__file__).resolve().parent.parent / "machines"
+# Those with pages, and whose pages they are.
+USERS = {"notebook": "alma", "desktop": "ana", "armboard": "orla", "virtual": "root", "server": "oper",
+         "removable": "eva", "nothing": "nobody-here"}
+PAGES = range(1, 14)
 # The long run tries every case, the normal one a fixed part.
 LONG = os.environ.get("OSTRELUM_LONG") == "1"
 # Neutral regional forms, whatever the machine of the test has.
@@ -37,9 +41,18 @@ def text_of(*arguments, **options):
     return text
 
 
+def of(root, *arguments):
+    return text_of("--sysroot", str(root), *arguments)
+
+
+def expected_pages(machine, variant="."):
+    """The texts that were worked out by hand, by their number."""
+    folder = MACHINES / machine / "expected" / variant
+    return {n: (folder / f"page-{n}.txt").read_text("utf-8") for n in PAGES if (folder / f"page-{n}.txt").exists()}
+
+
 def titles_of(machine):
-    return [(MACHINES / machine / "expected" / f"page-{n}.txt").read_text("utf-8").partition("\n")[0]
-            for n in range(1, 14)]
+    return [page.partition("\n")[0] for page in expected_pages(machine).values()]
 
 
 def pages_of(text, titles):

@@ -9,8 +9,6 @@ from pathlib import Path
 
 import machine
 
-USERS = {"notebook": "alma", "desktop": "ana", "armboard": "orla", "virtual": "root", "server": "oper",
-         "removable": "eva"}
 # Files that the kernel and the system give to root alone (0400, btmp 0660).
 OF_ROOT = ("sys/firmware/dmi/tables/DMI", "sys/devices/virtual/dmi/id/product_serial", "var/log/btmp")
 # The rows that go with them, by page; everything else has another source.
@@ -60,7 +58,7 @@ class UserTest(unittest.TestCase):
         return machine.text_of(*arguments, before=before, program=self.console)
 
     def test_recorded_machines(self):
-        for name, user in USERS.items():
+        for name, user in machine.USERS.items():
             options = ["--user", user, "page", "all"]
             titles = machine.titles_of(name)
             of_root = rows_of(machine.text_of("--sysroot", str(machine.MACHINES / name), *options), titles)

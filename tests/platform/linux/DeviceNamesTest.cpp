@@ -42,17 +42,6 @@ TEST(DeviceNames, AMachineWithoutADatabaseHasNoneOfThisSystem)
     EXPECT_FALSE(usb_vendor(root, 0x046E));
 }
 
-TEST(DeviceNames, MonitorsWithLettersOfSomebodyElseAreTheirMakers)
-{
-    const TemporaryFolder machine;
-    const Sysroot root(machine / "");
-    machine.file("etc/udev/hwdb.bin", hardware_database("acpi:", "Registered"));
-    EXPECT_EQ(monitor_maker(root, "LGD", true), "Registered");
-    EXPECT_EQ(monitor_maker(root, "CSO", true), "CSOT");
-    EXPECT_EQ(monitor_maker(root, "SEC", true), "Samsung");
-    EXPECT_EQ(monitor_maker(root, "SEC", false), "Registered") << "a projector";
-}
-
 TEST(DeviceNames, TakesTheNameBetweenBrackets)
 {
     EXPECT_EQ(bracketed_name("GK208B [GeForce GT 730]"), "GeForce GT 730");

@@ -1,3 +1,5 @@
+#include "platform/linux/BuildDate.h"
+#include "platform/linux/CimDateTime.h"
 #include "platform/linux/ConfigText.h"
 #include "platform/linux/CpuInfo.h"
 #include "platform/linux/CpuPackages.h"
@@ -27,27 +29,38 @@ TEST(KernelVersion, SurvivesTheCutOfThePages)
         EXPECT_FALSE(kernel_version_text(none)) << none;
 }
 
-TEST(LocaleIds, KnowCountriesLanguagesAndNeutralLocales)
+TEST(CimDateTime, IsLocalTimeWithItsOffset)
 {
-    const struct {
-        const char* locale;
-        std::optional<std::uint32_t> id;
-    } cases[] = {{"es_AR.UTF-8", 11274},      {"nl_NL", 1043},      {"en_GB.UTF-8", 2057},
-                 {"C.UTF-8", 1033},           {"POSIX", 1033},      {"es_UY.UTF-8", 11274},
-                 {"sr_RS.UTF-8@latin", 9242}, {"de_DE@euro", 1031}, {"xx_XX", std::nullopt},
-                 {"", std::nullopt},          {"zz", std::nullopt}};
-    for (const auto& c : cases)
-        EXPECT_EQ(locale_id(c.locale), c.id) << c.locale;
+    const std::tuple<std::int64_t, int, std::optional<std::string>> cases[] = {
+        {0, 0, "19700101000000.000000+000"},  {1795383844, 60, "20261122224404.000000+060"},
+        {-1, 0, "19691231235959.000000+000"}, {253'402'300'799, 0, "99991231235959.000000+000"},
+        {253'402'300'800, 0, std::nullopt},   {INT64_MAX, 60, std::nullopt},
+        {INT64_MIN, -60, std::nullopt},       {0, 1000, std::nullopt},
+    };
+    for (const auto& [moment, utc_offset, expected] : cases)
+        EXPECT_EQ(cim_datetime(moment, utc_offset), expected) << moment;
 }
 
-std::string hex(std::span<const std::uint8_t> bytes)
+TEST(BuildDate, IsFoundInBuildLines)
 {
-    std::string text;
-    for (const std::uint8_t byte : bytes) {
-        text += "0123456789abcdef"[byte / 16];
-        text += "0123456789abcdef"[byte % 16];
-    }
-    return text;
+    using namespace std::chrono;
+    EXPECT_EQ(build_date("#45-Ubuntu SMP Fri Aug 30 12:02:04 UTC 2024"), 2024y / August / 30);
+    EXPECT_EQ(build_date("#1 SMP PREEMPT_DYNAMIC Debian 6.1.119-1 (2024-11-22)"),
+              2024y / November / 22);
+    EXPECT_EQ(build_date("#1 Wed May  1 07:11:28 PM CEST 2024"), 2024y / May / 1);
+    for (const char* none : {"#1 Thu Feb 30 07:11:28 UTC 2023", "#1 Thu Feb 28 07:11:28 UTC",
+                             "(2024-13-01) (2024/11/22) Jan", ""})
+        EXPECT_EQ(build_date(none), std::nullopt) << none;
+}
+
+TEST(LocaleIds, KnowCountriesLanguagesAndNeutralLocales)
+{
+    for (const auto& [locale, id] :
+         pairs("nl_NL=1043|en_GB.UTF-8=2057|C.UTF-8=1033|POSIX=1033|es_UY.UTF-8=11274|"
+               "sr_RS.UTF-8@latin=9242|de_DE@euro=1031"))
+        EXPECT_EQ(locale_id(locale), std::stoul(id)) << locale;
+    for (const char* none : {"xx_XX", "", "zz"})
+        EXPECT_FALSE(locale_id(none)) << none;
 }
 
 std::vector<std::uint8_t> bytes_of(std::string_view text)
@@ -55,17 +68,14 @@ std::vector<std::uint8_t> bytes_of(std::string_view text)
     return {text.begin(), text.end()};
 }
 
-/// FIPS 180-4's own examples and RFC 4231, test cases 1 and 2.
+/// The first bytes of FIPS 180-4's example of two blocks, and of RFC 4231's test case 2.
 TEST(Sha256, MatchesThePublishedVectors)
 {
-    EXPECT_EQ(hex(sha256(bytes_of("abc"))),
-              "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad");
-    EXPECT_EQ(hex(sha256(bytes_of("abcdbcdecdefdefgefghfghighijhijkijkljklmklmnlmnomnopnopq"))),
-              "248d6a61d20638b8e5c026930c3e6039a33ce45964ff2167f6ecedd419db06c1");
-    EXPECT_EQ(hex(hmac_sha256(std::vector<std::uint8_t>(20, 0x0b), bytes_of("Hi There"))),
-              "b0344c61d8db38535ca8afceaf0bf12b881dc200c9833da726e9376c2e32cff7");
-    EXPECT_EQ(hex(hmac_sha256(bytes_of("Jefe"), bytes_of("what do ya want for nothing?"))),
-              "5bdcc146bf60754e6a042426089575c75a003f089d2739839dec58b964ec3843");
+    const Digest digests[] = {
+        sha256(bytes_of("abcdbcdecdefdefgefghfghighijhijkijkljklmklmnlmnomnopnopq")),
+        hmac_sha256(bytes_of("Jefe"), bytes_of("what do ya want for nothing?"))};
+    EXPECT_TRUE(std::ranges::equal(std::span(digests[0]).first(4), bytes_of("\x24\x8D\x6A\x61")));
+    EXPECT_TRUE(std::ranges::equal(std::span(digests[1]).first(4), bytes_of("\x5B\xDC\xC1\x46")));
 }
 
 TEST(InstallationId, NeedsAMachineIdAndHidesIt)
@@ -118,10 +128,14 @@ TEST(CpuTexts, ListsClocksAndNames)
     EXPECT_EQ(megahertz_in_name("Intel(R) Core(TM) i5 CPU M 560 @ 2.67GHz"), 2670U);
     for (const char* none : {"AMD Ryzen", "x @ GHz", "GHz @ 2", "x @ 1e9GHz", "x @ -1GHz"})
         EXPECT_FALSE(megahertz_in_name(none)) << none;
-    const CpuInfo cpuinfo(
-        "processor\t: 0\ncpu MHz\t\t: 800.5\n\nprocessor\t: 1\ncpu MHz\t\t: 900\n\n");
+    const CpuInfo cpuinfo("processor\t: 0\ncpu MHz\t\t: 800.5\nbogomips: 1600\nflags: tsc\n\n"
+                          "processor\t: 1\ncpu MHz\t\t: 900\nflags: fpu constant_tsc\n\n"
+                          "processor\t: 2\nbogomips: 1600\nflags: constant_tsc\n\n");
     EXPECT_EQ(cpuinfo.of(1).megahertz(), 900);
     EXPECT_EQ(cpuinfo.of(7).megahertz(), 800.5) << "the first where there is no such number";
+    EXPECT_FALSE(cpuinfo.of(0).rated_megahertz()) << "the counter's clock changes";
+    EXPECT_FALSE(cpuinfo.of(1).rated_megahertz());
+    EXPECT_EQ(cpuinfo.of(2).rated_megahertz(), 800);
 }
 
 /// A firmware structure of type 17 with 34 formatted bytes, and its end of strings.
