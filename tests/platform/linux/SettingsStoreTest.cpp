@@ -5,6 +5,7 @@
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
+#include <functional>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -27,25 +28,26 @@ std::size_t entries(const fs::path& folder)
         std::distance(fs::directory_iterator(folder), fs::directory_iterator()));
 }
 
-/// No file can grow beyond a few bytes, as on a full disk.
-class FullDisk {
-public:
-    FullDisk() : handler_(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        ::getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit small{16, before_.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &small);
+/// A process of its own; it ends with 1 if something fails.
+pid_t begin(const std::function<void()>& body)
+{
+    const pid_t child = ::fork();
+    if (child != 0)
+        return child;
+    try {
+        body();
+    } catch (...) {
+        std::_Exit(1);
     }
-    ~FullDisk()
-    {
-        ::setrlimit(RLIMIT_FSIZE, &before_);
-        std::signal(SIGXFSZ, handler_);
-    }
+    std::_Exit(0);
+}
 
-private:
-    rlimit before_ = {};
-    void (*handler_)(int);
-};
+/// How a process ended; -1 while it runs, if that is not waited for.
+int status_of(pid_t child, int options = 0)
+{
+    int status = 0;
+    return ::waitpid(child, &status, options) == 0 ? -1 : status;
+}
 
 TEST(SettingsStore, KeepsValuesBetweenRuns)
 {
@@ -93,18 +95,25 @@ TEST(SettingsStore, AFailedWriteLeavesTheOldFile)
 {
     const TemporaryFolder folder;
     const SettingsStore store(folder.file("settings", "Language = Dutch\n"));
-    {
-        const FullDisk full;
-        EXPECT_THROW(store.write(language, "English"), Failure);
-    }
-    EXPECT_THROW(store.write("NoKey", 1U), Failure);
-    EXPECT_THROW(store.write(root + "a\n[b", 1U), Failure);
-    EXPECT_THROW(store.write(root + "a=b", 1U), Failure);
-    EXPECT_THROW(store.write(language, "\xFF"), Failure);
-    EXPECT_THROW(store.write(language, std::string(300000, 'x')), Failure);
-    EXPECT_EQ(store.read(language), RegValue("Dutch"));
-    EXPECT_EQ(content_of(folder / "settings"), "Language = Dutch\n");
+    const pid_t on_full_disk = begin([&] {
+        // No file can grow beyond a few bytes.
+        const rlimit small{16, 16};
+        ::setrlimit(RLIMIT_FSIZE, &small);
+        std::signal(SIGXFSZ, SIG_IGN);
+        store.write(language, "English");
+    });
+    EXPECT_EQ(WEXITSTATUS(status_of(on_full_disk)), 1);
+    const std::pair<std::string, RegValue> bad[] = {{"NoKey", 1U},
+                                                    {root + "a\n[b", 1U},
+                                                    {root + "a=b", 1U},
+                                                    {language, "\xFF"},
+                                                    {language, std::string(300000, 'x')}};
+    for (const auto& [name, value] : bad)
+        EXPECT_THROW(store.write(name, value), Failure) << name;
     EXPECT_EQ(entries(folder / ""), 1U);
+    fs::create_directory(folder / ".settings.part");
+    EXPECT_THROW(store.write(language, "English"), Failure) << "nothing can be written beside it";
+    EXPECT_EQ(content_of(folder / "settings"), "Language = Dutch\n");
 }
 
 TEST(SettingsStore, RefusesWhatIsNoSettingsFile)
@@ -125,18 +134,6 @@ TEST(SettingsStore, RefusesWhatIsNoSettingsFile)
     EXPECT_EQ(entries(folder / ""), 5U);
 }
 
-/// Writes two long values in turn until it is killed.
-[[noreturn]] void rewrite_for_ever(const SettingsStore& store, const std::string (&values)[2])
-{
-    for (unsigned i = 0;; ++i) {
-        try {
-            store.write(language, values[i % 2]);
-        } catch (...) {
-            std::_Exit(1);
-        }
-    }
-}
-
 TEST(SettingsStore, KilledAtAnyMomentItIsTheOldOrTheNewOne)
 {
     const TemporaryFolder folder;
@@ -145,20 +142,50 @@ TEST(SettingsStore, KilledAtAnyMomentItIsTheOldOrTheNewOne)
     store.write(language, values[0]);
     const int rounds = std::getenv("OSTRELUM_LONG") ? 2000 : 40;
     for (int round = 0; round < rounds; ++round) {
-        const pid_t child = ::fork();
-        if (child == 0)
-            rewrite_for_ever(store, values);
+        const pid_t child = begin([&] {
+            for (unsigned i = 0;; ++i)
+                store.write(language, values[i % 2]);
+        });
         std::this_thread::sleep_for(std::chrono::microseconds(500 + 311 * (round % 40)));
         ::kill(child, SIGKILL);
-        int status = 0;
-        ASSERT_EQ(::waitpid(child, &status, 0), child);
-        ASSERT_TRUE(WIFSIGNALED(status)) << "a write failed in round " << round;
+        ASSERT_TRUE(WIFSIGNALED(status_of(child))) << "a write failed in round " << round;
         const RegValue value = store.read(language);
         ASSERT_TRUE(value == RegValue(values[0]) || value == RegValue(values[1])) << round;
         ASSERT_TRUE(content_of(folder / "settings").starts_with("# first line\n"));
     }
     store.write(language, "Dutch");
     EXPECT_EQ(entries(folder / ""), 1U) << "a killed writer's remains are taken over";
+}
+
+TEST(SettingsStore, TwoProgramsThatWriteAtOnceLoseNothing)
+{
+    constexpr std::uint32_t last = 300;
+    const TemporaryFolder folder;
+    const SettingsStore store(folder.file("settings", "# by hand\n"));
+    // While the other program writes, a write fails and is done again.
+    const auto count_up = [&](const char* name) {
+        for (std::uint32_t value = 1; value <= last;) {
+            try {
+                store.write(root + name, value);
+                ++value;
+            } catch (const Failure&) {
+                std::this_thread::sleep_for(std::chrono::microseconds(50));
+            }
+        }
+    };
+    const char* const names[] = {"SCV", "ColorValue"};
+    const pid_t first = begin([&] { count_up(names[0]); });
+    const pid_t second = begin([&] { count_up(names[1]); });
+    int status = -1;
+    while ((status = status_of(first, WNOHANG)) == -1) {
+        const std::string content = content_of(folder / "settings");
+        EXPECT_TRUE(content.starts_with("# by hand\n") && content.ends_with("\n")) << "torn";
+    }
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(status_of(second), 0);
+    for (const char* name : names)
+        EXPECT_EQ(store.read(root + name), RegValue(last)) << name;
+    EXPECT_EQ(entries(folder / ""), 1U);
 }
 
 } // namespace
