@@ -18,7 +18,8 @@ class MachinesTest(unittest.TestCase):
         for name, user in USERS.items():
             expected = machine.expected_pages(name)
             self.assertEqual(list(expected), list(machine.PAGES), name)
-            shown = machine.pages_of(machine.of(MACHINES / name, "--user", user, "page", "all"), machine.titles_of(name))
+            text = machine.of(MACHINES / name, "--user", user, "page", "all")
+            shown = machine.pages_of(text, machine.titles_of(name))
             for n, page in expected.items():
                 with self.subTest(machine=name, page=n):
                     self.assertEqual(shown[n - 1], page.splitlines()[2:])

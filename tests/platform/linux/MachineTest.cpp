@@ -41,28 +41,6 @@ TEST(Machine, CountsTheButtonsOfPointers)
         EXPECT_EQ(mouse_buttons(devices), buttons) << (devices.empty() ? "" : devices.back().key);
 }
 
-TEST(Machine, ReadsARecordedMachine)
-{
-    const TemporaryFolder tree;
-    LinuxMachine machine(tree / "", {});
-    EXPECT_EQ(machine.GetOstrelum().dwNumberOfProcessors, 1U);
-    EXPECT_EQ(machine.GetSystemMetrics(SM_CMOUSEBUTTONS), 0);
-    tree.file("sys/devices/system/cpu/online", "0-3,6\n");
-    const auto add = [&](const std::string& device, const std::string& name, const char* keys) {
-        tree.file("sys/devices/" + device + "/capabilities/key", keys);
-        tree.file("sys/devices/" + device + "/capabilities/rel", "3\n");
-        fs::create_directories(tree / "sys/class/input");
-        fs::create_directory_symlink("../../devices/" + device, tree / ("sys/class/input/" + name));
-    };
-    add("platform/serio1/input/input2", "input2", "1f0000 0 0 0 0\n");
-    add("virtual/misc/uhid/1/input/input3", "input3", "3f0000 0 0 0 0\n");
-    add("virtual/input/input4", "input4", "ff0000 0 0 0 0\n");
-    add("platform/serio1/input/event9", "event9", "ff0000 0 0 0 0\n");
-    EXPECT_EQ(machine.GetOstrelum().dwNumberOfProcessors, 5U);
-    EXPECT_EQ(machine.GetSystemMetrics(SM_CMOUSEBUTTONS), 6);
-    EXPECT_EQ(machine.GetSystemMetrics(0), 0);
-}
-
 TEST(Machine, CountsAKernelList)
 {
     const std::pair<std::string_view, std::uint32_t> cases[] = {

@@ -12,36 +12,21 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A second process that holds the lock until it is killed.
-class Holder {
-public:
-    Holder(const Environment& environment, const std::string& shared)
-    {
-        int ready[2];
-        EXPECT_EQ(::pipe(ready), 0);
-        child_ = ::fork();
-        if (child_ == 0) {
-            SingleInstance instance(environment, shared);
-            const char other = instance.another_runs() ? 1 : 0;
-            if (::write(ready[1], &other, 1) == 1)
-                ::pause();
-            std::_Exit(1);
-        }
-        char other = 1;
-        EXPECT_EQ(::read(ready[0], &other, 1), 1);
-        EXPECT_EQ(other, 0) << "the lock was not free";
-        ::close(ready[0]);
-        ::close(ready[1]);
+/// A second process that has the lock and waits to be killed.
+pid_t started_holder(const Environment& environment, const std::string& shared)
+{
+    const pid_t child = ::fork();
+    if (child == 0) {
+        SingleInstance instance(environment, shared);
+        if (!instance.another_runs())
+            ::raise(SIGSTOP);
+        std::_Exit(1);
     }
-    ~Holder()
-    {
-        ::kill(child_, SIGKILL);
-        ::waitpid(child_, nullptr, 0);
-    }
-
-private:
-    pid_t child_ = -1;
-};
+    int status = 0;
+    ::waitpid(child, &status, WUNTRACED);
+    EXPECT_TRUE(WIFSTOPPED(status)) << "the lock was not free";
+    return child;
+}
 
 TEST(SingleInstance, TheSecondOneSeesTheFirstUntilItDies)
 {
@@ -52,11 +37,11 @@ TEST(SingleInstance, TheSecondOneSeesTheFirstUntilItDies)
          {Environment{{"XDG_RUNTIME_DIR", folder / "run"}}, Environment{},
           Environment{{"XDG_RUNTIME_DIR", folder / "missing"}}}) {
         SingleInstance instance(environment, folder / ".");
-        {
-            const Holder holder(environment, folder / ".");
-            EXPECT_TRUE(instance.another_runs());
-            EXPECT_TRUE(instance.another_runs());
-        }
+        const pid_t first = started_holder(environment, folder / ".");
+        EXPECT_TRUE(instance.another_runs());
+        EXPECT_TRUE(instance.another_runs());
+        ::kill(first, SIGKILL);
+        ::waitpid(first, nullptr, 0);
         EXPECT_FALSE(instance.another_runs());
         EXPECT_FALSE(instance.another_runs()) << "it sees itself";
         EXPECT_TRUE(SingleInstance(environment, folder / ".").another_runs());

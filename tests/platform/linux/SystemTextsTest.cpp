@@ -7,7 +7,6 @@
 #include "platform/linux/InstallationId.h"
 #include "platform/linux/KernelFacts.h"
 #include "platform/linux/LocaleIds.h"
-#include "platform/linux/MemoryDevices.h"
 #include "platform/linux/Processes.h"
 #include "platform/linux/Sha256.h"
 #include "platform/linux/VolumeFacts.h"
@@ -136,50 +135,6 @@ TEST(CpuTexts, ListsClocksAndNames)
     EXPECT_FALSE(cpuinfo.of(0).rated_megahertz()) << "the counter's clock changes";
     EXPECT_FALSE(cpuinfo.of(1).rated_megahertz());
     EXPECT_EQ(cpuinfo.of(2).rated_megahertz(), 800);
-}
-
-/// A firmware structure of type 17 with 34 formatted bytes, and its end of strings.
-std::vector<std::uint8_t> memory_slot(std::uint16_t size, std::uint32_t extended, std::uint8_t type)
-{
-    std::vector<std::uint8_t> slot(34, 0);
-    slot[0] = 17;
-    slot[1] = 34;
-    slot[0x08] = 72;
-    slot[0x0C] = static_cast<std::uint8_t>(size);
-    slot[0x0D] = static_cast<std::uint8_t>(size >> 8);
-    slot[0x0E] = 0x09;
-    slot[0x10] = 1;
-    slot[0x12] = type;
-    for (std::size_t i = 0; i < 4; ++i)
-        slot[0x1C + i] = static_cast<std::uint8_t>(extended >> (8 * i));
-    for (const char c : {'A', '1', '\0', '\0'})
-        slot.push_back(static_cast<std::uint8_t>(c));
-    return slot;
-}
-
-TEST(MemoryOfTheTable, ReadsEachFormOfSize)
-{
-    const struct {
-        std::uint16_t size;
-        std::uint32_t extended;
-        bool fitted;
-        std::optional<std::uint64_t> capacity;
-    } cases[] = {{0, 0, false, {}},
-                 {0xFFFF, 0, true, {}},
-                 {4096, 0, true, 4096ULL << 20},
-                 {0x8000 | 512, 0, true, 512ULL << 10},
-                 {0x7FFF, 65536, true, 65536ULL << 20},
-                 {0x7FFF, 0x80000000U | 1, true, 1ULL << 20}};
-    for (const auto& c : cases) {
-        const auto devices = memory_of_table(memory_slot(c.size, c.extended, 0x1A));
-        ASSERT_EQ(devices.size(), c.fitted ? 1U : 0U) << c.size;
-        if (c.fitted) {
-            EXPECT_EQ(devices[0], (MemoryDevice{c.capacity, 26, 8, 72, "A1"})) << c.size;
-        }
-    }
-    EXPECT_TRUE(memory_of_table(memory_slot(4, 0, 0x09)).empty())
-        << "a chip that holds the firmware";
-    EXPECT_EQ(memory_of_table(memory_slot(4, 0, 0x26))[0].type, 0x26) << "newer than the table";
 }
 
 TEST(VolumeSerials, AreEightDigitsOfTheIdentity)
