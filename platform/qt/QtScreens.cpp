@@ -1,5 +1,7 @@
 #include "platform/qt/QtBackEnd.h"
 
+#include "platform/qt/PointerHand.h"
+
 #include <QGuiApplication>
 #include <QScreen>
 
@@ -33,7 +35,7 @@ SessionFactsSource qt_session_facts()
         SessionFacts facts;
         for (const QScreen* screen : QGuiApplication::screens())
             facts.screens.push_back(fact_of(*screen));
-        // Which hand the mouse lies in is the desktop's secret: no window system tells it.
+        facts.left_handed = left_handed();
         return facts;
     };
 }
