@@ -25,8 +25,8 @@ Picture art_picture(std::string_view name)
         return found->second;
     const std::string file(name);
     Bitmap bitmap = art_bitmap(file);
-    const Picture picture =
-        bitmap.width == 0 ? Picture()
+    Picture picture = bitmap.width == 0
+                          ? Picture()
                           : Picture(std::move(bitmap), [file] { return art_bitmap(file + "@2x"); });
     read.emplace(name, picture);
     return picture;

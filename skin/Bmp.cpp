@@ -22,7 +22,7 @@ struct Header {
     std::uint32_t width;
     std::uint32_t height;
     std::uint32_t bytes_per_pixel;
-    std::size_t row_bytes() const { return (width * bytes_per_pixel + 3) / 4 * 4; }
+    std::size_t row_bytes() const { return (std::size_t{width} * bytes_per_pixel + 3) / 4 * 4; }
 };
 
 std::optional<Header> read_header(std::span<const std::uint8_t> file)

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 
 namespace ostrelum {
 namespace {
@@ -11,7 +12,7 @@ constexpr int Unchanged = 220 + 24;
 
 /// Pixels of a stretch whose shifts lie side by side: 16 of them are three whole vectors of 16
 /// bytes, so that a compiler shifts them without a loop over channels.
-constexpr std::size_t StretchBytes = 16 * 3;
+constexpr std::size_t StretchBytes = std::size_t{16} * 3;
 
 /// How each byte of a stretch is shifted. A level is held between `lowest` and `highest` first, so
 /// that adding `offset` to it cannot leave the byte: no step needs more than 8 bits.
@@ -74,7 +75,8 @@ void blend_pixels(Bitmap& dest, const Bitmap& source, std::uint8_t alpha)
         std::uint8_t* to = dest.row(y);
         const std::uint8_t* from_row = source.row(y * source.height / dest.height);
         for (int x = 0; x < dest.width; ++x) {
-            const std::uint8_t* from = from_row + 3 * (x * source.width / dest.width);
+            const std::uint8_t* from =
+                from_row + std::ptrdiff_t{3} * (x * source.width / dest.width);
             for (int channel = 0; channel < 3; ++channel, ++to) {
                 const int mixed = from[channel] * alpha + *to * (255 - alpha);
                 *to = static_cast<std::uint8_t>((mixed + 127) / 255);

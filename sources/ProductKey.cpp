@@ -19,9 +19,9 @@ constexpr std::size_t PackedOffset = 52;
 std::size_t divide(PackedKey& number)
 {
     std::size_t remainder = 0;
-    for (auto byte = number.rbegin(); byte != number.rend(); ++byte) {
-        const std::size_t value = remainder * 256 + *byte;
-        *byte = static_cast<std::uint8_t>(value / Digits.size());
+    for (std::size_t at = number.size(); at-- > 0;) {
+        const std::size_t value = remainder * 256 + number[at];
+        number[at] = static_cast<std::uint8_t>(value / Digits.size());
         remainder = value % Digits.size();
     }
     return remainder;

@@ -41,7 +41,7 @@ std::string device_of_source(const Sysroot& root, const std::string& source)
     if (!source.starts_with("/dev/"))
         return {};
     if (source.starts_with("/dev/mapper/")) {
-        const std::string name = mapped_device(root, last_part(source));
+        std::string name = mapped_device(root, last_part(source));
         if (!name.empty())
             return name;
     }

@@ -23,7 +23,7 @@ std::optional<std::string> CpuRecord::text(std::initializer_list<std::string_vie
 {
     for (const std::string_view label : labels) {
         const auto value = value_behind(paragraph_, label, ':');
-        if (const auto told = value ? text_or_none(*value) : std::nullopt)
+        if (auto told = value ? text_or_none(*value) : std::nullopt)
             return told;
     }
     return std::nullopt;

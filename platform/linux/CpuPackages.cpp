@@ -101,6 +101,7 @@ std::vector<CpuPackage> cpu_packages(const MachineView& machine)
     }
     const auto cpuinfo = std::make_shared<LateCpuInfo>(machine.root);
     std::vector<CpuPackage> packages;
+    packages.reserve(by_number.size());
     for (auto& [number, cpus] : by_number)
         packages.push_back({machine, packages.size(), std::move(cpus), cpuinfo});
     return packages;

@@ -27,7 +27,7 @@ Distribution::Distribution(const Sysroot& root) : root_(root)
 
 std::optional<std::string> Distribution::name() const
 {
-    if (const auto pretty = assigned(text_, "PRETTY_NAME"))
+    if (auto pretty = assigned(text_, "PRETTY_NAME"))
         return pretty;
     return assigned(text_, "NAME");
 }

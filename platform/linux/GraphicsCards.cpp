@@ -104,7 +104,7 @@ std::vector<Connector> connected(const Sysroot& root, const GraphicsCard& card)
 
 std::optional<Edid> edid_of(const Sysroot& root, const Connector& connector)
 {
-    constexpr std::size_t all_blocks = 256 * 128;
+    constexpr std::size_t all_blocks = std::size_t{256} * 128;
     const auto bytes = root.read(connector.folder() + "/edid", all_blocks);
     return bytes ? read_edid(*bytes) : std::nullopt;
 }

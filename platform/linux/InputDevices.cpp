@@ -44,6 +44,7 @@ public:
     ByCapability(const Sysroot& root, const std::vector<std::string>& names) : root_(root)
     {
         std::vector<InputDevice> devices;
+        devices.reserve(names.size());
         for (const std::string& name : names)
             devices.push_back(capabilities(root, std::string(class_folder) + name));
         word_bits_ = kernel_word_bits(devices);
@@ -118,7 +119,7 @@ std::optional<std::string> input_maker(const Sysroot& root, const InputNode& nod
     if (bus == BusI8042)
         return maker_in_ps2_name(root.text(node.folder + "/name").value_or(""));
     if (bus == BusUsb) {
-        if (const auto told = root.text(node.hardware + "/manufacturer"))
+        if (auto told = root.text(node.hardware + "/manufacturer"))
             return told;
     }
     if (bus != BusUsb && bus != BusI2c && bus != BusBluetooth)

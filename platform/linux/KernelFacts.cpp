@@ -11,7 +11,7 @@ namespace {
 std::string take_digits(std::string_view& text)
 {
     const auto end = std::min(text.find_first_not_of("0123456789"), text.size());
-    const std::string digits(text.substr(0, end));
+    std::string digits(text.substr(0, end));
     text.remove_prefix(end);
     return digits;
 }
@@ -62,9 +62,9 @@ std::optional<std::string> architecture_of_cpuinfo(const Sysroot& root)
 
 std::optional<std::string> kernel_architecture(const MachineView& machine)
 {
-    if (const auto kind = machine.root.text("/proc/sys/kernel/arch"))
+    if (auto kind = machine.root.text("/proc/sys/kernel/arch"))
         return kind;
-    if (const auto kind = machine.facts->processor_kind())
+    if (auto kind = machine.facts->processor_kind())
         return kind;
     return architecture_of_cpuinfo(machine.root);
 }

@@ -33,7 +33,7 @@ std::optional<std::string> Recorder::link_at(const std::string& place, const std
     if (known != machine_.places.end() && known->second.kind >= PlaceKind::Folder)
         return known->second.kind == PlaceKind::Link ? std::optional(known->second.content)
                                                      : std::nullopt;
-    const auto target = files_.link(place);
+    auto target = files_.link(place);
     if (target)
         keep(place, PlaceKind::Link, *target, asked);
     return target;

@@ -106,6 +106,7 @@ std::vector<Mount> visible(const std::vector<Mount>& mounts)
     for (const Mount& mount : mounts)
         last[mount.target] = &mount;
     std::vector<Mount> seen;
+    seen.reserve(last.size());
     for (const auto& [target, mount] : last)
         seen.push_back(*mount);
     return seen;

@@ -46,12 +46,12 @@ std::optional<std::string> card_maker(const SoundDevice& device)
     const Sysroot& root = device.machine.root;
     const UdevRecord udev(root, "+sound:" + device.card);
     for (const char* key : {"ID_VENDOR_FROM_DATABASE", "ID_VENDOR_ENC"}) {
-        if (const auto maker = udev.text(key))
+        if (auto maker = udev.text(key))
             return maker;
     }
     const std::string folder = std::string(class_folder) + device.card;
     // The sound card of a USB device is one of its interfaces.
-    if (const auto maker = root.text(folder + "/device/../manufacturer"))
+    if (auto maker = root.text(folder + "/device/../manufacturer"))
         return maker;
     std::string path = root.link(folder).value_or("");
     path.resize(std::min(path.rfind("/sound/"), path.size()));

@@ -52,7 +52,7 @@ public:
 
     std::optional<std::string> variable(std::string_view name) override
     {
-        const auto value = facts_->variable(name);
+        auto value = facts_->variable(name);
         if (value)
             witness_->told("env", std::string(name) + "=" + *value, "");
         return value;
@@ -87,7 +87,7 @@ public:
 
     std::optional<std::string> directory_account(std::uint64_t uid) override
     {
-        const auto line = facts_->directory_account(uid);
+        auto line = facts_->directory_account(uid);
         if (line)
             witness_->told("passwd", *line, "");
         return line;
