@@ -48,6 +48,18 @@ void read_formula(Bytes content, DisplayId& found)
         found.rates.push_back(content[5] + 1);
 }
 
+void keep(std::optional<RefreshLimits> limits, DisplayId& found)
+{
+    if (limits)
+        found.limits = limits;
+}
+
+std::optional<RefreshLimits> range_limits(Bytes content)
+{
+    constexpr std::size_t size = 15;
+    return content.size() < size ? std::nullopt : limits_of(content[10], content[11]);
+}
+
 /// The first revision of the block has two more bits of the highest rate.
 std::optional<RefreshLimits> dynamic_limits(Bytes content, unsigned revision)
 {
@@ -61,16 +73,12 @@ std::optional<RefreshLimits> dynamic_limits(Bytes content, unsigned revision)
 void read_block(const DisplayIdBlock& block, DisplayId& found)
 {
     constexpr std::int64_t kHz = 1'000'000;
-    constexpr std::size_t range_limits = 15;
     switch (block.kind) {
     case DetailedTimings: return read_detailed(block.content, 10 * kHz, found);
     case DetailedTimingsV2: return read_detailed(block.content, kHz, found);
     case FormulaTimings: return read_formula(block.content, found);
-    case DynamicRangeLimits: found.limits = dynamic_limits(block.content, block.revision); return;
-    case RangeLimits:
-        if (block.content.size() >= range_limits)
-            found.limits = limits_of(block.content[10], block.content[11]);
-        return;
+    case DynamicRangeLimits: return keep(dynamic_limits(block.content, block.revision), found);
+    case RangeLimits: return keep(range_limits(block.content), found);
     case CtaDataBlocks:
         for (const int rate : rates_of_data_blocks(block.content))
             found.rates.push_back(rate);
