@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <array>
 #include <gtest/gtest.h>
 #include <xcb/xinput.h>
 
@@ -44,13 +45,16 @@ public:
     /// As the driver does for each of its devices.
     void set_property(xcb_input_device_id_t device, std::uint8_t value)
     {
+        // The library sends whole words.
+        const std::array<std::uint8_t, 4> word{value};
         constexpr char name[] = "libinput Left Handed Enabled";
         auto* atom = xcb_intern_atom_reply(
             connection_, xcb_intern_atom(connection_, 0, sizeof name - 1, name), nullptr);
         std::free(xcb_input_xi_query_version_reply(
             connection_, xcb_input_xi_query_version(connection_, 2, 0), nullptr));
-        const auto done = xcb_input_xi_change_property_checked(
-            connection_, device, XCB_PROP_MODE_REPLACE, 8, atom->atom, XCB_ATOM_INTEGER, 1, &value);
+        const auto done =
+            xcb_input_xi_change_property_checked(connection_, device, XCB_PROP_MODE_REPLACE, 8,
+                                                 atom->atom, XCB_ATOM_INTEGER, 1, word.data());
         EXPECT_EQ(xcb_request_check(connection_, done), nullptr);
         std::free(atom);
     }
