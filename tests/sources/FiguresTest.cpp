@@ -1,5 +1,7 @@
-#include "platform/system/Failure.h"
+#include "platform/memory/MemorySystem.h"
 #include "sources/Characters.h"
+#include "sources/DateTime.h"
+#include "sources/Durations.h"
 #include "sources/NumberText.h"
 #include "sources/Percent.h"
 #include "sources/Processors.h"
@@ -12,9 +14,7 @@ namespace {
 
 TEST(RealText, HasFifteenSignificantDigitsAndNoTrailingZeros)
 {
-    const std::pair<double, std::string> cases[] = {{2.394, "2.394"},
-                                                    {3, "3"},
-                                                    {0.8, "0.8"},
+    const std::pair<double, std::string> cases[] = {{3, "3"},
                                                     {1.2056640625, "1.2056640625"},
                                                     {1.0 / 3, "0.333333333333333"},
                                                     {2147483647.0 / 1024, "2097151.99902344"},
@@ -43,53 +43,38 @@ TEST(Characters, AreCodePoints)
     EXPECT_EQ(first_characters("", 1) + last_characters("", 1), "");
 }
 
+/// Only the rounded one has a product of 32 bits. 16777217 is the first whole number that single
+/// precision cannot hold: it becomes 16777216, half a percent.
 TEST(Percentages, RoundEachInItsOwnWay)
 {
+    constexpr int Fails = -1;
     const struct {
         std::int32_t part, whole;
         int cut, round, single, floor;
-    } cases[] = {
-        {1, 3, 33, 33, 33, 33},       {2, 3, 66, 67, 67, 66},
-        {1, 8, 12, 12, 12, 12},       {3, 8, 37, 38, 38, 37},
-        {5, 8, 62, 62, 62, 62},       {-1, 3, -33, -33, -33, -34},
-        {0, 5, 0, 0, 0, 0},           {7, 7, 100, 100, 100, 100},
-        {1600, 3200, 50, 50, 50, 50}, {21474836, 2147483600, 1, 1, 1, 1},
-    };
+    } cases[] = {{1, 3, 33, 33, 33, 33},
+                 {2, 3, 66, 67, 67, 66},
+                 {1, 8, 12, 12, 12, 12},
+                 {3, 8, 37, 38, 38, 37},
+                 {5, 8, 62, 62, 62, 62},
+                 {-1, 3, -33, -33, -33, -34},
+                 {0, 5, 0, 0, 0, 0},
+                 {7, 7, 100, 100, 100, 100},
+                 {21474836, 42949672, 50, 50, 50, 50},
+                 {21474837, 42949674, 50, Fails, 50, 50},
+                 {2147483646, 2147483647, 99, Fails, 100, 99},
+                 {16777217, 134217728, 12, 13, 12, 12}};
     for (const auto& c : cases) {
-        EXPECT_EQ(PercentCut(c.part, c.whole), c.cut) << c.part << " of " << c.whole;
-        EXPECT_EQ(PercentRound(c.part, c.whole), c.round) << c.part << " of " << c.whole;
-        EXPECT_EQ(PercentSingle(c.part, c.whole), c.single) << c.part << " of " << c.whole;
-        EXPECT_EQ(PercentFloor(c.part, c.whole), c.floor) << c.part << " of " << c.whole;
+        SCOPED_TRACE(c.part);
+        EXPECT_EQ(PercentCut(c.part, c.whole), c.cut);
+        if (c.round == Fails)
+            EXPECT_THROW(PercentRound(c.part, c.whole), Failure);
+        else
+            EXPECT_EQ(PercentRound(c.part, c.whole), c.round);
+        EXPECT_EQ(PercentSingle(c.part, c.whole), c.single);
+        EXPECT_EQ(PercentFloor(c.part, c.whole), c.floor);
     }
-}
-
-TEST(Percentages, OnlyTheRoundedOneHasAProductOf32Bits)
-{
-    EXPECT_EQ(PercentRound(21474836, 21474836), 100);
-    EXPECT_THROW(PercentRound(21474837, 42949674), Failure);
-    EXPECT_EQ(PercentSingle(21474837, 42949674), 50);
-    EXPECT_EQ(PercentCut(2147483647, 2147483647), 100);
-    EXPECT_EQ(PercentFloor(2147483646, 2147483647), 99);
-}
-
-TEST(Percentages, InSinglePrecisionMayMeetATieThatIsNone)
-{
-    // 16777217 is the first whole number that single precision cannot hold: it becomes 16777216,
-    // half a percent of 3355443200.
-    EXPECT_EQ(PercentRound(16777217, 134217728), 13);
-    EXPECT_EQ(PercentSingle(16777217, 134217728), 12);
-}
-
-TEST(Percentages, OfNothingFail)
-{
     for (const auto rule : {PercentCut, PercentRound, PercentSingle, PercentFloor})
         EXPECT_THROW(rule(1, 0), Failure);
-}
-
-TEST(ClockText, KeepsFourCharacters)
-{
-    EXPECT_EQ(ClockText(12345, "."), "12.3 Ghz");
-    EXPECT_EQ(ClockText(2394, ","), "2,39 Ghz");
 }
 
 TEST(CacheText, GoesByItsLength)
@@ -99,6 +84,39 @@ TEST(CacheText, GoesByItsLength)
         EXPECT_EQ(CacheText(kilobytes), text);
     EXPECT_EQ(CacheText(""), "");
     EXPECT_THROW(CacheText("some"), Failure);
+}
+
+constexpr std::uint32_t Day = 24U * 60 * 60 * 1000;
+
+TEST(UptimeText, LeavesOutTheDaysAndEndsAfter28)
+{
+    MemoryRegional regional;
+    const struct {
+        std::uint32_t milliseconds;
+        const char* text;
+    } cases[] = {{999, "00:00:00"},
+                 {1000, "00:00:01"},
+                 {Day - 1, "23:59:59"},
+                 {Day + ((2 * 60 + 3) * 60 + 4) * 1000, "02:03:04"},
+                 {2147483648U, "20:31:23"},
+                 {29 * Day - 1, "23:59:59"},
+                 {29 * Day, ""},
+                 {4294967295U, ""}};
+    for (const auto& c : cases)
+        EXPECT_EQ(UptimeText(c.milliseconds, regional), c.text) << c.milliseconds;
+}
+
+TEST(ServiceDatetimes, AreReadByTheirPlaces)
+{
+    MemoryRegional regional;
+    const char* datetime = "20120315140509.123456-180";
+    EXPECT_EQ(WmiDateText(datetime, regional), "15/03/2012");
+    EXPECT_EQ(WmiTimeText(datetime, regional), "14:05:09");
+    EXPECT_EQ(WmiDateText("20120315******.******+***", regional), "15/03/2012");
+    for (const char* text : {"", "2012031", "2012-3-15", "********140509", "20120231000000"})
+        EXPECT_THROW(WmiDateText(text, regional), Failure) << text;
+    for (const char* text : {"20120315", "2012031514050", "20120315******", "20120315246000"})
+        EXPECT_THROW(WmiTimeText(text, regional), Failure) << text;
 }
 
 } // namespace

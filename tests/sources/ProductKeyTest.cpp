@@ -3,75 +3,50 @@
 
 #include <gtest/gtest.h>
 
-#include <string_view>
+#include <string>
 
 namespace ostrelum {
 namespace {
 
-constexpr std::string_view Alphabet = "BCDFGHJKMPQRTVWXY2346789";
-const std::pair<std::string, std::string> Place{"SOFTWARE\\MICROSOFT\\Windows NT\\CurrentVersion",
-                                                "DigitalProductId"};
-
-/// Packs a printed key, digit by digit from the left: number = number * 24 + digit.
-PackedKey packed(std::string_view key)
+/// The bytes of a key from the lowest on, written with two digits each.
+PackedKey bytes(const std::string& digits)
 {
-    PackedKey number{};
-    for (const char letter : key) {
-        if (letter == '-')
-            continue;
-        auto carry = static_cast<unsigned>(Alphabet.find(letter));
-        for (std::uint8_t& byte : number) {
-            carry += byte * 24U;
-            byte = static_cast<std::uint8_t>(carry);
-            carry >>= 8U;
-        }
-        EXPECT_EQ(carry, 0U) << "the key takes more than 120 bits";
-    }
-    return number;
+    PackedKey key{};
+    for (std::size_t i = 0; i < key.size(); ++i)
+        key[i] = static_cast<std::uint8_t>(std::stoi(digits.substr(2 * i, 2), nullptr, 16));
+    return key;
 }
 
-TEST(ProductKey, IsWhatWasPacked)
+constexpr const char* Printed = "C2346-789BC-DFGHJ-KMPQR-TVWXY";
+constexpr const char* Packed = "f81ec043345472b0109f148a7c7200";
+
+TEST(ProductKey, HasItsDigitsFromTheHighestOnInGroupsOfFive)
 {
-    for (const char* key : {"BBBBB-BBBBB-BBBBB-BBBBB-BBBBB", "BBBBB-BBBBB-BBBBB-BBBBB-BBBBC",
-                            "C2346-789BC-DFGHJ-KMPQR-TVWXY", "9B8C7-D6F4G-3H2JY-KXMWP-VQTRB",
-                            "CBBBB-BBBBB-BBBBB-BBBBB-BBBBB", "99999-99999-99999-99999-99999"})
-        EXPECT_EQ(product_key(packed(key)), key);
+    const std::pair<const char*, const char*> keys[] = {
+        {Printed, Packed},
+        {"BBBBB-BBBBB-BBBBB-BBBBB-BBBBC", "010000000000000000000000000000"},
+        {"9B8C7-D6F4G-3H2JY-KXMWP-VQTRB", "0888014653e49d72c487dfd6f5ea05"},
+        {"CBBBB-BBBBB-BBBBB-BBBBB-BBBBB", "000000000000000000e1b81cc24100"},
+        {"99999-99999-99999-99999-99999", "ffffffffffffffffff1755b1322a06"}};
+    for (const auto& [printed, packed] : keys)
+        EXPECT_EQ(product_key(bytes(packed)), printed);
 }
 
-class ProductKeyValue : public ::testing::Test {
-protected:
-    /// The registry's value of that length, with a key at its place.
-    void store(std::size_t length)
-    {
-        std::vector<std::uint8_t> value(200, 0xEE);
-        const PackedKey key = packed("C2346-789BC-DFGHJ-KMPQR-TVWXY");
-        std::copy(key.begin(), key.end(), value.begin() + 52);
-        value.resize(length);
-        registry.values[Place] = value;
-    }
+TEST(ProductKeyText, IsReadAnewEachTimeFromAValueThatHasTheRightLength)
+{
     MemoryRegistry registry;
-};
-
-TEST_F(ProductKeyValue, IsReadAnewEachTime)
-{
-    store(164);
-    EXPECT_EQ(ProductKeyText(registry), "C2346-789BC-DFGHJ-KMPQR-TVWXY");
-    EXPECT_EQ(ProductKeyText(registry), "C2346-789BC-DFGHJ-KMPQR-TVWXY");
-    EXPECT_TRUE(registry.open.empty()) << "each key that was opened is closed";
-}
-
-TEST_F(ProductKeyValue, ThatIsMissingOrHasTheWrongLengthIsNoKey)
-{
     EXPECT_EQ(ProductKeyText(registry), "");
-    registry.values[{Place.first, "Other"}] = {1};
+    const std::string folder = "SOFTWARE\\MICROSOFT\\Windows NT\\CurrentVersion";
+    registry.values[{folder, "Other"}] = {1};
     EXPECT_EQ(ProductKeyText(registry), "");
-    for (const std::size_t length : {0U, 66U, 165U}) {
-        store(length);
-        EXPECT_EQ(ProductKeyText(registry), "") << length;
+    for (const std::size_t length : {0U, 66U, 67U, 164U, 164U, 165U}) {
+        std::vector<std::uint8_t> value(200, 0xEE);
+        std::ranges::copy(bytes(Packed), value.begin() + 52);
+        value.resize(length);
+        registry.values[{folder, "DigitalProductId"}] = value;
+        EXPECT_EQ(ProductKeyText(registry), length < 67 || length > 164 ? "" : Printed) << length;
     }
-    EXPECT_TRUE(registry.open.empty());
-    store(67);
-    EXPECT_NE(ProductKeyText(registry), "");
+    EXPECT_TRUE(registry.open.empty()) << "each key that was opened is closed";
 }
 
 } // namespace

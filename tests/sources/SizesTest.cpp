@@ -15,13 +15,6 @@ TEST(SizeWhole, ChangesItsUnitAtFourDigits)
         EXPECT_EQ(SizeWhole(std::stoi(megabytes)), text) << megabytes;
 }
 
-TEST(WholeMegabytes, AreRoundedDown)
-{
-    EXPECT_EQ(WholeMegabytes(1023), "0");
-    EXPECT_EQ(WholeMegabytes(2047), "1");
-    EXPECT_EQ(WholeMegabytes(-1), "-1");
-}
-
 /// The first and the last number of each digit count that changes the form; nothing behind the sign
 /// is no form.
 const std::pair<SizeUse, const char*> borders[] = {

@@ -43,10 +43,8 @@ TEST(LetterCase, AgreesWithTheSystemsTablesOnAllItsAlphabets)
         {0, 0x17F}, {0x386, 0x3CE}, {0x400, 0x52F}, {0x1E00, 0x1E9E}, {0x1EA0, 0x1EFF}};
     for (const auto& [first, last] : alphabets) {
         for (char32_t c = first; c <= last; ++c) {
-            EXPECT_EQ(upper_case(c), static_cast<char32_t>(std::towupper(static_cast<wint_t>(c))))
-                << std::hex << static_cast<unsigned>(c);
-            EXPECT_EQ(lower_case(c), static_cast<char32_t>(std::towlower(static_cast<wint_t>(c))))
-                << std::hex << static_cast<unsigned>(c);
+            EXPECT_EQ(upper_case(c), std::towupper(static_cast<wint_t>(c))) << unsigned{c};
+            EXPECT_EQ(lower_case(c), std::towlower(static_cast<wint_t>(c))) << unsigned{c};
         }
     }
     std::setlocale(LC_CTYPE, before.c_str());
