@@ -3,16 +3,15 @@
 namespace ostrelum {
 namespace {
 
-class Stages : public ReportTest {
-protected:
-    static int count(const std::string& text, const std::string& part)
-    {
-        int found = 0;
-        for (auto at = text.find(part); at != std::string::npos; at = text.find(part, at + 1))
-            ++found;
-        return found;
-    }
-};
+using Stages = ReportTest;
+
+int count(const std::string& text, const std::string& part)
+{
+    int found = 0;
+    for (auto at = text.find(part); at != std::string::npos; at = text.find(part, at + 1))
+        ++found;
+    return found;
+}
 
 /// The rules themselves are tested with the pages; here is what a report does its own way.
 TEST_F(Stages, ShowAFallbackWhereAPageWouldKeepItsCaption)
@@ -65,24 +64,6 @@ TEST_F(Stages, WithoutAServiceAReportHasAllSectionsAndItsFoot)
     EXPECT_EQ(row("Processor", "Number of cores:"), "4");
     EXPECT_TRUE(F2.Tb2.ends_with("</html>"));
     EXPECT_EQ(F2.LStatus.Caption, "Report made at 0 second/s");
-}
-
-TEST_F(Stages, AnOlderSystemIsAskedWithoutItsNewestProperty)
-{
-    for (const auto& [class_name, newest] : {std::pair("Win32_OperatingSystem", ", OSArchitecture"),
-                                             std::pair("Win32_Processor", ", L3CacheSize")}) {
-        const std::string& wql = query_about(class_name);
-        std::string shorter = wql;
-        shorter.erase(shorter.find(newest), std::string(newest).size());
-        auto moved = script.results.extract(wql);
-        moved.key() = shorter;
-        script.results.insert(std::move(moved));
-    }
-    make_report();
-    EXPECT_EQ(row("Operating system", "Type:"), "Unknown");
-    EXPECT_EQ(row("Operating system", "Version and build:"), "6.1, 7601");
-    EXPECT_EQ(row("Processor", "L3 cache size:"), "Unknown");
-    EXPECT_EQ(row("Processor", "Socket:"), "Socket 1");
 }
 
 } // namespace
