@@ -1,7 +1,5 @@
 #include "tests/Stage.h"
 
-#include "frame/Opacity.h"
-
 #include <gmock/gmock.h>
 
 namespace ostrelum {
@@ -38,8 +36,9 @@ TEST_F(Life, FirstRunWritesFiveDefaultsInOrderAndFadesInToOpaque)
     EXPECT_EQ(toolkit.alphas[&F1], std::vector<int>{0});
     EXPECT_THAT(levels_of_fade("TLoad", F1.TLoad),
                 ElementsAre(91, 82, 73, 64, 55, 46, 37, 28, 19, 10, 1, -8));
-    EXPECT_EQ(toolkit.alphas[&F1].back(), 255);
-    EXPECT_EQ(toolkit.alphas[&F1].size(), 14U);
+    EXPECT_THAT(toolkit.alphas[&F1],
+                ElementsAre(0, 22, 45, 68, 91, 114, 137, 160, 183, 206, 229, 252, 255, 255));
+    EXPECT_EQ(toolkit.GetWindowLongA(F1, GWL_EXSTYLE), WS_EX_LAYERED);
 }
 
 TEST_F(Life, FadesRestAtTheTransparencyAndStartOverWhenClosedAgain)
@@ -48,6 +47,9 @@ TEST_F(Life, FadesRestAtTheTransparencyAndStartOverWhenClosedAgain)
     start_program();
     EXPECT_THAT(levels_of_fade("TLoad", F1.TLoad), ElementsAre(91, 82, 73));
     EXPECT_EQ(toolkit.alphas[&F1].back(), 51);
+    F1.TLoad.Enabled = true;
+    Cnt = 89;
+    EXPECT_THAT(levels_of_fade("TLoad", F1.TLoad), ElementsAre(80)) << "from what a page left";
 
     EXPECT_FALSE(Unload(toolkit, F1));
     tick("TUnload");
@@ -55,17 +57,8 @@ TEST_F(Life, FadesRestAtTheTransparencyAndStartOverWhenClosedAgain)
     EXPECT_FALSE(Unload(toolkit, F1));
     EXPECT_THAT(levels_of_fade("TUnload", F1.TUnload), ElementsAre(89, 98, 107));
     EXPECT_TRUE(machine.ended);
+    EXPECT_EQ(toolkit.alphas[&F1].back(), 0);
     EXPECT_EQ(store.writes.size(), 4U) << "nothing is saved at the end";
-}
-
-TEST_F(Life, AFadeGoesOnFromWhateverACollectorLeavesInItsCounter)
-{
-    start_program();
-    tick("TLoad");
-    Cnt = 3;
-    tick("TLoad");
-    EXPECT_FALSE(F1.TLoad.Enabled);
-    EXPECT_EQ(toolkit.alphas[&F1].back(), 255);
 }
 
 TEST_F(Life, WithoutTransparencyTheWindowIsNeverLayeredAndEndsAtOnce)
@@ -131,20 +124,6 @@ TEST_F(Life, PreferredFontsNeedBothFilesWithTheArchiveFlagAlone)
         EXPECT_EQ(F1.LT(12).Font.Name, c.preferred ? "Segoe UI" : "Arial");
         EXPECT_TRUE(F1.LT(12).Font.Bold);
     }
-}
-
-TEST_F(Life, OpacityClampsAndCutsTowardZero)
-{
-    start_program();
-    const struct {
-        std::int16_t percent;
-        int alpha;
-    } cases[] = {{0, 255}, {9, 232}, {80, 51}, {100, 0}, {108, 0}, {-8, 255}, {-32768, 255}};
-    for (const auto& c : cases) {
-        SetOpacity(F1, c.percent);
-        EXPECT_EQ(toolkit.alphas[&F1].back(), c.alpha) << c.percent;
-    }
-    EXPECT_EQ(toolkit.GetWindowLongA(F1, GWL_EXSTYLE), WS_EX_LAYERED);
 }
 
 } // namespace

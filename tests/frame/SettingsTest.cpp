@@ -1,57 +1,31 @@
+#include "tests/Split.h"
 #include "tests/Stage.h"
 
 namespace ostrelum {
 namespace {
 
-class Settings : public Stage {
-protected:
-    static std::int32_t held(std::string_view name)
-    {
-        if (name == "ColorValue")
-            return ColorValue;
-        if (name == "ShineValue")
-            return Shine;
-        return name == "ChkTrans" ? static_cast<std::int32_t>(TransEnabled) : Transparency;
-    }
-};
+using Settings = Stage;
 
 TEST_F(Settings, AreTakenInTheirRangeAndElseReplacedByTheDefault)
 {
     const struct {
         std::string_view name;
-        RegValue before;
-        /// What the store holds afterwards, and what the program holds in memory.
-        const char* kept;
-        std::int32_t held;
+        std::int32_t (*held)();
+        /// What is stored, and behind the sign what the store holds afterwards, and the program.
+        const char* values;
     } cases[] = {
-        {"ColorValue", 254U, "16750080", 16750080},
-        {"ColorValue", 255U, "255", 255},
-        {"ColorValue", 16776960U, "16776960", 16776960},
-        {"ColorValue", 16776961U, "16750080", 16750080},
-        {"ColorValue", 4294967295U, "16750080", 16750080},
-        {"ColorValue", "blue", "16750080", 16750080},
-        {"ColorValue", "65535", "65535", 65535},
-        {"ShineValue", 49U, "48", 24},
-        {"ShineValue", 48U, "48", 24},
-        {"ShineValue", 0U, "0", 0},
-        {"ShineValue", 7U, "7", 4},
-        {"ShineValue", 5U, "5", 2},
-        {"ShineValue", "", "48", 24},
-        {"ShineValue", "-1", "48", 24},
-        {"ChkTrans", 0U, "0", 0},
-        {"ChkTrans", 2U, "1", 1},
-        {"ChkTrans", "0.5", "1", 1},
-        {"ChkTrans", "yes", "1", 1},
-        {"Transparency", 80U, "80", 80},
-        {"Transparency", 81U, "0", 0},
-        {"Transparency", " 12 ", " 12 ", 12},
-        {"Transparency", "1e", "0", 0},
-    };
+        {"ColorValue", [] { return ColorValue; },
+         "254=16750080 16750080|255=255 255|16776960=16776960 16776960|16776961=16750080 16750080|"
+         "4294967295=16750080 16750080|blue=16750080 16750080"},
+        {"ShineValue", [] { return Shine; }, "49=48 24|48=48 24|0=0 0|7=7 4|5=5 2|=48 24|-1=48 24"},
+        {"ChkTrans", [] { return std::int32_t{TransEnabled}; }, "0=0 0|2=1 1|0.5=1 1|yes=1 1"},
+        {"Transparency", [] { return Transparency; }, "80=80 80|81=0 0| 12 = 12  12|1e=0 0"}};
     for (const auto& c : cases) {
-        store.values = {{full_name(c.name), c.before}};
-        start_program();
-        EXPECT_EQ(stored(c.name), c.kept) << c.name;
-        EXPECT_EQ(held(c.name), c.held) << c.name << " " << c.kept;
+        for (const auto& [before, after] : pairs(c.values)) {
+            store.values = {{full_name(c.name), before}};
+            start_program();
+            EXPECT_EQ(stored(c.name) + " " + std::to_string(c.held()), after) << c.name;
+        }
     }
 }
 

@@ -32,10 +32,10 @@ Table table_of(const Language& language)
     return Trad;
 }
 
-/// The marks of a template; their order is the language's own affair.
+/// The marks of a template, whose order is the language's own affair, and the pattern of a filter.
 std::multiset<std::string> marks(const std::string& text)
 {
-    static const std::regex mark(R"(\((#|[1-4]|HHMMSS|DDMMYYYY)\))");
+    static const std::regex mark(R"(\((#|[1-4]|HHMMSS|DDMMYYYY)\)| \((\*\.[a-z]{3})\)\|\2\||[|*])");
     return {std::sregex_token_iterator(text.begin(), text.end(), mark),
             std::sregex_token_iterator()};
 }
@@ -98,41 +98,14 @@ TEST(StringTable, TranslationsKeepMarksAndEndingsOfTheEnglishRowAndNothingElse)
     }
 }
 
-TEST(StringTable, FilterRowsPairADescriptionWithTheSamePattern)
-{
-    const Keys filter_rows = {176, 177, 178, 180};
-    static const std::regex row(R"([^|*()]+ \((\*\.[a-z]{3})\)\|\1\|)");
-    for (const Language& language : languages) {
-        const Table table = table_of(language);
-        std::string patterns;
-        for (std::size_t key = 1; key < table.size(); ++key) {
-            std::smatch parts;
-            EXPECT_EQ(std::regex_match(table[key], parts, row), filter_rows.contains(key))
-                << table[key];
-            patterns += parts[1].str();
-        }
-        EXPECT_EQ(patterns, "*.rtf*.htm*.txt*.txt") << language.name;
-    }
-}
-
-TEST(StringTable, RowsThatDifferInMeaningOrSpellingStayAsUsersKnowThem)
+TEST(StringTable, RowsThatNoPageShowsStayAsUsersKnowThem)
 {
     const struct {
         std::size_t key;
         const char* texts[3];
     } rows[] = {
-        {1, {"English (UK, Great Britain)", "Español (Argentina)", "Nederlands (Nederland)"}},
-        {12, {"User account", "Usuario", "Gebruikersaccount"}},
-        {51, {"Password expired:", "Contraseña caducable:", "Wachtwoord verlopen:"}},
-        {54, {"(HHMMSS) hs.", "(HHMMSS) hs.", "(HHMMSS) uur"}},
-        {80,
-         {"(DDMMYYYY) a las (HHMMSS) hs.", "(DDMMYYYY) a las (HHMMSS) hs.",
-          "(DDMMYYYY) om (HHMMSS)."}},
         {83, {"Speed:", "Velocidad:", "Speed:"}},
         {95, {"Data bus width:", "Ancho del bus de datos:", "Gegevensbussnelheid:"}},
-        {112,
-         {"(1) pixels, (2) bits, (3) Hz", "(1) píxeles, (2) bits, (3) Hz",
-          "(1) pixels, (2)-bits, (3) Hz"}},
         {132, {"Not applicable", "Configuración no establecida", "N.v.t."}},
         {183, {"Programmer:", "Autor:", "Ontwikkeld door:"}},
     };
@@ -141,10 +114,6 @@ TEST(StringTable, RowsThatDifferInMeaningOrSpellingStayAsUsersKnowThem)
         for (const auto& row : rows)
             EXPECT_EQ(table[row.key], row.texts[i]) << languages[i].name;
     }
-    const Table english = table_of(languages[0]);
-    EXPECT_EQ(english[23], "Others hardware");
-    EXPECT_EQ(english[128], "Connexion:");
-    EXPECT_EQ(english[169], "None removable drive has been conected");
 }
 
 } // namespace

@@ -35,7 +35,22 @@ protected:
     using Names = std::vector<std::string>;
 };
 
-TEST_F(ReportDialog, OpensInItsFirstState)
+TEST(Handlers, HaveTheirControls)
+{
+    MemoryProgram program;
+    start_program();
+    load_report_form();
+    for (const Form* form : {static_cast<Form*>(&F1), static_cast<Form*>(&F2)}) {
+        for (const HandlerTable& table : form->handlers) {
+            for (const Handler& handler : table)
+                EXPECT_TRUE(handler.control == "Form" || form->find(handler.control) ||
+                            form->find(handler.control, 1))
+                    << handler.control;
+        }
+    }
+}
+
+TEST_F(ReportDialog, WithoutTransparencyBuildsAtTheFirstTickAndCrossesItsPictureOver)
 {
     TransEnabled = false;
     FontsOk = 32;
@@ -51,21 +66,45 @@ TEST_F(ReportDialog, OpensInItsFirstState)
         EXPECT_FALSE(F2.BSave.Enabled || F2.BClose.Enabled);
         EXPECT_EQ(timers_on(), Names{"Descargador"});
         EXPECT_TRUE(toolkit.alphas[&F2].empty()) << "never see-through";
+        EXPECT_NE(F2.Pic1.Stored, F6->Made.Stored);
+
+        tick("Descargador");
+        EXPECT_EQ(timers_on(), Names{"TAlphaB"});
+        EXPECT_EQ(F2.LStatus.Caption, "Report made at 0 second/s");
+        EXPECT_TRUE(F2.BSave.Enabled && F2.BClose.Enabled);
+        EXPECT_TRUE(F2.Tb.empty());
+        EXPECT_FALSE(F2.Tb1.empty() || F2.Tb2.empty() || F2.Tb3.empty() || F2.Tb4.empty());
+        const Picture design = F2.Pic1.Stored;
+        tick("TAlphaB", 19);
+        EXPECT_EQ(F2.BlendLevel, 247);
+        EXPECT_EQ(F2.Pic1.Stored, design);
+        EXPECT_NE(F2.Pic1.Surface, design);
+        tick("TAlphaB");
+        EXPECT_EQ(F2.Pic1.Stored, F6->Made.Stored);
+        EXPECT_EQ(F2.Pic1.Surface, F6->Made.Stored);
+        EXPECT_EQ(timers_on(), Names{});
+        click("BClose");
+        EXPECT_FALSE(on_show());
+        EXPECT_EQ(F2.Tb1 + F2.Tb2 + F2.Tb3 + F2.Tb4, "");
+        EXPECT_TRUE(F1.Timer1.Enabled);
     });
-    FontsOk = 0;
-    open([] {
-        EXPECT_EQ(F2.LStatus.Font, (FontSpec{.Name = "Tahoma", .Size = 9}));
-        EXPECT_EQ(F2.LStatus.Top, 98);
-    });
+    open([] { EXPECT_NE(F2.Pic1.Stored, F6->Made.Stored) << "the next report starts anew"; });
 }
 
-TEST_F(ReportDialog, EveryHandlerHasItsControl)
+TEST_F(ReportDialog, WhatIsPressedWhileItBuildsMeetsDisabledButtons)
 {
-    load_report_form();
-    for (const HandlerTable& table : F2.handlers) {
-        for (const Handler& handler : table)
-            EXPECT_TRUE(handler.control == "Form" || F2.find(handler.control)) << handler.control;
-    }
+    TransEnabled = false;
+    FontsOk = 0;
+    toolkit.pending = [&] {
+        EXPECT_FALSE(F2.Tb4.empty() || F2.BClose.Enabled || F2.BSave.Enabled);
+        Unload(toolkit, F2);
+    };
+    open([&] {
+        EXPECT_EQ(F2.LStatus.Font, (FontSpec{.Name = "Tahoma", .Size = 9}));
+        EXPECT_EQ(F2.LStatus.Top, 98);
+        tick("Descargador");
+        EXPECT_TRUE(F1.Timer1.Enabled) << "the frame's button closes it as soon as it can";
+    });
 }
 
 TEST_F(ReportDialog, PaintsEachStepBeforeItsQueries)
@@ -82,41 +121,6 @@ TEST_F(ReportDialog, PaintsEachStepBeforeItsQueries)
         EXPECT_EQ(painted[i], std::pair(step, asked[i]));
     }
     EXPECT_EQ(script.asked, queries);
-}
-
-TEST_F(ReportDialog, WhatIsPressedWhileItBuildsMeetsDisabledButtons)
-{
-    class Impatient : public MemoryToolkit {
-    public:
-        void DoEvents() override
-        {
-            EXPECT_FALSE(F2.Tb4.empty() || F2.BClose.Enabled || F2.BSave.Enabled);
-            Unload(*this, F2);
-        }
-    } impatient;
-    TransEnabled = false;
-    open([&] {
-        platform.toolkit = &impatient;
-        tick("Descargador");
-        EXPECT_TRUE(F1.Timer1.Enabled) << "the frame's button closes it as soon as it can";
-    });
-}
-
-TEST_F(ReportDialog, WithoutTransparencyBuildsAtTheFirstTickAndClosesAtOnce)
-{
-    TransEnabled = false;
-    open([&] {
-        tick("Descargador");
-        EXPECT_EQ(timers_on(), Names{"TAlphaB"});
-        EXPECT_EQ(F2.LStatus.Caption, "Report made at 0 second/s");
-        EXPECT_TRUE(F2.BSave.Enabled && F2.BClose.Enabled);
-        EXPECT_TRUE(F2.Tb.empty());
-        EXPECT_FALSE(F2.Tb1.empty() || F2.Tb2.empty() || F2.Tb3.empty() || F2.Tb4.empty());
-        click("BClose");
-        EXPECT_FALSE(on_show());
-        EXPECT_EQ(F2.Tb1 + F2.Tb2 + F2.Tb3 + F2.Tb4, "");
-        EXPECT_TRUE(F1.Timer1.Enabled);
-    });
 }
 
 TEST_F(ReportDialog, FadesInBuildsAndFadesOut)
@@ -148,7 +152,7 @@ TEST_F(ReportDialog, FadesInBuildsAndFadesOut)
     });
 }
 
-TEST_F(ReportDialog, TheFadesRestAtTheTransparencyOfTheWindow)
+TEST_F(ReportDialog, ClosedByTheFrameItFadesFromTheLevelThatItHasReached)
 {
     TransEnabled = true;
     Transparency = 80;
@@ -161,44 +165,23 @@ TEST_F(ReportDialog, TheFadesRestAtTheTransparencyOfTheWindow)
         EXPECT_FALSE(on_show());
         EXPECT_TRUE(F1.Timer1.Enabled);
     });
-}
-
-TEST_F(ReportDialog, ClosedBeforeItHasBegunItNeverBegins)
-{
-    for (const bool fading : {true, false}) {
-        TransEnabled = fading;
-        open([&] {
-            tick("TLoad", fading ? 5 : 0);
-            Unload(toolkit, F2);
-            EXPECT_EQ(timers_on(), fading ? Names{"TUnload"} : Names{});
-            EXPECT_EQ(Cnt, 55) << "from the level that it has reached";
-            tick("TUnload", fading ? 5 : 0);
-            EXPECT_FALSE(on_show());
-            EXPECT_EQ(F2.Tb4, "");
-            EXPECT_TRUE(F1.Timer1.Enabled);
-        });
-        Cnt = 55;
-    }
-}
-
-TEST_F(ReportDialog, ThePictureCrossesOverInNineteenBlends)
-{
+    Transparency = 0;
+    open([&] {
+        tick("TLoad", 5);
+        Unload(toolkit, F2);
+        EXPECT_EQ(timers_on(), Names{"TUnload"});
+        EXPECT_EQ(Cnt, 55);
+        tick("TUnload", 5);
+        EXPECT_FALSE(on_show());
+        EXPECT_EQ(F2.Tb4, "") << "a report that has not begun never begins";
+    });
     TransEnabled = false;
     open([&] {
-        const Picture design = F2.Pic1.Stored;
-        ASSERT_FALSE(design.empty());
-        tick("Descargador");
-        tick("TAlphaB", 19);
-        EXPECT_EQ(F2.BlendLevel, 247);
-        EXPECT_EQ(F2.Pic1.Stored, design);
-        EXPECT_NE(F2.Pic1.Surface, design);
-        tick("TAlphaB");
-        EXPECT_EQ(F2.Pic1.Stored, F6->Made.Stored);
-        EXPECT_EQ(F2.Pic1.Surface, F6->Made.Stored);
+        Unload(toolkit, F2);
         EXPECT_EQ(timers_on(), Names{});
-        click("BClose");
+        EXPECT_FALSE(on_show());
+        EXPECT_EQ(F2.Tb4, "");
     });
-    open([&] { EXPECT_NE(F2.Pic1.Stored, F6->Made.Stored) << "the next report starts anew"; });
 }
 
 } // namespace

@@ -59,34 +59,39 @@ TEST_F(Layout, OfEachPageWipesOutThatOfAnother)
         F1.Laviso.ForeColor = RGB(255, 0, 0);
         F1.Timer1.Enabled = false;
         open(c.section);
+        press("LMenu", 7, MiddleButton);
+        press("LMenu", 7, RightButton);
+        EXPECT_EQ(F1.Seccion, c.section);
         EXPECT_EQ(F1.Titulo.Caption, c.title);
+        EXPECT_EQ(F1.LMenu2.Caption, c.title);
+        EXPECT_EQ(F1.BM.Top, 49 + 35 * (c.section - 1));
+        EXPECT_EQ(F1.Labelmi.Caption, "Done");
+        EXPECT_TRUE(F1.BM.Visible && F1.TAlphaB.Enabled);
         EXPECT_EQ(seen_beside_the_rows(), c.seen);
-        EXPECT_EQ(F1.LT(1).Font.Italic, c.section == 1);
-        EXPECT_TRUE(F1.LT(8).Font.Italic == (c.section == 1) || c.empty_rows.contains(8));
         EXPECT_EQ(rows_with_title_tooltips(), c.title_tooltips);
+        const Colour notice = c.section == 2 ? RGB(75, 75, 75) : RGB(0, 145, 0);
+        EXPECT_TRUE(F1.Laviso.ForeColor == notice || !F1.Laviso.Visible);
         if (c.line_row != 0) {
             EXPECT_EQ(F1.Line1.Y1, F1.LT(c.line_row).Top + c.line_below);
             EXPECT_EQ(F1.Line1.Y2, F1.Line1.Y1);
         }
-        for (int row = 1; row <= 12; ++row)
-            EXPECT_TRUE(c.empty_rows.contains(row)
-                            ? (F1.L(row).Caption + F1.L(row).ToolTipText).empty()
-                            : F1.L(row).ToolTipText == F1.L(row).Caption)
-                << row << " " << F1.L(row).Caption;
+        for (int row = 1; row <= 12; ++row) {
+            SCOPED_TRACE(shown(row));
+            const bool empty = c.empty_rows.contains(row);
+            const bool heading = c.section == 1 && (row == 1 || row == 8);
+            const Colour colour = heading ? RGB(SkinR, SkinG, SkinB) : RGB(32, 32, 32);
+            EXPECT_TRUE(F1.LT(row).ForeColor == colour || empty);
+            EXPECT_TRUE(F1.LT(row).Font.Italic == heading || empty);
+            EXPECT_EQ(F1.L(row).Caption.empty(), empty || heading);
+            EXPECT_EQ(F1.L(row).ToolTipText, F1.L(row).Caption);
+            EXPECT_TRUE(F1.L(row).Left == F1.LT(row).Left + F1.LT(row).Width || empty || heading);
+            press(row % 2 ? "LT" : "L", row, RightButton);
+            EXPECT_EQ(F1.CopyRow, row);
+            EXPECT_EQ(F1.Copy.Enabled, !F1.L(row).Caption.empty());
+        }
     }
     EXPECT_EQ(F1.Line2.Y1, F1.LT(7).Top + 10);
     EXPECT_EQ(F1.Line2.Y2, F1.Line2.Y1);
-}
-
-TEST_F(Layout, TheColoursAreTheSkinsAndTheNoticesOwn)
-{
-    open(1);
-    EXPECT_EQ(F1.LT(8).ForeColor, RGB(SkinR, SkinG, SkinB));
-    open(2);
-    EXPECT_EQ(F1.Laviso.ForeColor, RGB(75, 75, 75));
-    EXPECT_EQ(F1.Laviso.Caption, Trad[58]);
-    open(11);
-    EXPECT_EQ(F1.Laviso.ForeColor, RGB(0, 145, 0));
 }
 
 TEST_F(Layout, WithoutAMediumTheNoticeStandsAloneOnThePage)

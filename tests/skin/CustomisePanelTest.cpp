@@ -71,7 +71,6 @@ TEST_F(CustomisePanelOpen, ShowsTheSettingsOfTheRunAndTouchesNeitherSkinNorStore
     EXPECT_EQ(F1.LPers3.ForeColor, RGB(96, 96, 96));
     EXPECT_EQ(F1.LPers3.Caption, "30 %");
     EXPECT_EQ(F1.S(1).Surface, skin);
-    EXPECT_EQ(F1.LT(1).Caption, "");
     EXPECT_FALSE(F1.Timer1.Enabled);
     EXPECT_TRUE(F1.PicPersonalizar.Visible && F1.BAceptar.Visible && F1.PanelReady);
     toolkit.advance(F1, 20 * MemoryToolkit::FrameTime);
@@ -82,6 +81,9 @@ TEST_F(CustomisePanelOpen, ShowsTheSettingsOfTheRunAndTouchesNeitherSkinNorStore
     EXPECT_EQ(F1.Seccion, 6);
     EXPECT_EQ(F1.Titulo.Caption, Trad[16]);
     EXPECT_TRUE(F1.LineInf.Visible && F1.LMenu(1).TabStop);
+    EXPECT_EQ(F1.LMenu(13).ForeColor, White);
+    EXPECT_EQ(F1.LOpc.ForeColor, RGB(250, 250, 250));
+    EXPECT_EQ(F1.MenuLogo.MousePointer, Pointer::Hand);
     EXPECT_TRUE(F1.LangList.List.empty());
     click("Personalizar");
     EXPECT_EQ(F1.LangList.List.size(), 3U);
@@ -196,17 +198,34 @@ TEST_F(CustomisePanelOpen, AStoreThatCannotBeWrittenChangesNothingElse)
 
 TEST_F(CustomisePanelOpen, LocksWhatLiesAroundItUntilItCloses)
 {
-    open();
+    start_program();
+    press("LMenu", 3);
+    F1.LT(3).ToolTipText = "told";
+    F1.Iaviso.Visible = F1.Line1.Visible = true;
+    store.writes.clear();
+    click("Personalizar");
     press("LMenu", 8);
     press("S", 1, LeftButton, 20, 300);
+    click("BM");
     press("Form", 0, RightButton);
     press("LT", 3, RightButton);
     F1.raise("LOpc", {.kind = EventKind::MouseUp, .button = LeftButton});
+    F1.raise("S", {.kind = EventKind::MouseMove, .index = 1, .x = 10, .y = 60});
     EXPECT_EQ(F1.Seccion, CustomisePanel);
     EXPECT_TRUE(toolkit.popups.empty());
     EXPECT_FALSE(F1.LMenu(8).TabStop || F1.LOpc.TabStop);
+    EXPECT_TRUE(F1.LMenu(13).ForeColor == RGB(215, 215, 215) &&
+                F1.LOpc.ForeColor == F1.LMenu(13).ForeColor);
+    EXPECT_TRUE(F1.BM.MousePointer == Pointer::Arrow && F1.S(1).MousePointer == Pointer::Arrow);
+    EXPECT_EQ(F1.LT(3).Caption + F1.L(3).Caption + F1.LT(3).ToolTipText + F1.L(3).ToolTipText, "");
+    EXPECT_FALSE(F1.Iaviso.Visible || F1.Line1.Visible || F1.LineInf.Visible);
+    EXPECT_EQ(F1.Labelmi.Caption, "");
+
     choose_language(1);
-    EXPECT_EQ(F1.LMenu2.Caption, "Computadora");
+    EXPECT_EQ(F1.LMenu(2).Caption + F1.LMenu2.Caption, "UsuarioComputadora");
+    EXPECT_EQ(F1.Titulo.Caption, Trad[6]);
+    EXPECT_EQ(F1.CheckTrans.Caption, " " + Trad[155]);
+    EXPECT_EQ(F1.CopyAll.Caption, "Copiar todo");
     EXPECT_EQ(F1.LT(1).Caption, "") << "the page stays empty";
     bool cancel = false;
     F1.raise("Form", {.kind = EventKind::Unload, .cancel = &cancel});

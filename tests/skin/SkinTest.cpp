@@ -43,22 +43,6 @@ TEST(Tinting, ShiftsEachChannelByColourAndShineAndLeavesTheFillingAlone)
     }
 }
 
-TEST(Tinting, GivesTheLevelsOfTheDefaultColour)
-{
-    const struct {
-        std::uint8_t grey;
-        int red, green, blue;
-    } rows[] = {{0, 0, 0, 35}, {86, 0, 16, 121}, {171, 0, 101, 206}, {255, 35, 185, 255}};
-    for (const auto& row : rows) {
-        Bitmap pixel(1, 1);
-        std::fill_n(pixel.bytes.begin(), 3, row.grey);
-        tint_pixels(pixel, Bitmap(pixel), {.red = 0, .green = 150, .blue = 255, .shine = 24});
-        EXPECT_EQ(pixel.bytes[0], row.blue) << int{row.grey};
-        EXPECT_EQ(pixel.bytes[1], row.green) << int{row.grey};
-        EXPECT_EQ(pixel.bytes[2], row.red) << int{row.grey};
-    }
-}
-
 TEST(Blending, MixesByConstantAlpha)
 {
     Bitmap black(3, 2);
