@@ -4,24 +4,24 @@
 
 #include <QTemporaryDir>
 
+#include <sstream>
+
 namespace ostrelum::desk {
 namespace {
 
-void note(const std::string& name, int index = 0)
+/// Acts go by the bare name.
+void note(const std::string& name, int index = 0, const std::string& tail = "")
 {
-    heard.push_back(index ? name + "(" + std::to_string(index) + ")" : name);
+    heard.push_back(name + (index ? "(" + std::to_string(index) + ")" : "") + tail);
     if (const auto act = acts.find(name); act != acts.end())
         act->second();
 }
 
 void note_mouse(const std::string& name, int index, int button, int shift, int x, int y)
 {
-    const auto number = [](int value) { return std::to_string(value); };
-    note((index ? name + "(" + number(index) + ")" : name) + " " + number(button) + " " +
-         number(shift) + " " + number(x) + "," + number(y));
-    // Acts of mouse handlers go by the bare name as well.
-    if (const auto act = acts.find(name); act != acts.end())
-        act->second();
+    std::ostringstream tail;
+    tail << " " << button << " " << shift << " " << x << "," << y;
+    note(name, index, tail.str());
 }
 
 // clang-format off

@@ -40,17 +40,12 @@ TEST_F(InputTest, TheMouseReachesTheControlThatListens)
     }
 }
 
-TEST_F(InputTest, AReleaseOutsideIsNoClick)
+TEST_F(InputTest, AReleaseOutsideIsNoClickAndAMoveIsSeenWhereSomebodyListens)
 {
     QWidget& entry = widget("Menu", 1);
     QTest::mousePress(&entry, Qt::LeftButton, Qt::ShiftModifier | Qt::AltModifier, {5, 5});
     QTest::mouseRelease(&entry, Qt::LeftButton, {}, {5, 100});
     EXPECT_EQ(heard, (Heard{"Menu_MouseDown(1) 1 5 5,5", "Menu_MouseUp(1) 1 0 5,100"}));
-}
-
-TEST_F(InputTest, MovesAreSeenWhereSomebodyListens)
-{
-    EXPECT_TRUE(widget("Column").hasMouseTracking());
     EXPECT_FALSE(widget("Free").hasMouseTracking());
     QTest::mouseMove(&widget("Column"), {50, 180});
     EXPECT_EQ(heard.back(), "Column_MouseMove 0 0 50,180");
@@ -77,14 +72,11 @@ TEST_F(InputTest, TheUsersChangesStandInTheDataWhenTheEventComes)
     QTest::keyClick(&widget("Pick"), Qt::Key_Down);
     EXPECT_EQ(form.Pick.ListIndex, 2);
     EXPECT_EQ(take_heard(), Heard{"Pick_Click"});
-}
 
-TEST_F(InputTest, AHandlerMayPutTheUsersChangeBack)
-{
     acts["Slide_Change"] = [&] { form.Slide.Value = 50; };
-    widget<QScrollBar>("Slide").triggerAction(QAbstractSlider::SliderSingleStepAdd);
+    slide.triggerAction(QAbstractSlider::SliderSingleStepAdd);
     EXPECT_EQ(heard, Heard{"Slide_Change"});
-    EXPECT_EQ(widget<QScrollBar>("Slide").value(), 50);
+    EXPECT_EQ(slide.value(), 50) << "a handler may put the change back";
 }
 
 TEST_F(InputTest, KeysMoveAmongTheEntriesAndPressThem)
@@ -133,26 +125,18 @@ TEST_F(InputTest, EnterAndEscapePressTheirButtons)
     toolkit().Refresh(form);
     QTest::keyClick(&window(), Qt::Key_Enter);
     EXPECT_EQ(heard, Heard{});
+    widget("No").setFocus();
+    acts["No_Click"] = [&] { form.No.Visible = false; };
+    QTest::keyClick(&widget("No"), Qt::Key_Return);
+    EXPECT_EQ(window().focusWidget(), &window()) << "the button has gone";
 }
 
-TEST_F(InputTest, AControlThatGoesGivesTheFocusToTheWindow)
-{
-    widget("Ok").setFocus();
-    acts["Ok_Click"] = [&] { form.Ok.Visible = false; };
-    QTest::keyClick(&widget("Ok"), Qt::Key_Return);
-    EXPECT_EQ(window().focusWidget(), &window());
-}
-
-TEST_F(InputTest, TheMenuKeyFallsBackToTheForm)
+TEST_F(InputTest, TheMenuKeyFallsBackToTheFormWhosePopupRaisesTheChoiceAfterItHasGone)
 {
     QTest::keyClick(&window(), Qt::Key_Tab);
     QTest::keyClick(window().focusWidget(), Qt::Key_F10, Qt::ShiftModifier);
     EXPECT_EQ(take_heard(), (Heard{"Menu_MouseDown(1) 2 0 29,9", "Menu_MouseUp(1) 2 0 29,9",
                                    "Form_MouseDown 2 0 149,99"}));
-}
-
-TEST_F(InputTest, APopupShowsItsEntriesAndRaisesTheChoiceAfterItHasGone)
-{
     acts["Form_MouseDown"] = [&] { toolkit().popup(form, form.Pops, {}, &form.Last); };
     acts["Last_Click"] = [] { EXPECT_EQ(QApplication::activePopupWidget(), nullptr); };
     QTest::keyClick(&window(), Qt::Key_Menu);
