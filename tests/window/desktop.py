@@ -97,11 +97,11 @@ class Desktop:
             self.call("xdotool", "key", key)
             time.sleep(0.1)
 
-    def press_close(self, window, times=1):
+    def press_close(self, window):
         """Asks the window manager to close the window, as its close button does."""
         self.call("xdotool", "windowactivate", window)
         wait_for(lambda: self.call("xdotool", "getactivewindow") == window)
-        self.call("xdotool", "key", "--delay", "20", *["alt+F4"] * times)
+        self.call("xdotool", "key", "alt+F4")
 
     def close_program(self, program, window):
         """Closes the program's window, again if the window manager was not listening yet; the exit code."""

@@ -7,14 +7,19 @@ from itertools import cycle
 from pathlib import Path
 
 from desktop import Desktop, WindowTest, wait_for
-from test_program import near, settings
+from test_program import near
 
+KEY = "HKEY_CURRENT_USER\\Software\\Classes\\VirtualStore\\MACHINE\\SOFTWARE\\Dervalin\\Ostrelum"
 PICTURES = Path(__file__).resolve().parents[2] / "art/pictures"
 # A point of the skin with no control on it, and the end of the colour slider's track.
 SKIN = (400, 526)
 COLOUR_TRACK = (208 + 17 + 40, 144 + 170 + 8)
 TRANSPARENCY_THUMB = (208 + 276 + 20, 144 + 75 + 8)
 LINK = (208 + 215, 139 + 222)
+
+
+def settings(**values):
+    return f"[{KEY}]\n" + "".join(f"{name} = {value}\n" for name, value in values.items())
 
 
 def open_options(desktop, window, entry):
