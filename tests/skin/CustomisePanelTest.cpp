@@ -21,16 +21,6 @@ protected:
         bar.Value = value;
         F1.raise(F1.entry_of(&bar), {.kind = kind});
     }
-    static void tick_box(bool ticked)
-    {
-        F1.CheckTrans.Value = ticked ? 1 : 0;
-        click("CheckTrans");
-    }
-    static void choose_language(int entry)
-    {
-        F1.LangList.ListIndex = entry;
-        click("LangList");
-    }
     std::vector<std::string> written()
     {
         std::vector<std::string> names;
@@ -134,11 +124,11 @@ TEST_F(CustomisePanelOpen, TheBoxSwitchesOpacityAndKeepsThePercent)
 {
     store_number("Transparency", 20);
     open();
-    tick_box(false);
+    set_value(F1, F1.CheckTrans, 0);
     EXPECT_EQ(toolkit.alphas[&F1].back(), 255);
     EXPECT_FALSE(TransEnabled || F1.Scroll3.Enabled);
     EXPECT_EQ(F1.Scroll3.Value, 20);
-    tick_box(true);
+    set_value(F1, F1.CheckTrans, 1);
     EXPECT_EQ(toolkit.alphas[&F1].back(), 204);
     EXPECT_TRUE(TransEnabled && F1.Scroll3.Enabled);
     EXPECT_EQ(F1.LPers3.ForeColor, RGB(32, 32, 32));
@@ -151,16 +141,16 @@ TEST_F(CustomisePanelOpen, AcceptWritesWhatDiffersInOrder)
         Names names;
     } cases[] = {
         {[] {}, {}},
-        {[] { choose_language(1); }, {"Language"}},
-        {[] { choose_language(1), choose_language(0); }, {}},
+        {[] { choose(F1, F1.LangList, 1); }, {"Language"}},
+        {[] { choose(F1, F1.LangList, 1), choose(F1, F1.LangList, 0); }, {}},
         {[] { slide(F1.Scroll1, 0); }, {"ColorValue", "SCV"}},
         {[] { slide(F1.Scroll1, 0), slide(F1.Scroll1, 120); }, {}},
         {[] { slide(F1.Scroll2, 47); }, {}},
         {[] { slide(F1.Scroll2, 10); }, {"ShineValue"}},
-        {[] { tick_box(false); }, {"ChkTrans"}},
+        {[] { set_value(F1, F1.CheckTrans, 0); }, {"ChkTrans"}},
         {[] {
-             slide(F1.Scroll3, 10), tick_box(false), slide(F1.Scroll2, 0), slide(F1.Scroll1, 210),
-                 choose_language(2);
+             slide(F1.Scroll3, 10), set_value(F1, F1.CheckTrans, 0), slide(F1.Scroll2, 0),
+                 slide(F1.Scroll1, 210), choose(F1, F1.LangList, 2);
          },
          {"Language", "ColorValue", "SCV", "ShineValue", "ChkTrans", "Transparency"}},
     };
@@ -221,7 +211,7 @@ TEST_F(CustomisePanelOpen, LocksWhatLiesAroundItUntilItCloses)
     EXPECT_FALSE(F1.Iaviso.Visible || F1.Line1.Visible || F1.LineInf.Visible);
     EXPECT_EQ(F1.Labelmi.Caption, "");
 
-    choose_language(1);
+    choose(F1, F1.LangList, 1);
     EXPECT_EQ(F1.LMenu(2).Caption + F1.LMenu2.Caption, "UsuarioComputadora");
     EXPECT_EQ(F1.Titulo.Caption, Trad[6]);
     EXPECT_EQ(F1.CheckTrans.Caption, " " + Trad[155]);
