@@ -39,16 +39,5 @@ TEST_F(Settings, AnyOtherLanguageIsReplacedInTheStoreToo)
     }
 }
 
-TEST_F(Settings, AStoreThatRefusesWritesLeavesTheDefaultsInMemory)
-{
-    store.read_only = true;
-    store_number("Transparency", 99);
-    start_program();
-    EXPECT_TRUE(store.writes.empty());
-    EXPECT_EQ(stored("Transparency"), "99");
-    EXPECT_EQ(Transparency, 0);
-    EXPECT_TRUE(TransEnabled);
-}
-
 } // namespace
 } // namespace ostrelum
