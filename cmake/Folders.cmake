@@ -15,11 +15,11 @@ if(OSTRELUM_SANITIZE)
     target_link_options(ostrelum_rules INTERFACE -fsanitize=address,undefined)
 endif()
 
-# ostrelum_folder(NAME): every source of the current folder, as the target ostrelum_NAME. Headers are checked
-# to compile alone.
+# ostrelum_folder(NAME): every source of the current folder and its rooms, as the target ostrelum_NAME. Headers are
+# checked to compile alone.
 function(ostrelum_folder name)
-    file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.S)
-    file(GLOB headers CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
+    file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+    file(GLOB_RECURSE headers CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
     set(target ostrelum_${name})
     if(sources)
         add_library(${target} STATIC ${sources})

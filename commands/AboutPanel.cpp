@@ -1,11 +1,11 @@
 #include "commands/Commands.h"
+#include "figures/PassOver.h"
+#include "figures/Platform.h"
+#include "figures/Program.h"
+#include "figures/Shared.h"
 #include "frame/Language.h"
 #include "frame/MainForm.h"
 #include "frame/Navigation.h"
-#include "frame/PassOver.h"
-#include "frame/Platform.h"
-#include "frame/Program.h"
-#include "frame/Shared.h"
 
 /// What the program says about itself, and the two links into the user's browser.
 namespace ostrelum {

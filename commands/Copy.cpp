@@ -1,7 +1,7 @@
 #include "commands/Commands.h"
+#include "figures/PassOver.h"
+#include "figures/Platform.h"
 #include "frame/MainForm.h"
-#include "frame/PassOver.h"
-#include "frame/Platform.h"
 
 #include <array>
 #include <string>

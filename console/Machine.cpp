@@ -1,15 +1,15 @@
 #include "console/Machine.h"
 
+#include "figures/Platform.h"
+#include "figures/Shared.h"
 #include "frame/Life.h"
 #include "frame/MainForm.h"
 #include "frame/Navigation.h"
-#include "frame/Platform.h"
 #include "frame/SettingRows.h"
-#include "frame/Shared.h"
-#include "platform/linux/Facts.h"
 #include "platform/linux/LinuxManagementService.h"
-#include "platform/linux/MachineShell.h"
-#include "platform/linux/MaskedService.h"
+#include "platform/linux/files/Facts.h"
+#include "platform/linux/services/MachineShell.h"
+#include "platform/masking/MaskedService.h"
 #include "report/Report.h"
 
 namespace ostrelum {

@@ -1,8 +1,8 @@
 #include "console/Record.h"
 
 #include "console/Machine.h"
-#include "platform/linux/MaskedMachine.h"
-#include "platform/linux/Recorder.h"
+#include "platform/linux/recording/MaskedMachine.h"
+#include "platform/linux/recording/Recorder.h"
 #include "sources/Schema.h"
 
 #include <memory>

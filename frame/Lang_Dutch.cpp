@@ -1,4 +1,4 @@
-#include "frame/StringTable.h"
+#include "figures/StringTable.h"
 
 namespace ostrelum {
 

@@ -1,8 +1,8 @@
 #include "frame/Language.h"
 
+#include "figures/Shared.h"
 #include "frame/F1Events.h"
 #include "frame/MainForm.h"
-#include "frame/Shared.h"
 
 #include <array>
 

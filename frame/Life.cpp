@@ -1,13 +1,13 @@
 #include "frame/Life.h"
 
+#include "figures/PassOver.h"
+#include "figures/Platform.h"
 #include "frame/F1Events.h"
 #include "frame/Language.h"
 #include "frame/MainForm.h"
 #include "frame/Navigation.h"
 #include "frame/Opacity.h"
-#include "frame/PassOver.h"
 #include "frame/PictureForm.h"
-#include "frame/Platform.h"
 #include "frame/Settings.h"
 #include "skin/Skin.h"
 

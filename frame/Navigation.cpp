@@ -1,9 +1,9 @@
 #include "frame/Navigation.h"
 
+#include "figures/Platform.h"
 #include "frame/F1Events.h"
 #include "frame/MainForm.h"
 #include "frame/Page.h"
-#include "frame/Platform.h"
 #include "sections/Sections.h"
 #include "skin/Skin.h"
 

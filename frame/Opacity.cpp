@@ -1,6 +1,6 @@
 #include "frame/Opacity.h"
 
-#include "frame/Platform.h"
+#include "figures/Platform.h"
 
 #include <algorithm>
 

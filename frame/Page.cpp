@@ -1,7 +1,6 @@
 #include "frame/Page.h"
 
-#include "frame/Platform.h"
-#include "sources/Ascii.h"
+#include "figures/Platform.h"
 
 namespace ostrelum {
 namespace {
@@ -43,17 +42,6 @@ void place_line(Line& line, int row, int below)
 {
     line.Y1 = line.Y2 = F1.LT(row).Top + below;
     line.Visible = true;
-}
-
-void clear(std::array<std::string, 12>& values, int from, int to)
-{
-    for (int slot = from; slot <= to; ++slot)
-        values.at(static_cast<std::size_t>(slot)).clear();
-}
-
-std::string trimmed(const Value& value)
-{
-    return std::string(trim_blanks(value.text()));
 }
 
 void plain_title(int row)

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "figures/PassOver.h"
+#include "figures/Shared.h"
+#include "figures/Slots.h"
 #include "frame/MainForm.h"
-#include "frame/PassOver.h"
-#include "frame/Shared.h"
 
 #include <concepts>
 #include <string>
@@ -17,9 +18,6 @@ void enter_section(std::uint8_t section);
 /// The same for a page that is filled anew, also when it is the one on show.
 void announce_section(std::uint8_t section);
 
-/// Empties the slots `from` to `to` of a value buffer.
-void clear(std::array<std::string, 12>& values, int from, int to);
-
 /// Shows a line across the page, `below` pixels under the top of a row's title; its ends stay where
 /// they are from left to right.
 void place_line(Line& line, int row, int below);
@@ -29,9 +27,6 @@ void hide(auto&... controls)
 {
     ((controls.Visible = false), ...);
 }
-
-/// A text without the blanks at its ends.
-std::string trimmed(const Value& value);
 
 /// Gives a row's title its normal look back: the Summary page makes headings of rows 1 and 8.
 void plain_title(int row);

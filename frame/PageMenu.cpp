@@ -1,6 +1,6 @@
+#include "figures/Platform.h"
 #include "frame/F1Events.h"
 #include "frame/MainForm.h"
-#include "frame/Platform.h"
 
 #include <array>
 #include <cstdint>

@@ -1,9 +1,9 @@
 #include "frame/Settings.h"
 
+#include "figures/PassOver.h"
 #include "frame/Language.h"
 #include "frame/MainForm.h"
 #include "frame/Opacity.h"
-#include "frame/PassOver.h"
 #include "frame/SettingRows.h"
 #include "sources/Ascii.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/Utf8.h"
+#include "sources/Utf8.h"
 
 #include <algorithm>
 #include <string_view>

@@ -1,5 +1,5 @@
-#include "platform/linux/Edid.h"
-#include "platform/linux/MaskedBytes.h"
+#include "platform/linux/formats/Edid.h"
+#include "platform/linux/recording/MaskedBytes.h"
 
 #include "tests/platform/linux/MadeEdid.h"
 

@@ -1,6 +1,6 @@
-#include "platform/linux/NaturalOrder.h"
-#include "platform/linux/Utf8.h"
-#include "platform/linux/Volumes.h"
+#include "platform/linux/devices/Volumes.h"
+#include "platform/linux/text/NaturalOrder.h"
+#include "sources/Utf8.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -1,5 +1,5 @@
-#include "platform/linux/MaskedBytes.h"
-#include "platform/linux/Smbios.h"
+#include "platform/linux/formats/Smbios.h"
+#include "platform/linux/recording/MaskedBytes.h"
 
 #include <cstdlib>
 

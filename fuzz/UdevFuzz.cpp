@@ -1,6 +1,6 @@
 #include "fuzz/Cleanness.h"
-#include "platform/linux/MemoryDevices.h"
-#include "platform/linux/UdevDatabase.h"
+#include "platform/linux/devices/MemoryDevices.h"
+#include "platform/linux/devices/UdevDatabase.h"
 
 #include <cstdint>
 #include <cstdlib>

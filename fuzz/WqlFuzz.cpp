@@ -1,4 +1,4 @@
-#include "platform/linux/WqlCondition.h"
+#include "platform/wql/WqlCondition.h"
 
 #include <cstdint>
 

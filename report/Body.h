@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/PassOver.h"
+#include "figures/PassOver.h"
 
 #include <concepts>
 #include <initializer_list>

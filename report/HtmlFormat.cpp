@@ -1,5 +1,5 @@
-#include "frame/Program.h"
-#include "frame/StringTable.h"
+#include "figures/Program.h"
+#include "figures/StringTable.h"
 #include "report/Documents.h"
 
 namespace ostrelum {

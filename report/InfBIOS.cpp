@@ -1,5 +1,5 @@
-#include "frame/Firmware.h"
-#include "frame/Shared.h"
+#include "figures/Firmware.h"
+#include "figures/Shared.h"
 #include "report/Body.h"
 #include "report/Stages.h"
 

@@ -1,5 +1,5 @@
-#include "frame/Processor.h"
-#include "frame/Shared.h"
+#include "figures/Processor.h"
+#include "figures/Shared.h"
 #include "report/Body.h"
 #include "report/Stages.h"
 

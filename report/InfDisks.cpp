@@ -1,7 +1,7 @@
-#include "frame/HardDrives.h"
-#include "frame/Numbers.h"
-#include "frame/Shared.h"
-#include "frame/Volumes.h"
+#include "figures/HardDrives.h"
+#include "figures/Numbers.h"
+#include "figures/Shared.h"
+#include "figures/Volumes.h"
 #include "report/Body.h"
 #include "report/Stages.h"
 

@@ -1,5 +1,5 @@
-#include "frame/DisplayFigures.h"
-#include "frame/Shared.h"
+#include "figures/DisplayFigures.h"
+#include "figures/Shared.h"
 #include "report/Body.h"
 #include "report/Stages.h"
 

@@ -1,5 +1,5 @@
-#include "frame/InputFigures.h"
-#include "frame/Shared.h"
+#include "figures/InputFigures.h"
+#include "figures/Shared.h"
 #include "report/Body.h"
 #include "report/Stages.h"
 

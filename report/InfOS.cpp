@@ -1,5 +1,5 @@
-#include "frame/OperatingSystem.h"
-#include "frame/Shared.h"
+#include "figures/OperatingSystem.h"
+#include "figures/Shared.h"
 #include "report/Body.h"
 #include "report/Stages.h"
 #include "sources/LanguageCodes.h"

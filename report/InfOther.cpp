@@ -1,5 +1,5 @@
-#include "frame/OtherHardware.h"
-#include "frame/Shared.h"
+#include "figures/OtherHardware.h"
+#include "figures/Shared.h"
 #include "report/Body.h"
 #include "report/Stages.h"
 

@@ -1,5 +1,5 @@
-#include "frame/MemoryModules.h"
-#include "frame/Page.h"
+#include "figures/MemoryModules.h"
+#include "figures/Slots.h"
 #include "report/Body.h"
 #include "report/Stages.h"
 #include "sources/MemoryCodes.h"

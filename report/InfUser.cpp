@@ -1,5 +1,5 @@
-#include "frame/Account.h"
-#include "frame/Shared.h"
+#include "figures/Account.h"
+#include "figures/Shared.h"
 #include "report/Body.h"
 #include "report/Stages.h"
 #include "sources/Texts.h"

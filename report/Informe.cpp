@@ -1,9 +1,9 @@
 #include "report/Informe.h"
 
-#include "frame/Figures.h"
-#include "frame/PassOver.h"
-#include "frame/Platform.h"
-#include "frame/Program.h"
+#include "figures/Figures.h"
+#include "figures/PassOver.h"
+#include "figures/Platform.h"
+#include "figures/Program.h"
 #include "report/Body.h"
 #include "report/Documents.h"
 #include "report/ReportForm.h"

@@ -1,5 +1,5 @@
-#include "frame/PassOver.h"
-#include "frame/Platform.h"
+#include "figures/PassOver.h"
+#include "figures/Platform.h"
 #include "report/AnsiText.h"
 #include "report/Documents.h"
 #include "report/Report.h"

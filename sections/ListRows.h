@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/Volumes.h"
+#include "figures/Volumes.h"
 
 #include <string>
 

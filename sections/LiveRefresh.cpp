@@ -1,4 +1,4 @@
-#include "frame/OperatingSystem.h"
+#include "figures/OperatingSystem.h"
 #include "frame/Page.h"
 #include "sections/BatteryRows.h"
 #include "sections/MemoryRows.h"

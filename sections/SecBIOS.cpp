@@ -1,4 +1,4 @@
-#include "frame/Firmware.h"
+#include "figures/Firmware.h"
 #include "frame/Page.h"
 #include "sections/Sections.h"
 

@@ -1,5 +1,5 @@
+#include "figures/Processor.h"
 #include "frame/Page.h"
-#include "frame/Processor.h"
 #include "sections/Sections.h"
 
 namespace ostrelum {

@@ -1,4 +1,4 @@
-#include "frame/Computer.h"
+#include "figures/Computer.h"
 #include "frame/Page.h"
 #include "sections/Sections.h"
 #include "sources/Texts.h"

@@ -1,5 +1,5 @@
-#include "frame/HardDrives.h"
-#include "frame/Numbers.h"
+#include "figures/HardDrives.h"
+#include "figures/Numbers.h"
 #include "frame/Page.h"
 #include "sections/ListRows.h"
 #include "sections/Sections.h"

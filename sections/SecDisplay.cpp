@@ -1,4 +1,4 @@
-#include "frame/DisplayFigures.h"
+#include "figures/DisplayFigures.h"
 #include "frame/Page.h"
 #include "sections/Sections.h"
 

@@ -1,4 +1,4 @@
-#include "frame/InputFigures.h"
+#include "figures/InputFigures.h"
 #include "frame/Page.h"
 #include "sections/Sections.h"
 

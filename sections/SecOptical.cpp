@@ -1,4 +1,4 @@
-#include "frame/Figures.h"
+#include "figures/Figures.h"
 #include "frame/Page.h"
 #include "sections/ListRows.h"
 #include "sections/MediaPage.h"

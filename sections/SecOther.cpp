@@ -1,4 +1,4 @@
-#include "frame/OtherHardware.h"
+#include "figures/OtherHardware.h"
 #include "frame/Page.h"
 #include "sections/BatteryRows.h"
 #include "sections/Sections.h"

@@ -1,4 +1,4 @@
-#include "frame/MemoryModules.h"
+#include "figures/MemoryModules.h"
 #include "frame/Page.h"
 #include "sections/MemoryRows.h"
 #include "sections/Sections.h"

@@ -1,5 +1,5 @@
-#include "frame/Figures.h"
-#include "frame/OtherHardware.h"
+#include "figures/Figures.h"
+#include "figures/OtherHardware.h"
 #include "frame/Page.h"
 #include "sections/Sections.h"
 

@@ -1,5 +1,5 @@
-#include "frame/Account.h"
-#include "frame/Figures.h"
+#include "figures/Account.h"
+#include "figures/Figures.h"
 #include "frame/Page.h"
 #include "sections/Sections.h"
 #include "sections/SystemRows.h"

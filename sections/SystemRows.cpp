@@ -1,6 +1,6 @@
 #include "sections/SystemRows.h"
 
-#include "frame/Figures.h"
+#include "figures/Figures.h"
 #include "frame/Page.h"
 
 namespace ostrelum {

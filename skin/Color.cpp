@@ -1,5 +1,5 @@
+#include "figures/Shared.h"
 #include "frame/MainForm.h"
-#include "frame/Shared.h"
 #include "skin/Pixels.h"
 #include "skin/Skin.h"
 

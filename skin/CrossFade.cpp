@@ -1,6 +1,6 @@
+#include "figures/Shared.h"
 #include "frame/MainForm.h"
 #include "frame/PictureForm.h"
-#include "frame/Shared.h"
 #include "skin/BlendPicture.h"
 #include "skin/Skin.h"
 

@@ -1,9 +1,9 @@
+#include "figures/Platform.h"
 #include "frame/Language.h"
 #include "frame/MainForm.h"
 #include "frame/Navigation.h"
 #include "frame/Opacity.h"
 #include "frame/Page.h"
-#include "frame/Platform.h"
 #include "frame/Settings.h"
 #include "skin/Skin.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "frame/Platform.h"
+#include "figures/Platform.h"
+#include "figures/Shared.h"
 #include "frame/SettingRows.h"
-#include "frame/Shared.h"
 #include "platform/memory/MemorySystem.h"
 #include "platform/memory/MemoryToolkit.h"
 #include "platform/memory/ScriptedService.h"

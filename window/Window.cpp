@@ -1,11 +1,11 @@
 #include "window/Window.h"
 
+#include "figures/Platform.h"
 #include "frame/Life.h"
 #include "frame/Pictures.h"
-#include "frame/Platform.h"
 #include "platform/linux/LinuxManagementService.h"
 #include "platform/linux/LinuxSystem.h"
-#include "platform/linux/MachineShell.h"
+#include "platform/linux/services/MachineShell.h"
 #include "platform/qt/QtBackEnd.h"
 
 namespace ostrelum {

@@ -1,4 +1,4 @@
-#include "platform/linux/Sysroot.h"
+#include "platform/linux/files/Sysroot.h"
 #include "platform/system/Failure.h"
 #include "window/Window.h"
 

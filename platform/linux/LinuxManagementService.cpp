@@ -1,9 +1,9 @@
 #include "platform/linux/LinuxManagementService.h"
 
-#include "platform/linux/ClassQuery.h"
-#include "platform/linux/Classes.h"
-#include "platform/linux/Wql.h"
+#include "platform/linux/classes/Classes.h"
 #include "platform/system/Failure.h"
+#include "platform/wql/ClassQuery.h"
+#include "platform/wql/Wql.h"
 
 #include <utility>
 
@@ -20,7 +20,8 @@ public:
         const LinuxClass* asked = find_linux_class(query.class_name);
         if (!asked)
             throw Failure("no such class: " + query.class_name);
-        return run_query(query, *asked, machine_);
+        return run_query(query, *asked->schema,
+                         [&](const ObjectVisitor& visit) { asked->each_object(machine_, visit); });
     }
 
 private:

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/Sysroot.h"
+#include "platform/linux/files/Sysroot.h"
 #include "platform/system/Screens.h"
 #include "sources/ManagementService.h"
 

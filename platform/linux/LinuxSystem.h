@@ -1,12 +1,12 @@
 #pragma once
 
-#include "platform/linux/Clock.h"
-#include "platform/linux/Environment.h"
-#include "platform/linux/FileWriter.h"
-#include "platform/linux/Machine.h"
-#include "platform/linux/Regional.h"
-#include "platform/linux/Registry.h"
-#include "platform/linux/Shell.h"
+#include "platform/linux/services/Clock.h"
+#include "platform/linux/services/Environment.h"
+#include "platform/linux/services/FileWriter.h"
+#include "platform/linux/services/Machine.h"
+#include "platform/linux/services/Regional.h"
+#include "platform/linux/services/Registry.h"
+#include "platform/linux/services/Shell.h"
 #include "platform/system/Failure.h"
 #include "sources/Ascii.h"
 

@@ -1,8 +1,9 @@
-#include "platform/linux/Environment.h"
-#include "platform/linux/Facts.h"
-#include "platform/linux/KernelMode.h"
-#include "platform/linux/NvidiaMemory.h"
-#include "platform/linux/SpaceInTime.h"
+#include "platform/linux/accounts/AccountsService.h"
+#include "platform/linux/devices/KernelMode.h"
+#include "platform/linux/devices/NvidiaMemory.h"
+#include "platform/linux/devices/SpaceInTime.h"
+#include "platform/linux/files/Facts.h"
+#include "platform/linux/services/Environment.h"
 
 #include <array>
 #include <ctime>

@@ -5,7 +5,7 @@
 namespace ostrelum {
 
 /// The one way in which an operation of the machine fails: a query refused, a value missing or of
-/// the wrong kind, a write without rights. Only the helpers of frame/PassOver.h catch it.
+/// the wrong kind, a write without rights. Only the helpers of figures/PassOver.h catch it.
 class Failure : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;

@@ -1,6 +1,6 @@
-#include "platform/linux/Accounts.h"
-#include "platform/linux/AccountsService.h"
-#include "platform/linux/LoginRecords.h"
+#include "platform/linux/accounts/Accounts.h"
+#include "platform/linux/accounts/AccountsService.h"
+#include "platform/linux/formats/LoginRecords.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/linux/DeviceNames.h"
+#include "platform/linux/devices/DeviceNames.h"
 
 #include "tests/platform/linux/MadeHardwareDatabase.h"
 #include "tests/platform/linux/TemporaryFolder.h"

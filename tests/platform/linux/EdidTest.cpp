@@ -1,4 +1,4 @@
-#include "platform/linux/Edid.h"
+#include "platform/linux/formats/Edid.h"
 
 #include "tests/platform/linux/MadeEdid.h"
 

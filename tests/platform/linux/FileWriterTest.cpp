@@ -1,4 +1,4 @@
-#include "platform/linux/FileWriter.h"
+#include "platform/linux/services/FileWriter.h"
 
 #include "platform/system/Failure.h"
 #include "tests/platform/linux/TemporaryFolder.h"

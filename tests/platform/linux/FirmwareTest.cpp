@@ -1,4 +1,4 @@
-#include "platform/linux/Placeholder.h"
+#include "platform/linux/formats/Placeholder.h"
 #include "platform/system/Failure.h"
 #include "tests/Split.h"
 #include "tests/platform/linux/MadeMachine.h"

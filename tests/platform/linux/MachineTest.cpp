@@ -1,7 +1,7 @@
-#include "platform/linux/Machine.h"
+#include "platform/linux/services/Machine.h"
 
-#include "platform/linux/Clock.h"
-#include "platform/linux/MouseButtons.h"
+#include "platform/linux/formats/MouseButtons.h"
+#include "platform/linux/services/Clock.h"
 #include "platform/system/Failure.h"
 #include "tests/platform/linux/TemporaryFolder.h"
 

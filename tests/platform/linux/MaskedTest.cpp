@@ -1,8 +1,8 @@
-#include "platform/linux/Edid.h"
-#include "platform/linux/MaskedBytes.h"
-#include "platform/linux/MaskedTexts.h"
-#include "platform/linux/Smbios.h"
-#include "platform/linux/WholeFile.h"
+#include "platform/linux/files/WholeFile.h"
+#include "platform/linux/formats/Edid.h"
+#include "platform/linux/formats/Smbios.h"
+#include "platform/linux/recording/MaskedBytes.h"
+#include "platform/linux/recording/MaskedTexts.h"
 #include "tests/platform/linux/MadeEdid.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
-#include "platform/linux/Recorder.h"
-#include "platform/linux/Facts.h"
-#include "platform/linux/HardwareDatabase.h"
+#include "platform/linux/recording/Recorder.h"
+#include "platform/linux/devices/HardwareDatabase.h"
+#include "platform/linux/files/Facts.h"
 #include "tests/platform/linux/TemporaryFolder.h"
 
 #include <gtest/gtest.h>

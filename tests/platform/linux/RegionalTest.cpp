@@ -1,4 +1,4 @@
-#include "platform/linux/Regional.h"
+#include "platform/linux/services/Regional.h"
 
 #include "platform/system/Failure.h"
 

@@ -1,4 +1,4 @@
-#include "platform/linux/SettingsStore.h"
+#include "platform/linux/services/SettingsStore.h"
 
 #include "tests/platform/linux/TemporaryFolder.h"
 

@@ -1,4 +1,4 @@
-#include "platform/linux/SettingsText.h"
+#include "platform/linux/formats/SettingsText.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "platform/linux/Shell.h"
+#include "platform/linux/services/Shell.h"
 
-#include "platform/linux/UserFolders.h"
+#include "platform/linux/services/UserFolders.h"
 #include "tests/platform/linux/TemporaryFolder.h"
 
 #include <gtest/gtest.h>

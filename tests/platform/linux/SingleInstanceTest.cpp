@@ -1,4 +1,4 @@
-#include "platform/linux/SingleInstance.h"
+#include "platform/linux/services/SingleInstance.h"
 
 #include "tests/platform/linux/TemporaryFolder.h"
 

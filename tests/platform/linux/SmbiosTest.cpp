@@ -1,4 +1,4 @@
-#include "platform/linux/Smbios.h"
+#include "platform/linux/formats/Smbios.h"
 
 #include <gtest/gtest.h>
 #include <string>

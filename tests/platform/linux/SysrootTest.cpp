@@ -1,6 +1,6 @@
-#include "platform/linux/Sysroot.h"
+#include "platform/linux/files/Sysroot.h"
 
-#include "platform/linux/UdevDatabase.h"
+#include "platform/linux/devices/UdevDatabase.h"
 #include "platform/system/Failure.h"
 #include "tests/platform/linux/TemporaryFolder.h"
 

@@ -1,4 +1,4 @@
-#include "platform/linux/Volumes.h"
+#include "platform/linux/devices/Volumes.h"
 
 #include <gtest/gtest.h>
 

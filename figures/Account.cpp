@@ -1,0 +1,106 @@
+#include "figures/Account.h"
+
+#include "figures/Figures.h"
+#include "figures/Numbers.h"
+#include "figures/PassOver.h"
+#include "figures/Slots.h"
+#include "sources/CodeTable.h"
+
+namespace ostrelum {
+namespace {
+
+/// A code and the key of its text in Trad.
+using Row = CodeRow<std::size_t>;
+
+/// DMTF CIM schema as the service extends it, Win32_UserAccount.AccountType.
+constexpr auto account_types =
+    std::to_array<Row>({{256, 39}, {512, 40}, {2048, 41}, {4096, 42}, {8192, 43}});
+static_assert(rising(account_types));
+
+/// DMTF CIM schema as the service extends it, Win32_NetworkLoginProfile.Privileges.
+constexpr auto privileges = std::to_array<Row>({{0, 45}, {1, 46}, {2, 47}});
+static_assert(rising(privileges));
+
+template <std::size_t Count>
+std::string word_of(const std::array<Row, Count>& rows, const std::string& code)
+{
+    const Row* row = find_code(rows, code);
+    return row ? Trad[row->text] : "";
+}
+
+bool names_the_account(const Instance& item, const char* property)
+{
+    return holds([&] { return trimmed(item[property]) == Datos[1]; });
+}
+
+bool read_rights(const Instance& item)
+{
+    if (!names_the_account(item, "Name"))
+        return false;
+    attempt([&] { Datos[2] = trimmed(item["Domain"]); });
+    attempt([&] { Datos[3] = trimmed(item["AccountType"]); });
+    attempt([&] { Datos[5] = trimmed(item["PasswordChangeable"]); });
+    attempt([&] { Datos[6] = trimmed(item["PasswordExpires"]); });
+    return true;
+}
+
+bool read_logons(const Instance& item)
+{
+    if (!names_the_account(item, "Caption"))
+        return false;
+    attempt([&] { Datos[4] = trimmed(item["Privileges"]); });
+    attempt([&] { Datos[7] = trimmed(item["BadPasswordCount"]); });
+    attempt([&] { Datos[8] = trimmed(item["LastLogon"]); });
+    attempt([&] { Datos[9] = trimmed(item["NumberOfLogons"]); });
+    return true;
+}
+
+} // namespace
+
+void read_account()
+{
+    clear(Datos, 1, 9);
+    attempt([] { Datos[1] = trimmed(platform.machine->Environ("UserName")); });
+    query("Select Domain, AccountType, PasswordChangeable, PasswordExpires from "
+          "Win32_UserAccount");
+    first_match(WmiResult, read_rights);
+    query("Select Caption, Privileges, BadPasswordCount, LastLogon, NumberOfLogons from "
+          "Win32_NetworkLoginProfile");
+    first_match(WmiResult, read_logons);
+}
+
+std::string account_type()
+{
+    return word_of(account_types, Datos[3]);
+}
+
+std::string privilege_level()
+{
+    return word_of(privileges, Datos[4]);
+}
+
+std::string yes_or_no(const std::string& slot)
+{
+    std::string word;
+    attempt([&] { word = Trad[Value(slot).truth() ? 49 : 50]; });
+    return word;
+}
+
+std::string bad_passwords()
+{
+    return at_least(Datos[7], 0) ? Datos[7] : "";
+}
+
+std::string logon_time()
+{
+    std::string time;
+    attempt([&] { time = FillMark(Trad[54], "(HHMMSS)", WmiTimeText(Datos[8])); });
+    return time;
+}
+
+std::string logon_count()
+{
+    return at_least(Datos[9], 1) ? FillMark(Trad[57], "(#)", Datos[9]) : "";
+}
+
+} // namespace ostrelum

@@ -1,0 +1,80 @@
+#include "figures/InputFigures.h"
+
+#include "figures/Numbers.h"
+#include "figures/PassOver.h"
+#include "figures/Platform.h"
+#include "figures/Slots.h"
+#include "sources/CodeTable.h"
+
+namespace ostrelum {
+namespace {
+
+/// The key of a text in Trad, or a text that is the same in all languages.
+struct Word {
+    std::size_t key = 0;
+    const char* fixed = "";
+};
+
+/// DMTF CIM schema as the service extends it, Win32_PointingDevice.DeviceInterface.
+constexpr auto interfaces = std::to_array<CodeRow<Word>>({
+    {3, {.key = 129}},
+    {4, {.fixed = "PS/2"}},
+    {5, {.key = 130}},
+    {162, {.fixed = "USB"}},
+});
+static_assert(rising(interfaces));
+
+/// DMTF CIM schema, CIM_PointingDevice.Handedness.
+constexpr auto hands = std::to_array<CodeRow<Word>>({
+    {1, {.key = 132}},
+    {2, {.key = 133}},
+    {3, {.key = 134}},
+});
+static_assert(rising(hands));
+
+template <std::size_t Count>
+std::string word_of(const std::array<CodeRow<Word>, Count>& rows, const std::string& code)
+{
+    const CodeRow<Word>* row = find_code(rows, code);
+    if (!row)
+        return "";
+    return row->text.key != 0 ? Trad[row->text.key] : row->text.fixed;
+}
+
+} // namespace
+
+void read_input()
+{
+    clear(Datos, 1, 7);
+    query("Select Name, Description from Win32_Keyboard");
+    first(WmiResult, [](const Instance& item) {
+        attempt([&] { Datos[1] = trimmed(item["Name"]); });
+        attempt([&] { Datos[2] = trimmed(item["Description"]); });
+    });
+    query("Select Name, Manufacturer, DeviceInterface, Handedness from Win32_PointingDevice");
+    first(WmiResult, [](const Instance& item) {
+        attempt([&] { Datos[3] = trimmed(item["Name"]); });
+        attempt([&] { Datos[4] = trimmed(item["Manufacturer"]); });
+        attempt([&] { Datos[6] = trimmed(item["DeviceInterface"]); });
+        attempt([&] { Datos[7] = trimmed(item["Handedness"]); });
+    });
+    attempt(
+        [] { Datos[5] = std::to_string(platform.machine->GetSystemMetrics(SM_CMOUSEBUTTONS)); });
+}
+
+std::string mouse_buttons()
+{
+    return at_least(Datos[5], 2) ? Datos[5] : "";
+}
+
+std::string pointer_interface()
+{
+    return word_of(interfaces, Datos[6]);
+}
+
+std::string handedness()
+{
+    return word_of(hands, Datos[7]);
+}
+
+} // namespace ostrelum

@@ -1,0 +1,85 @@
+#include "figures/OperatingSystem.h"
+
+#include "figures/Figures.h"
+#include "figures/Numbers.h"
+#include "figures/PassOver.h"
+#include "figures/Slots.h"
+#include "figures/TwoForms.h"
+#include "sources/Characters.h"
+
+#include <array>
+#include <cmath>
+
+namespace ostrelum {
+namespace {
+
+/// "6.1.7601" as "6.1, 7601".
+std::string version_and_build(const std::string& version)
+{
+    return first_characters(version, 3) + ", " + last_characters(version, 4);
+}
+
+/// The last statement is the one that only MemoryFigures::TotalAndUsed asks for.
+constexpr std::array<Statement, 11> walk{
+    [](const Instance& item) { Datos[1] = trimmed(item["Caption"]); },
+    [](const Instance& item) { Datos[2] = version_and_build(trimmed(item["Version"])); },
+    [](const Instance& item) { Datos[3] = trimmed(item["ServicePackMajorVersion"]); },
+    [](const Instance& item) { Datos[4] = TempStr == "1" ? trimmed(item["OSArchitecture"]) : ""; },
+    [](const Instance& item) { Datos[5] = trimmed(item["SerialNumber"]); },
+    [](const Instance& item) { Datos[7] = trimmed(item["OSLanguage"]); },
+    [](const Instance& item) { Datos[8] = trimmed(item["RegisteredUser"]); },
+    [](const Instance& item) { Datos[9] = trimmed(item["NumberOfProcesses"]); },
+    [](const Instance& item) { Datos[10] = trimmed(item["InstallDate"]); },
+    [](const Instance& item) { Num1 = virtual_memory(item); },
+    [](const Instance& item) { Num2 = virtual_memory_in_use(item); },
+};
+
+} // namespace
+
+bool read_operating_system(MemoryFigures figures)
+{
+    clear(Datos, 1, 10);
+    Num1 = Num2 = 0;
+    const bool all = read_long_or_short(
+        "Select Caption, FreeVirtualMemory, InstallDate, NumberOfProcesses, OSLanguage, "
+        "RegisteredUser, SerialNumber, ServicePackMajorVersion, TotalVirtualMemorySize, Version, "
+        "OSArchitecture from Win32_OperatingSystem",
+        "Select Caption, FreeVirtualMemory, InstallDate, NumberOfProcesses, OSLanguage, "
+        "RegisteredUser, SerialNumber, ServicePackMajorVersion, TotalVirtualMemorySize, Version "
+        "from Win32_OperatingSystem",
+        std::span(walk).first(figures == MemoryFigures::Total ? walk.size() - 1 : walk.size()));
+    attempt([] { Datos[6] = trimmed(ProductKeyText()); });
+    return all;
+}
+
+std::int32_t virtual_memory(const Instance& item)
+{
+    return rounded_down(item["TotalVirtualMemorySize"].number() / 1024);
+}
+
+std::int32_t virtual_memory_in_use(const Instance& item)
+{
+    return Value(Num1 - std::floor(item["FreeVirtualMemory"].number() / 1024)).whole();
+}
+
+std::string service_pack()
+{
+    return at_least(Datos[3], 1) ? FillMark(Trad[72], "(#)", Datos[3]) : Trad[73];
+}
+
+std::string process_count(const std::string& count)
+{
+    return at_least(count, 1) ? count : "";
+}
+
+std::string install_date()
+{
+    std::string date;
+    attempt([&] {
+        TempStr = FillMark(Trad[80], "(DDMMYYYY)", WmiDateText(Datos[10]));
+        date = FillMark(TempStr, "(HHMMSS)", WmiTimeText(Datos[10]));
+    });
+    return date;
+}
+
+} // namespace ostrelum

@@ -1,0 +1,80 @@
+#include "figures/Processor.h"
+
+#include "figures/Figures.h"
+#include "figures/Numbers.h"
+#include "figures/PassOver.h"
+#include "figures/Slots.h"
+#include "figures/TwoForms.h"
+#include "sources/CodeTable.h"
+
+namespace ostrelum {
+namespace {
+
+constexpr std::array<Statement, 9> walk{
+    [](const Instance& item) { Datos[1] = trimmed(item["Name"]); },
+    [](const Instance& item) { Num1 = item["CurrentClockSpeed"].whole(); },
+    [](const Instance& item) { Num2 = item["MaxClockSpeed"].whole(); },
+    [](const Instance& item) { Datos[3] = trimmed(item["Manufacturer"]); },
+    [](const Instance& item) { Datos[4] = trimmed(item["Caption"]); },
+    [](const Instance& item) { Datos[5] = trimmed(item["SocketDesignation"]); },
+    [](const Instance& item) { Datos[6] = trimmed(item["Architecture"]); },
+    [](const Instance& item) { Datos[7] = trimmed(item["L2CacheSize"]); },
+    [](const Instance& item) { Datos[8] = TempStr == "1" ? trimmed(item["L3CacheSize"]) : ""; },
+};
+
+/// DMTF CIM schema as the service extends it, Win32_Processor.Architecture: the two kinds of which
+/// the page knows the name.
+constexpr auto architectures = std::to_array<CodeRow<std::string_view>>({{0, "x86"}, {9, "x64"}});
+static_assert(rising(architectures));
+
+std::string megahertz(std::int32_t speed)
+{
+    return WholeText(speed) + " Mhz";
+}
+
+} // namespace
+
+void read_processor()
+{
+    clear(Datos, 1, 8);
+    Num1 = Num2 = 0;
+    read_long_or_short("Select Architecture, Caption, CurrentClockSpeed, L2CacheSize, L3CacheSize, "
+                       "Manufacturer, MaxClockSpeed, Name, SocketDesignation from Win32_Processor",
+                       "Select Architecture, Caption, CurrentClockSpeed, L2CacheSize, "
+                       "Manufacturer, MaxClockSpeed, Name, SocketDesignation from Win32_Processor",
+                       walk);
+    attempt([] {
+        SysInfo = platform.machine->GetOstrelum();
+        Datos[2] = WholeText(SysInfo.dwNumberOfProcessors);
+    });
+}
+
+ClockFigure clock_figure()
+{
+    if (Num2 <= 0)
+        return {0, ""};
+    if (Num1 <= 0 || Num1 >= Num2)
+        return {83, megahertz(Num2)};
+    const std::string share = WholeText(PercentFloor(Num1, Num2));
+    return {82, megahertz(Num1) + " (" + share + "%) / " + megahertz(Num2) + " (100%)"};
+}
+
+std::string processor_count()
+{
+    return at_least(Datos[2], 1) ? Datos[2] : "";
+}
+
+std::string architecture()
+{
+    const auto* row = find_code(architectures, Datos[6]);
+    return row ? std::string(row->text) : "";
+}
+
+std::string cache_size(const std::string& slot)
+{
+    std::string size;
+    attempt([&] { size = CacheText(slot); });
+    return size;
+}
+
+} // namespace ostrelum

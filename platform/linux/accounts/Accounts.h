@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/linux/files/MachineView.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ostrelum {
+
+/// A line of /etc/passwd (passwd(5)).
+struct Account {
+    std::string name;
+    std::uint64_t uid = 0;
+    std::uint64_t gid = 0;
+    /// Empty if none is told.
+    std::string full_name;
+};
+
+/// The lines that are whole: a name, and numbers for user and group.
+std::vector<Account> parse_passwd(std::string_view text);
+
+/// Numbers of the accounts that are made for persons (login.defs(5)).
+struct PersonRange {
+    std::uint64_t lowest = 1000;
+    std::uint64_t highest = 60000;
+    bool holds(std::uint64_t uid) const { return uid >= lowest && uid <= highest; }
+};
+
+PersonRange person_range(const Sysroot& root);
+
+/// Whether /etc/group (group(5)) makes the account a member of one of the groups that may
+/// administer the machine.
+bool administers(std::string_view groups, const Account& account);
+
+/// The accounts of root, of persons, and of the user who runs the program, in the order of
+/// /etc/passwd; the last of them behind the others if that file does not have it. Directories on
+/// the network are not asked for all that they hold: they may not answer.
+std::vector<Account> local_accounts(const MachineView& machine);
+
+} // namespace ostrelum

@@ -1,0 +1,138 @@
+#include "platform/linux/accounts/AccountsService.h"
+
+#include <chrono>
+#include <memory>
+#include <string>
+#include <systemd/sd-bus.h>
+#include <unistd.h>
+
+namespace ostrelum {
+namespace {
+
+constexpr const char* BusSocket = "/run/dbus/system_bus_socket";
+constexpr const char* Service = "org.freedesktop.Accounts";
+constexpr const char* User = "org.freedesktop.Accounts.User";
+
+struct Release {
+    void operator()(sd_bus* bus) const { sd_bus_close_unref(bus); }
+    void operator()(sd_bus_message* message) const { sd_bus_message_unref(message); }
+};
+using Bus = std::unique_ptr<sd_bus, Release>;
+using Message = std::unique_ptr<sd_bus_message, Release>;
+
+/// The end of all waiting for one answer, greetings of the bus included.
+class Deadline {
+public:
+    /// Microseconds.
+    std::uint64_t left() const
+    {
+        using std::chrono::microseconds;
+        const auto span = std::chrono::duration_cast<microseconds>(end_ - Clock::now()).count();
+        return span > 0 ? static_cast<std::uint64_t>(span) : 0;
+    }
+
+private:
+    using Clock = std::chrono::steady_clock;
+    Clock::time_point end_ = Clock::now() + std::chrono::milliseconds(500);
+};
+
+/// Lets the bus greet us. A call would do it too, but waits 25 seconds for that.
+bool becomes_ready(sd_bus* bus, const Deadline& deadline)
+{
+    while (sd_bus_is_ready(bus) <= 0) {
+        const int done = sd_bus_process(bus, nullptr);
+        if (done < 0)
+            return false;
+        const std::uint64_t left = deadline.left();
+        if (left == 0 || (done == 0 && sd_bus_wait(bus, left) < 0))
+            return false;
+    }
+    return true;
+}
+
+/// The object of an account on the system bus.
+class UserObject {
+public:
+    explicit UserObject(std::uint64_t uid)
+    {
+        sd_bus* bus = nullptr;
+        if (access(BusSocket, F_OK) != 0 || sd_bus_open_system(&bus) < 0)
+            return;
+        bus_.reset(bus);
+        if (!becomes_ready(bus, deadline_) || !limit_call())
+            return;
+        sd_bus_message* raw = nullptr;
+        sd_bus_call_method(bus, Service, "/org/freedesktop/Accounts", Service, "FindUserById",
+                           nullptr, &raw, "x", static_cast<std::int64_t>(uid));
+        const Message answer(raw);
+        const char* path = nullptr;
+        if (answer && sd_bus_message_read(answer.get(), "o", &path) > 0)
+            path_ = path;
+    }
+
+    /// Its answer to a method without parameters; empty for none.
+    Message call(const char* method) const
+    {
+        sd_bus_message* raw = nullptr;
+        if (!path_.empty() && limit_call())
+            sd_bus_call_method(bus_.get(), Service, path_.c_str(), User, method, nullptr, &raw, "");
+        return Message(raw);
+    }
+
+    std::optional<std::int64_t> number(const char* property) const
+    {
+        std::int64_t number = 0;
+        if (path_.empty() || !limit_call() ||
+            sd_bus_get_property_trivial(bus_.get(), Service, path_.c_str(), User, property, nullptr,
+                                        'x', &number) < 0)
+            return std::nullopt;
+        return number;
+    }
+
+private:
+    /// False if the time is over; the bus would take a limit of 0 for its own long one.
+    bool limit_call() const
+    {
+        const std::uint64_t left = deadline_.left();
+        return left != 0 && sd_bus_set_method_call_timeout(bus_.get(), left) >= 0;
+    }
+
+    Deadline deadline_;
+    Bus bus_;
+    /// Empty if the service does not know the account.
+    std::string path_;
+};
+
+std::int64_t today()
+{
+    using Days = std::chrono::duration<std::int64_t, std::ratio<86400>>;
+    return std::chrono::floor<Days>(std::chrono::system_clock::now().time_since_epoch()).count();
+}
+
+} // namespace
+
+PasswordPolicy policy_of_ages(std::int64_t last_change, std::int64_t shortest, std::int64_t longest,
+                              std::int64_t today)
+{
+    constexpr std::int64_t NoEnd = 99999;
+    const bool old_enough = shortest <= 0 || last_change <= 0 || today - last_change >= shortest;
+    return {.expires = longest >= 0 && longest < NoEnd, .changeable = old_enough};
+}
+
+std::optional<PasswordPolicy> password_policy(std::uint64_t uid)
+{
+    const Message answer = UserObject(uid).call("GetPasswordExpirationPolicy");
+    std::int64_t expiry = 0, last_change = 0, shortest = 0, longest = 0, warning = 0, inactive = 0;
+    if (!answer || sd_bus_message_read(answer.get(), "xxxxxx", &expiry, &last_change, &shortest,
+                                       &longest, &warning, &inactive) <= 0)
+        return std::nullopt;
+    return policy_of_ages(last_change, shortest, longest, today());
+}
+
+std::optional<std::int64_t> login_time(std::uint64_t uid)
+{
+    const auto seconds = UserObject(uid).number("LoginTime");
+    return seconds && *seconds > 0 ? seconds : std::nullopt;
+}
+
+} // namespace ostrelum

@@ -1,0 +1,126 @@
+#include "platform/linux/classes/Classes.h"
+#include "platform/linux/devices/BlockDevices.h"
+#include "platform/linux/devices/OpticalDrives.h"
+#include "platform/linux/devices/UdevDatabase.h"
+#include "platform/linux/text/Text.h"
+
+#include <array>
+#include <vector>
+
+namespace ostrelum {
+namespace {
+
+struct Drive {
+    const MachineView& machine;
+    /// The kernel's name, such as "sr0".
+    std::string name;
+
+    UdevRecord udev() const
+    {
+        return {machine.root, "b" + device_number(machine.root, name).value_or("")};
+    }
+    std::optional<std::string> device_text(const char* file) const
+    {
+        return machine.root.text("/sys/block/" + name + "/device/" + file);
+    }
+};
+
+Value drive_name(const Drive& drive)
+{
+    if (const auto model = drive.udev().text("ID_MODEL_ENC"))
+        return *model;
+    const auto vendor = drive.device_text("vendor");
+    const auto model = drive.device_text("model");
+    if (vendor && model)
+        return *vendor + " " + *model;
+    return value_of(model);
+}
+
+Value size(const Drive& drive)
+{
+    const auto bytes = disc_bytes(drive.machine.root, drive.name);
+    return bytes ? Value(std::to_string(*bytes)) : Value();
+}
+
+/// What a drive can do, the best first: what udev says of it, the row of the kernel's own table
+/// where that has one, and the name of such a drive.
+struct Ability {
+    std::string_view udev_key;
+    std::string_view kernel_row;
+    const char* type;
+};
+constexpr std::array<Ability, 12> abilities{{
+    {"ID_CDROM_BD_R", "", "BD Writer"},
+    {"ID_CDROM_BD_RE", "", "BD Writer"},
+    {"ID_CDROM_DVD_R", "Can write DVD-R", "DVD Writer"},
+    {"ID_CDROM_DVD_RW", "", "DVD Writer"},
+    {"ID_CDROM_DVD_RAM", "Can write DVD-RAM", "DVD Writer"},
+    {"ID_CDROM_DVD_PLUS_R", "", "DVD Writer"},
+    {"ID_CDROM_DVD_PLUS_RW", "", "DVD Writer"},
+    {"ID_CDROM_BD", "", "BD-ROM"},
+    {"ID_CDROM_CD_R", "Can write CD-R", "CD Writer"},
+    {"ID_CDROM_CD_RW", "Can write CD-RW", "CD Writer"},
+    {"ID_CDROM_DVD", "Can read DVD", "DVD-ROM"},
+    {"ID_CDROM", "", "CD-ROM"},
+}};
+
+/// The kernel's table of drives (/proc/sys/dev/cdrom/info): one column for each drive, under its
+/// name.
+class KernelTable {
+public:
+    KernelTable(const Sysroot& root, std::string_view drive)
+        : text_(root.read("/proc/sys/dev/cdrom/info").value_or(""))
+    {
+        const auto names = cells("drive name");
+        column_ = static_cast<std::size_t>(std::ranges::find(names, drive) - names.begin());
+    }
+
+    bool can(std::string_view row) const
+    {
+        const auto marks = row.empty() ? std::vector<std::string_view>() : cells(row);
+        return column_ < marks.size() && marks[column_] == "1";
+    }
+
+private:
+    std::vector<std::string_view> cells(std::string_view row) const
+    {
+        return words_of(value_behind(text_, row, ':').value_or(""));
+    }
+
+    std::string text_;
+    std::size_t column_ = 0;
+};
+
+Value media_type(const Drive& drive)
+{
+    const UdevRecord udev = drive.udev();
+    const bool known_to_udev = udev.text("ID_CDROM").has_value();
+    const KernelTable kernel(drive.machine.root, drive.name);
+    for (const Ability& ability : abilities) {
+        const bool can =
+            known_to_udev ? udev.text(ability.udev_key) == "1" : kernel.can(ability.kernel_row);
+        if (can)
+            return ability.type;
+    }
+    return "CD-ROM";
+}
+
+constexpr PropertyRow<Drive> rows[] = {
+    {"MediaType", media_type},
+    {"Name", drive_name},
+    {"Size", size},
+};
+
+std::vector<Drive> drives(const MachineView& machine)
+{
+    std::vector<Drive> drives;
+    for (std::string& name : optical_drives(machine.root))
+        drives.push_back({machine, std::move(name)});
+    return drives;
+}
+
+} // namespace
+
+constinit const LinuxClass Win32_CDROMDrive = linux_class<rows, drives>("Win32_CDROMDrive");
+
+} // namespace ostrelum

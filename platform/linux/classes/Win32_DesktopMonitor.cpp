@@ -1,0 +1,85 @@
+#include "platform/linux/classes/Classes.h"
+#include "platform/linux/devices/DeviceNames.h"
+#include "platform/linux/devices/GraphicsCards.h"
+#include "platform/linux/formats/Placeholder.h"
+
+#include <vector>
+
+namespace ostrelum {
+namespace {
+
+/// A monitor by what it tells of itself, else by what the window system knows.
+struct Monitor {
+    const MachineView& machine;
+    std::optional<Edid> edid;
+    /// One that is part of the machine.
+    bool panel;
+    ScreenFact screen;
+};
+
+Value manufacturer(const Monitor& monitor)
+{
+    if (!monitor.edid)
+        return value_of(told_text(monitor.screen.maker));
+    const std::string& code = monitor.edid->maker;
+    return code.empty() ? Value() : monitor_maker(monitor.machine.root, code, monitor.panel);
+}
+
+/// Maker and number as the monitor has them, for one without any text: "LGD 0690".
+std::string code_of(const Edid& edid)
+{
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    std::string code = edid.maker + " ";
+    for (const unsigned shift : {12U, 8U, 4U, 0U})
+        code += digits[(edid.product >> shift) & 15U];
+    return code;
+}
+
+Value monitor_name(const Monitor& monitor)
+{
+    if (!monitor.edid)
+        return value_of(told_text(monitor.screen.model));
+    for (const std::string& text : {monitor.edid->name, monitor.edid->free_text}) {
+        if (const auto told = told_text(text))
+            return *told;
+    }
+    return monitor.edid->maker.empty() ? Value() : code_of(*monitor.edid);
+}
+
+constexpr PropertyRow<Monitor> rows[] = {
+    {"MonitorManufacturer", manufacturer},
+    {"Name", monitor_name},
+};
+
+bool is_panel(const Connector& connector)
+{
+    const std::string_view label = connector.label();
+    return label.starts_with("eDP-") || label.starts_with("LVDS-") || label.starts_with("DSI-");
+}
+
+/// Those of the first graphics card first. Some virtual machines and drivers have no data of
+/// monitors: the window system's screens then stand for them.
+std::vector<Monitor> monitors(const MachineView& machine)
+{
+    std::vector<Monitor> monitors;
+    for (const GraphicsCard& card : graphics_cards(machine.root)) {
+        for (const Connector& connector : connected(machine.root, card)) {
+            if (auto edid = edid_of(machine.root, connector))
+                monitors.push_back({machine, std::move(edid), is_panel(connector), {}});
+        }
+    }
+    const SessionFacts session =
+        monitors.empty() && machine.session ? machine.session() : SessionFacts{};
+    for (const ScreenFact& screen : session.screens) {
+        if (told_text(screen.model) || told_text(screen.maker))
+            monitors.push_back({machine, std::nullopt, false, screen});
+    }
+    return monitors;
+}
+
+} // namespace
+
+constinit const LinuxClass Win32_DesktopMonitor =
+    linux_class<rows, monitors>("Win32_DesktopMonitor");
+
+} // namespace ostrelum

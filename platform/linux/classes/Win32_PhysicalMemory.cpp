@@ -1,0 +1,54 @@
+#include "platform/linux/classes/Classes.h"
+#include "platform/linux/devices/MemoryDevices.h"
+
+#include <vector>
+
+namespace ostrelum {
+namespace {
+
+/// 64-bit numbers are text.
+Value capacity(const MemoryDevice& device)
+{
+    return device.capacity ? Value(std::to_string(*device.capacity)) : Value();
+}
+
+Value locator(const MemoryDevice& device)
+{
+    return value_of(device.locator);
+}
+Value form_factor(const MemoryDevice& device)
+{
+    return value_of(device.form_factor);
+}
+Value memory_type(const MemoryDevice& device)
+{
+    return value_of(device.type);
+}
+Value total_width(const MemoryDevice& device)
+{
+    return value_of(device.total_width);
+}
+
+constexpr PropertyRow<MemoryDevice> rows[] = {
+    {"Capacity", capacity},      {"DeviceLocator", locator},  {"FormFactor", form_factor},
+    {"MemoryType", memory_type}, {"TotalWidth", total_width},
+};
+
+/// The fitted modules in the firmware's order.
+std::vector<MemoryDevice> modules(const MachineView& machine)
+{
+    auto modules = published_memory(UdevRecord(machine.root, "+dmi:id"));
+    if (modules.empty()) {
+        const std::string table = machine.root.read("/sys/firmware/dmi/tables/DMI").value_or("");
+        modules =
+            memory_of_table({reinterpret_cast<const std::uint8_t*>(table.data()), table.size()});
+    }
+    return modules.empty() ? memory_of_controllers(machine.root) : modules;
+}
+
+} // namespace
+
+constinit const LinuxClass Win32_PhysicalMemory =
+    linux_class<rows, modules>("Win32_PhysicalMemory");
+
+} // namespace ostrelum

@@ -1,0 +1,132 @@
+#include "platform/linux/classes/Classes.h"
+#include "platform/linux/devices/DeviceNames.h"
+#include "platform/linux/devices/UdevDatabase.h"
+#include "platform/linux/formats/Placeholder.h"
+#include "platform/linux/text/Text.h"
+
+#include <vector>
+
+namespace ostrelum {
+namespace {
+
+constexpr std::string_view class_folder = "/sys/class/sound/";
+
+/// A codec of an HD-audio card, as Windows lists them; a card of another kind is one device.
+struct SoundDevice {
+    const MachineView& machine;
+    /// The kernel's names, such as "card0" and "hwC0D2"; no codec for a card as a whole.
+    std::string card;
+    std::string codec;
+
+    std::optional<std::string> codec_text(const char* file) const
+    {
+        const auto line = machine.root.text(std::string(class_folder) + codec + "/" + file);
+        return line ? told_text(*line) : std::nullopt;
+    }
+};
+
+/// What the sound system calls a card: " 0 [PCH            ]: HDA-Intel - HDA Intel PCH".
+std::optional<std::string> card_name(const SoundDevice& device)
+{
+    const Sysroot& root = device.machine.root;
+    const std::string number = device.card.substr(std::string_view("card").size());
+    const std::string table = root.read("/proc/asound/cards").value_or("");
+    for (const std::string_view line : lines_of(table)) {
+        const auto words = words_of(line);
+        const std::size_t dash = line.find(" - ");
+        if (words.size() > 1 && words[0] == number && words[1].starts_with('[') &&
+            dash != std::string_view::npos)
+            return text_or_none(line.substr(dash + 3));
+    }
+    return root.text(std::string(class_folder) + device.card + "/id");
+}
+
+std::optional<std::string> card_maker(const SoundDevice& device)
+{
+    const Sysroot& root = device.machine.root;
+    const UdevRecord udev(root, "+sound:" + device.card);
+    for (const char* key : {"ID_VENDOR_FROM_DATABASE", "ID_VENDOR_ENC"}) {
+        if (auto maker = udev.text(key))
+            return maker;
+    }
+    const std::string folder = std::string(class_folder) + device.card;
+    // The sound card of a USB device is one of its interfaces.
+    if (auto maker = root.text(folder + "/device/../manufacturer"))
+        return maker;
+    std::string path = root.link(folder).value_or("");
+    path.resize(std::min(path.rfind("/sound/"), path.size()));
+    return pci_names(root, path.substr(path.rfind('/') + 1)).vendor;
+}
+
+Value manufacturer(const SoundDevice& device)
+{
+    return value_of(device.codec.empty() ? card_maker(device) : device.codec_text("vendor_name"));
+}
+
+Value device_name(const SoundDevice& device)
+{
+    if (device.codec.empty())
+        return value_of(card_name(device));
+    const auto vendor = device.codec_text("vendor_name");
+    const auto chip = device.codec_text("chip_name");
+    return vendor && chip ? *vendor + " " + *chip : value_of(chip ? chip : vendor);
+}
+
+constexpr PropertyRow<SoundDevice> rows[] = {
+    {"Manufacturer", manufacturer},
+    {"Name", device_name},
+};
+
+/// Cards that programs make play into nothing, and modems are no sound cards.
+bool is_hardware(const Sysroot& root, const std::string& card)
+{
+    const std::string folder = std::string(class_folder) + card;
+    if (root.link(folder).value_or("").find("/virtual/") != std::string::npos)
+        return false;
+    bool modem = false;
+    for (const std::string& name : root.list(folder)) {
+        const auto kind = root.text(folder + "/" + name + "/pcm_class");
+        if (kind && kind != "modem")
+            return true;
+        modem = modem || kind;
+    }
+    return !modem;
+}
+
+/// The codecs of a card that play sound.
+std::vector<std::string> codecs(const Sysroot& root, const std::string& card)
+{
+    const std::string prefix = "hwC" + card.substr(std::string_view("card").size()) + "D";
+    std::vector<std::string> codecs;
+    for (std::string& name : root.list(std::string(class_folder))) {
+        const std::string folder = std::string(class_folder) + name;
+        // The function group of a modem codec is another one, and it has none for sound.
+        if (name.starts_with(prefix) && root.exists(folder + "/vendor_name") &&
+            root.text(folder + "/afg") != "0x0")
+            codecs.push_back(std::move(name));
+    }
+    return codecs;
+}
+
+/// In the order of the cards.
+std::vector<SoundDevice> sound_devices(const MachineView& machine)
+{
+    std::vector<SoundDevice> devices;
+    for (const std::string& card : machine.root.list(std::string(class_folder))) {
+        if (!card.starts_with("card") || !is_hardware(machine.root, card))
+            continue;
+        const auto parts = codecs(machine.root, card);
+        for (const std::string& codec : parts)
+            devices.push_back({machine, card, codec});
+        if (parts.empty())
+            devices.push_back({machine, card, ""});
+    }
+    return devices;
+}
+
+} // namespace
+
+constinit const LinuxClass Win32_SoundDevice =
+    linux_class<rows, sound_devices>("Win32_SoundDevice");
+
+} // namespace ostrelum

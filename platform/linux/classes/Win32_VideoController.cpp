@@ -1,0 +1,172 @@
+#include "platform/linux/classes/Classes.h"
+#include "platform/linux/devices/CurrentMode.h"
+#include "platform/linux/devices/DeviceNames.h"
+#include "platform/linux/devices/GraphicsDriver.h"
+#include "platform/linux/formats/CimDateTime.h"
+#include "platform/linux/text/Text.h"
+
+#include <limits>
+#include <vector>
+
+namespace ostrelum {
+namespace {
+
+struct Adapter {
+    const MachineView& machine;
+    GraphicsCard card;
+    bool first;
+    /// Kept, so that width and height are those of one mode even if it changes meanwhile.
+    mutable std::optional<DisplayMode> known_mode = std::nullopt;
+
+    const DisplayMode& mode() const
+    {
+        if (!known_mode)
+            known_mode = current_mode(machine, card, first);
+        return *known_mode;
+    }
+    std::optional<std::string> driver() const { return graphics_driver(machine.root, card); }
+};
+
+/// A number of a mode, in which 0 is not known.
+Value known(int number)
+{
+    return number > 0 ? Value(number) : Value();
+}
+
+int hertz(const DisplayMode& mode)
+{
+    return (mode.refresh_mHz + 500) / 1000;
+}
+
+/// Only connectors with analog lines need a converter, and it is always the chip's own.
+Value converter(const Adapter& adapter)
+{
+    for (const Connector& connector : connectors(adapter.machine.root, adapter.card)) {
+        if (connector.label().starts_with("VGA-") || connector.label().starts_with("DVI-I-"))
+            return "Internal";
+    }
+    return {};
+}
+
+/// Windows stops at 32 bits; more is given whole, as text.
+Value memory(const Adapter& adapter)
+{
+    const auto bytes = graphics_memory(adapter.machine, adapter.card);
+    if (bytes && *bytes > std::numeric_limits<std::uint32_t>::max())
+        return std::to_string(*bytes);
+    return bytes.value_or(0) > 0 ? Value(*bytes) : Value();
+}
+
+Value bits_per_pixel(const Adapter& adapter)
+{
+    return known(adapter.mode().bits_per_pixel);
+}
+
+Value width(const Adapter& adapter)
+{
+    return known(adapter.mode().width);
+}
+
+Value height(const Adapter& adapter)
+{
+    return known(adapter.mode().height);
+}
+
+Value refresh_rate(const Adapter& adapter)
+{
+    return known(hertz(adapter.mode()));
+}
+
+Value driver_date(const Adapter& adapter)
+{
+    const auto driver = adapter.driver();
+    const auto date = driver ? graphics_driver_date(adapter.machine.root, *driver) : std::nullopt;
+    return date ? value_of(cim_datetime(*date)) : Value();
+}
+
+Value driver_version(const Adapter& adapter)
+{
+    const auto driver = adapter.driver();
+    return driver ? value_of(graphics_driver_version(adapter.machine.root, *driver)) : Value();
+}
+
+Value drivers(const Adapter& adapter)
+{
+    return value_of(adapter.driver());
+}
+
+/// What the monitor follows, else what its modes need, else what is on.
+RefreshLimits limits(const Adapter& adapter)
+{
+    const auto edid = main_monitor(adapter.machine, adapter.card);
+    if (edid && edid->limits)
+        return *edid->limits;
+    if (edid && edid->rates_of_modes)
+        return *edid->rates_of_modes;
+    const int now = hertz(adapter.mode());
+    return {now, now};
+}
+
+Value highest_rate(const Adapter& adapter)
+{
+    return known(limits(adapter).highest);
+}
+
+Value lowest_rate(const Adapter& adapter)
+{
+    return known(limits(adapter).lowest);
+}
+
+/// NVIDIA's driver knows the name on the box better than databases do.
+std::optional<std::string> name_by_driver(const Adapter& adapter)
+{
+    const std::string file = "/proc/driver/nvidia/gpus/" + adapter.card.slot + "/information";
+    const auto text = adapter.card.slot.empty() ? std::nullopt : adapter.machine.root.read(file);
+    const auto model = text ? value_behind(*text, "Model", ':') : std::nullopt;
+    return model ? text_or_none(*model) : std::nullopt;
+}
+
+Value adapter_name(const Adapter& adapter)
+{
+    if (const auto name = name_by_driver(adapter))
+        return *name;
+    const PciNames names =
+        adapter.card.slot.empty() ? PciNames{} : pci_names(adapter.machine.root, adapter.card.slot);
+    if (names.vendor && names.model)
+        return std::string(bracketed_name(*names.vendor)) + " " +
+               std::string(bracketed_name(*names.model));
+    const auto driver = adapter.driver();
+    return driver || adapter.card.slot.empty()
+               ? value_of(driver)
+               : value_of(pci_code(adapter.machine.root, adapter.card.slot));
+}
+
+constexpr PropertyRow<Adapter> rows[] = {
+    {"AdapterDACType", converter},
+    {"AdapterRAM", memory},
+    {"CurrentBitsPerPixel", bits_per_pixel},
+    {"CurrentHorizontalResolution", width},
+    {"CurrentRefreshRate", refresh_rate},
+    {"CurrentVerticalResolution", height},
+    {"DriverDate", driver_date},
+    {"DriverVersion", driver_version},
+    {"InstalledDisplayDrivers", drivers},
+    {"MaxRefreshRate", highest_rate},
+    {"MinRefreshRate", lowest_rate},
+    {"Name", adapter_name},
+};
+
+std::vector<Adapter> adapters(const MachineView& machine)
+{
+    std::vector<Adapter> adapters;
+    for (GraphicsCard& card : graphics_cards(machine.root))
+        adapters.push_back({machine, std::move(card), adapters.empty()});
+    return adapters;
+}
+
+} // namespace
+
+constinit const LinuxClass Win32_VideoController =
+    linux_class<rows, adapters>("Win32_VideoController");
+
+} // namespace ostrelum

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "platform/linux/files/MachineView.h"
+#include "platform/linux/formats/CpuInfo.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace ostrelum {
+
+/// /proc/cpuinfo, read when it is first asked for: the kernel makes it anew each time, and on large
+/// machines that takes a while.
+class LateCpuInfo {
+public:
+    explicit LateCpuInfo(const Sysroot& root) : root_(root) {}
+    const CpuInfo& operator()();
+
+private:
+    const Sysroot& root_;
+    std::unique_ptr<const CpuInfo> info_;
+};
+
+/// A processor as one buys it: the logical processors of one package that are in use, in rising
+/// order.
+struct CpuPackage {
+    const MachineView& machine;
+    /// Place among the machine's packages, from 0.
+    std::size_t place = 0;
+    std::vector<std::uint64_t> cpus;
+    /// Shared by the packages.
+    std::shared_ptr<LateCpuInfo> cpuinfo;
+};
+
+/// The machine's packages by their numbers. On machines without firmware tables the kernel's
+/// package numbers are those of clusters, and all are one.
+std::vector<CpuPackage> cpu_packages(const MachineView& machine);
+
+/// A file of a logical processor under /sys/devices/system/cpu/cpuN.
+std::string cpu_file(std::uint64_t cpu, const char* name);
+
+/// Sum of the package's caches of a level in KB, those for instructions alone left out. Nothing if
+/// there is none.
+std::optional<std::uint64_t> cache_kilobytes(const CpuPackage& package, std::uint64_t level);
+
+/// The numbers of a list such as "0-3,6"; nothing inside for other text.
+std::vector<std::uint64_t> numbers_of_list(std::string_view list);
+
+} // namespace ostrelum

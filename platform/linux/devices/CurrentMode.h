@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/linux/devices/GraphicsCards.h"
+#include "platform/linux/files/MachineView.h"
+
+namespace ostrelum {
+
+/// What a graphics card shows, 0 for what is not known: on the primary screen if that is the
+/// card's, else on the first that is on. `first` marks the card that takes what belongs to no card:
+/// screens that the window system gives other names than the kernel does, and the picture that the
+/// firmware left.
+DisplayMode current_mode(const MachineView& machine, const GraphicsCard& card, bool first);
+
+/// What the monitor at that place tells of itself.
+std::optional<Edid> main_monitor(const MachineView& machine, const GraphicsCard& card);
+
+} // namespace ostrelum

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "platform/linux/files/Sysroot.h"
+#include "platform/linux/formats/Edid.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+/// Graphics cards and what is plugged into them.
+namespace ostrelum {
+
+struct GraphicsCard {
+    /// Place on the PCI bus, such as "0000:01:00.0"; empty for a card that is not on it.
+    std::string slot;
+    /// Name of its display device, such as "card0"; empty without a driver that shows modes.
+    std::string drm;
+
+    /// Folder of the device.
+    std::string folder() const;
+    bool operator==(const GraphicsCard&) const = default;
+};
+
+/// The card that the firmware started on first, since the kernel numbers them by chance; then those
+/// on PCI by place, then the others. Displays that programs make are none.
+std::vector<GraphicsCard> graphics_cards(const Sysroot& root);
+
+struct Connector {
+    /// Such as "card0-HDMI-A-1".
+    std::string name;
+
+    std::string folder() const { return "/sys/class/drm/" + name; }
+    /// What the window system calls it: "HDMI-A-1".
+    std::string_view label() const;
+};
+
+/// A card's connectors by name, with and without a monitor.
+std::vector<Connector> connectors(const Sysroot& root, const GraphicsCard& card);
+
+/// Those with a monitor.
+std::vector<Connector> connected(const Sysroot& root, const GraphicsCard& card);
+
+/// What the monitor tells of itself.
+std::optional<Edid> edid_of(const Sysroot& root, const Connector& connector);
+
+} // namespace ostrelum

@@ -1,0 +1,131 @@
+#include "platform/linux/devices/InputDevices.h"
+
+#include "platform/linux/devices/DeviceNames.h"
+#include "platform/linux/devices/UdevDatabase.h"
+#include "platform/linux/formats/MouseButtons.h"
+#include "platform/linux/text/Text.h"
+
+#include <algorithm>
+#include <array>
+
+namespace ostrelum {
+namespace {
+
+constexpr std::string_view class_folder = "/sys/class/input/";
+
+/// The folder of the device that an input device is a part of, by the link that leads to the
+/// latter. A part of a USB device stands under an interface, "1-3:1.0", which stands under the
+/// device, "1-3".
+std::string hardware_of(std::string_view link)
+{
+    const std::size_t devices = link.find("devices/");
+    std::string path = "/sys/" + std::string(link.substr(std::min(devices, link.size())));
+    path.resize(std::min(path.rfind("/input/"), path.size()));
+    for (std::size_t end = path.rfind('/'); end != std::string::npos && end > 0;
+         end = path.rfind('/', end - 1)) {
+        const std::size_t start = path.rfind('/', end - 1) + 1;
+        const std::string interface_start = path.substr(start, end - start) + ":";
+        if (path.compare(end + 1, interface_start.size(), interface_start) == 0)
+            return path.substr(0, end);
+    }
+    return path;
+}
+
+InputDevice capabilities(const Sysroot& root, const std::string& folder)
+{
+    const auto text = [&](const char* file) { return root.text(folder + file).value_or(""); };
+    return {text("/capabilities/key"), text("/capabilities/rel"), text("/capabilities/abs"),
+            text("/properties")};
+}
+
+/// Tells devices apart by what they can do, for where udev does not run.
+class ByCapability {
+public:
+    ByCapability(const Sysroot& root, const std::vector<std::string>& names) : root_(root)
+    {
+        std::vector<InputDevice> devices;
+        devices.reserve(names.size());
+        for (const std::string& name : names)
+            devices.push_back(capabilities(root, std::string(class_folder) + name));
+        word_bits_ = kernel_word_bits(devices);
+    }
+
+    bool is(InputKind kind, const std::string& folder) const
+    {
+        const InputDevice device = capabilities(root_, folder);
+        return kind == InputKind::Keyboard ? is_keyboard(device, word_bits_)
+                                           : is_pointer(device, word_bits_);
+    }
+
+private:
+    const Sysroot& root_;
+    unsigned word_bits_ = 0;
+};
+
+bool udev_says(const UdevRecord& udev, InputKind kind)
+{
+    constexpr std::array pointers = {"ID_INPUT_MOUSE", "ID_INPUT_TOUCHPAD",
+                                     "ID_INPUT_POINTINGSTICK", "ID_INPUT_TRACKBALL"};
+    const auto has = [&](const char* key) { return udev.text(key) == "1"; };
+    return kind == InputKind::Keyboard ? has("ID_INPUT_KEYBOARD")
+                                       : std::ranges::any_of(pointers, has);
+}
+
+/// The names of the kernel's mouse drivers: "SynPS/2 Synaptics TouchPad", in which "Generic" stands
+/// for a maker that did not tell.
+std::optional<std::string> maker_in_ps2_name(const std::string& name)
+{
+    const auto words = words_of(name);
+    if (words.size() < 3 || words[0].find("PS/2") == std::string_view::npos ||
+        words[1] == "Generic")
+        return std::nullopt;
+    return std::string(words[1]);
+}
+
+} // namespace
+
+std::vector<InputNode> input_nodes(const Sysroot& root, InputKind kind)
+{
+    std::vector<std::string> names = root.list(std::string(class_folder));
+    std::erase_if(names, [](const std::string& name) { return !name.starts_with("input"); });
+    std::optional<ByCapability> by_capability;
+    std::vector<InputNode> nodes;
+    for (const std::string& name : names) {
+        const std::string folder = std::string(class_folder) + name;
+        const std::string link = root.link(folder).value_or("");
+        const UdevRecord udev(root, "+input:" + name);
+        const bool known_to_udev = udev.text("ID_INPUT").has_value();
+        if (!known_to_udev && !by_capability)
+            by_capability.emplace(root, names);
+        const bool wanted = known_to_udev ? udev_says(udev, kind) : by_capability->is(kind, folder);
+        const std::string hardware = hardware_of(link);
+        const bool seen = std::ranges::find(nodes, hardware, &InputNode::hardware) != nodes.end();
+        // Programs that remap keys make devices of their own under that folder.
+        if (wanted && !seen && link.find("/virtual/input/") == std::string::npos)
+            nodes.push_back({folder, hardware});
+    }
+    return nodes;
+}
+
+std::optional<std::uint16_t> input_bus(const Sysroot& root, const InputNode& node)
+{
+    const auto number = whole_number(root.text(node.folder + "/id/bustype").value_or(""), 16);
+    return number ? std::optional(static_cast<std::uint16_t>(*number)) : std::nullopt;
+}
+
+std::optional<std::string> input_maker(const Sysroot& root, const InputNode& node)
+{
+    const auto bus = input_bus(root, node);
+    if (bus == BusI8042)
+        return maker_in_ps2_name(root.text(node.folder + "/name").value_or(""));
+    if (bus == BusUsb) {
+        if (auto told = root.text(node.hardware + "/manufacturer"))
+            return told;
+    }
+    if (bus != BusUsb && bus != BusI2c && bus != BusBluetooth)
+        return std::nullopt;
+    const auto vendor = whole_number(root.text(node.folder + "/id/vendor").value_or(""), 16);
+    return vendor ? usb_vendor(root, static_cast<std::uint16_t>(*vendor)) : std::nullopt;
+}
+
+} // namespace ostrelum

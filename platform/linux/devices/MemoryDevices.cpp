@@ -1,0 +1,217 @@
+#include "platform/linux/devices/MemoryDevices.h"
+
+#include "platform/linux/formats/Placeholder.h"
+#include "platform/linux/text/Text.h"
+
+#include <algorithm>
+#include <array>
+
+namespace ostrelum {
+namespace {
+
+/// A code of SMBIOS type 17, its text, and the code of the CIM schema.
+struct CodeText {
+    int smbios;
+    std::string_view text;
+    int cim;
+};
+
+/// DMTF DSP0134, 7.18.2 (offset 12h); CIM_PhysicalMemory.MemoryType. From 18h on the codes are the
+/// same.
+constexpr std::array<CodeText, 33> types{{
+    {0x01, "Other", 1},   {0x02, "Unknown", 0},
+    {0x03, "DRAM", 2},    {0x04, "EDRAM", 6},
+    {0x05, "VRAM", 7},    {0x06, "SRAM", 8},
+    {0x07, "RAM", 9},     {0x08, "ROM", 10},
+    {0x09, "Flash", 11},  {0x0A, "EEPROM", 12},
+    {0x0B, "FEPROM", 13}, {0x0C, "EPROM", 14},
+    {0x0D, "CDRAM", 15},  {0x0E, "3DRAM", 16},
+    {0x0F, "SDRAM", 17},  {0x10, "SGRAM", 18},
+    {0x11, "RDRAM", 19},  {0x12, "DDR", 20},
+    {0x13, "DDR2", 21},   {0x14, "DDR2 FB-DIMM", 22},
+    {0x18, "DDR3", 24},   {0x19, "FBD2", 25},
+    {0x1A, "DDR4", 26},   {0x1B, "LPDDR", 27},
+    {0x1C, "LPDDR2", 28}, {0x1D, "LPDDR3", 29},
+    {0x1E, "LPDDR4", 30}, {0x1F, "Logical non-volatile device", 31},
+    {0x20, "HBM", 32},    {0x21, "HBM2", 33},
+    {0x22, "DDR5", 34},   {0x23, "LPDDR5", 35},
+    {0x24, "HBM3", 36},
+}};
+
+/// DMTF DSP0134, 7.18.1 (offset 0Eh); CIM_Chip.FormFactor. What that schema has no code for is 1,
+/// "other".
+constexpr std::array<CodeText, 17> form_factors{{
+    {0x01, "Other", 1},
+    {0x02, "Unknown", 0},
+    {0x03, "SIMM", 7},
+    {0x04, "SIP", 2},
+    {0x05, "Chip", 1},
+    {0x06, "DIP", 3},
+    {0x07, "ZIP", 4},
+    {0x08, "Proprietary Card", 6},
+    {0x09, "DIMM", 8},
+    {0x0A, "TSOP", 9},
+    {0x0B, "Row Of Chips", 1},
+    {0x0C, "RIMM", 11},
+    {0x0D, "SODIMM", 12},
+    {0x0E, "SRIMM", 13},
+    {0x0F, "FB-DIMM", 24},
+    {0x10, "Die", 1},
+    {0x11, "CAMM", 1},
+}};
+static_assert(std::ranges::is_sorted(types, {}, &CodeText::smbios));
+static_assert(std::ranges::is_sorted(form_factors, {}, &CodeText::smbios));
+
+template <std::size_t Count>
+std::optional<int> by_text(const std::array<CodeText, Count>& rows, std::string_view text)
+{
+    const auto row = std::ranges::find(rows, text, &CodeText::text);
+    return row == rows.end() ? std::nullopt : std::optional(row->cim);
+}
+
+template <std::size_t Count>
+std::optional<int> by_code(const std::array<CodeText, Count>& rows,
+                           std::optional<std::uint8_t> code)
+{
+    const auto row = std::ranges::find(rows, code ? int{*code} : -1, &CodeText::smbios);
+    return row == rows.end() ? std::nullopt : std::optional(row->cim);
+}
+
+/// Codes behind the table's last one are the firmware's newer than this program; the schemas share
+/// them.
+std::optional<int> type_of_code(std::optional<std::uint8_t> code)
+{
+    if (code && *code > types.back().smbios)
+        return int{*code};
+    return by_code(types, code);
+}
+
+/// Chips that hold the firmware are no memory modules.
+bool holds_firmware(const MemoryDevice& device)
+{
+    constexpr int Rom = 10;
+    constexpr int Flash = 11;
+    return device.type == Rom || device.type == Flash;
+}
+
+/// What offsets 0Ch and 1Ch say; nothing inside for a size that is not known, nothing at all for an
+/// empty slot.
+std::optional<std::optional<std::uint64_t>> size_of(const SmbiosStructure& slot)
+{
+    constexpr std::uint64_t KiB = 1024;
+    const auto size = slot.word(0x0C);
+    if (!size || *size == 0)
+        return std::nullopt;
+    if (*size == 0xFFFF)
+        return std::optional<std::uint64_t>();
+    if (*size == 0x7FFF) {
+        const auto mebibytes = slot.dword(0x1C);
+        return mebibytes ? std::optional((*mebibytes & 0x7FFFFFFFULL) * KiB * KiB) : std::nullopt;
+    }
+    const std::uint64_t number = *size & 0x7FFF;
+    return std::optional(number * ((*size & 0x8000) != 0 ? KiB : KiB * KiB));
+}
+
+std::optional<int> width_of(std::optional<std::uint64_t> bits)
+{
+    return bits && *bits != 0 && *bits < 0xFFFF ? std::optional(static_cast<int>(*bits))
+                                                : std::nullopt;
+}
+
+std::optional<std::uint64_t> number_of(const std::optional<std::string>& text)
+{
+    return text ? whole_number(*text) : std::nullopt;
+}
+
+/// The slot of that number, if it is fitted.
+std::optional<MemoryDevice> published_slot(const UdevRecord& firmware, int number)
+{
+    const std::string slot = "MEMORY_DEVICE_" + std::to_string(number) + "_";
+    if (!firmware.mentions(slot))
+        return std::nullopt;
+    const auto fact = [&](const char* name) { return firmware.text(slot + name); };
+    const auto type = fact("TYPE");
+    const auto form = fact("FORM_FACTOR");
+    if ((!type && !form) || fact("PRESENT") == "0")
+        return std::nullopt;
+    const auto locator = fact("LOCATOR");
+    return MemoryDevice{.capacity = number_of(fact("SIZE")),
+                        .type = type ? memory_type_of_text(*type) : std::nullopt,
+                        .form_factor = form ? form_factor_of_text(*form) : std::nullopt,
+                        .total_width = width_of(number_of(fact("TOTAL_WIDTH"))),
+                        .locator = locator ? told_text(*locator) : std::nullopt};
+}
+
+/// The kind in a controller's own words, such as "Registered-DDR4".
+std::optional<int> type_of_words(std::string_view words)
+{
+    return memory_type_of_text(words.substr(words.rfind('-') + 1));
+}
+
+} // namespace
+
+std::optional<int> memory_type_of_text(std::string_view text)
+{
+    return by_text(types, text);
+}
+std::optional<int> form_factor_of_text(std::string_view text)
+{
+    return by_text(form_factors, text);
+}
+
+std::vector<MemoryDevice> published_memory(const UdevRecord& firmware)
+{
+    /// Numbers may have gaps; a table has no more structures than this.
+    constexpr int Most = 256;
+    std::vector<MemoryDevice> devices;
+    for (int number = 0; number < Most; ++number) {
+        const auto device = published_slot(firmware, number);
+        if (device && !holds_firmware(*device))
+            devices.push_back(*device);
+    }
+    return devices;
+}
+
+std::vector<MemoryDevice> memory_of_table(Bytes table)
+{
+    constexpr std::uint8_t MemoryDeviceType = 17;
+    std::vector<MemoryDevice> devices;
+    for (const SmbiosStructure& slot : smbios_structures(table)) {
+        const auto size = slot.type() == MemoryDeviceType ? size_of(slot) : std::nullopt;
+        if (!size)
+            continue;
+        const auto locator = slot.string(0x10);
+        MemoryDevice device{.capacity = *size,
+                            .type = type_of_code(slot.byte(0x12)),
+                            .form_factor = by_code(form_factors, slot.byte(0x0E)),
+                            .total_width = width_of(slot.word(0x08)),
+                            .locator = locator ? told_text(*locator) : std::nullopt};
+        if (!holds_firmware(device))
+            devices.push_back(std::move(device));
+    }
+    return devices;
+}
+
+std::vector<MemoryDevice> memory_of_controllers(const Sysroot& root)
+{
+    constexpr std::uint64_t MiB = 1024ULL * 1024;
+    const std::string controllers = "/sys/devices/system/edac/mc";
+    std::vector<MemoryDevice> devices;
+    for (const std::string& controller : root.list(controllers)) {
+        for (const std::string& name : root.list(controllers + "/" + controller)) {
+            const std::string folder = controllers + "/" + controller + "/" + name;
+            const auto size =
+                name.starts_with("dimm") ? root.number(folder + "/size") : std::nullopt;
+            if (!size || *size == 0 || *size > UINT32_MAX)
+                continue;
+            const auto label = root.text(folder + "/dimm_label");
+            devices.push_back(
+                {.capacity = *size * MiB,
+                 .type = type_of_words(root.text(folder + "/dimm_mem_type").value_or("")),
+                 .locator = label ? told_text(*label) : std::nullopt});
+        }
+    }
+    return devices;
+}
+
+} // namespace ostrelum

@@ -1,0 +1,86 @@
+#include "platform/linux/devices/SpaceInTime.h"
+
+#include <chrono>
+#include <future>
+#include <memory>
+#include <mutex>
+#include <set>
+#include <sys/statvfs.h>
+#include <system_error>
+#include <thread>
+
+namespace ostrelum {
+namespace {
+
+using Milliseconds = std::chrono::milliseconds;
+using Space = std::optional<VolumeSpace>;
+
+constexpr Milliseconds LongestWait{2000};
+/// While another answer is overdue: ten dead volumes take little longer than one.
+constexpr Milliseconds ShorterWait{100};
+
+/// Paths whose answer is outstanding. Lives as long as the process: a worker may outlive all else.
+struct Outstanding {
+    std::mutex mutex;
+    std::set<std::string> paths;
+
+    /// How long to wait for the answer; nothing if it is outstanding already.
+    std::optional<Milliseconds> begin(const std::string& path)
+    {
+        const std::lock_guard lock(mutex);
+        const auto wait = paths.empty() ? LongestWait : ShorterWait;
+        return paths.insert(path).second ? std::optional(wait) : std::nullopt;
+    }
+    void end(const std::string& path)
+    {
+        const std::lock_guard lock(mutex);
+        paths.erase(path);
+    }
+};
+
+Outstanding& outstanding()
+{
+    static auto* const lasting = new Outstanding;
+    return *lasting;
+}
+
+Space space_of(const std::string& path)
+{
+    struct statvfs told = {};
+    if (::statvfs(path.c_str(), &told) != 0)
+        return std::nullopt;
+    return VolumeSpace{told.f_frsize, told.f_blocks, told.f_bfree, told.f_bavail};
+}
+
+/// Asks in a thread of its own, which is left to itself if the answer does not come.
+std::future<Space> ask(const std::string& path)
+{
+    const auto promise = std::make_shared<std::promise<Space>>();
+    const auto answer = [=](const Space& space) {
+        // Before the answer is given: who has it may ask again at once.
+        outstanding().end(path);
+        promise->set_value(space);
+    };
+    try {
+        std::thread([=] { answer(space_of(path)); }).detach();
+    } catch (const std::system_error&) {
+        // The user may have no more threads.
+        answer(std::nullopt);
+    }
+    return promise->get_future();
+}
+
+} // namespace
+
+std::optional<VolumeSpace> space_in_time(const std::string& path)
+{
+    const auto longest = outstanding().begin(path);
+    if (!longest)
+        return std::nullopt;
+    auto answer = ask(path);
+    if (answer.wait_for(*longest) != std::future_status::ready)
+        return std::nullopt;
+    return answer.get();
+}
+
+} // namespace ostrelum

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "platform/linux/files/MachineView.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// What is known of a volume besides its mount.
+namespace ostrelum {
+
+/// What udev, or else its links under /dev/disk, say of the file system on a device.
+class FileSystemFacts {
+public:
+    /// `device` is the kernel's name; an empty one has no facts.
+    FileSystemFacts(const Sysroot& root, std::string device);
+
+    std::optional<std::string> label() const;
+    /// The serial number: eight upper-case hexadecimal digits of the file system's identity.
+    std::optional<std::string> serial(std::string_view mounted_as) const;
+    /// The name under which users know a file system type; `mounted_as` is the kernel's, empty for
+    /// a volume that is not mounted.
+    std::optional<std::string> type(std::string_view mounted_as) const;
+
+private:
+    std::optional<std::string> udev(std::string_view key) const;
+    std::optional<std::string> link_name(const std::string& folder) const;
+
+    const Sysroot& root_;
+    std::string device_;
+};
+
+/// Eight digits of an identity: those of FAT, the last of NTFS, the first of UDF and of a UUID.
+/// Nothing for any other form. `type` is as FileSystemFacts gives it: NTFS and UDF have one form.
+std::optional<std::string> serial_of_identity(std::string_view identity, std::string_view type);
+
+} // namespace ostrelum

@@ -1,0 +1,97 @@
+#pragma once
+
+#include "platform/linux/files/Sysroot.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace ostrelum {
+
+/// The space of a volume, in blocks.
+struct VolumeSpace {
+    /// Bytes.
+    std::uint64_t block_size = 0;
+    std::uint64_t blocks = 0;
+    std::uint64_t free = 0;
+    /// Of the free ones, those that ordinary users may have.
+    std::uint64_t available = 0;
+    bool operator==(const VolumeSpace&) const = default;
+};
+
+/// What a connector shows. A number of 0 is not known.
+struct DisplayMode {
+    /// Pixels.
+    int width = 0;
+    int height = 0;
+    int bits_per_pixel = 0;
+    int refresh_mHz = 0;
+    bool operator==(const DisplayMode&) const = default;
+};
+
+/// When a password may and must be changed.
+struct PasswordPolicy {
+    bool expires = false;
+    bool changeable = false;
+};
+
+/// What a machine tells by system calls and not by files. A fact that cannot be had is nothing.
+class Facts {
+public:
+    virtual ~Facts() = default;
+
+    /// The space of the volume that holds a path. Waits two seconds at most.
+    virtual std::optional<VolumeSpace> space(const std::string& path) = 0;
+
+    /// When a file came into being, in seconds since 1970.
+    virtual std::optional<std::int64_t> birth_time(const std::string& path) = 0;
+
+    /// The kernel's name for the kind of processor, such as "x86_64".
+    virtual std::optional<std::string> processor_kind() = 0;
+
+    /// Number of the user who runs the program.
+    virtual std::optional<std::uint32_t> user_id() = 0;
+
+    /// A variable of the user's environment that is set.
+    virtual std::optional<std::string> variable(std::string_view name) = 0;
+
+    /// The mode that the kernel drives a connector in, such as "card0-HDMI-A-1". Only the user who
+    /// sits at the machine may ask.
+    virtual std::optional<DisplayMode> display_mode(const std::string& connector) = 0;
+
+    /// Memory in bytes of a graphics card whose driver tells no file of it, by place on the PCI bus
+    /// such as "0000:01:00.0".
+    virtual std::optional<std::uint64_t> graphics_memory(const std::string& slot) = 0;
+
+    /// The rules for the password of an account, and when it last logged in, in seconds since 1970,
+    /// as the accounts service tells them (AccountsService.h).
+    virtual std::optional<PasswordPolicy> password_policy(std::uint64_t uid) = 0;
+    virtual std::optional<std::int64_t> login_time(std::uint64_t uid) = 0;
+
+    /// The line that /etc/passwd would have of an account which a directory or a home manager
+    /// knows, without a full name. Such services keep at hand who is logged in, so that this one
+    /// question seldom has to cross a network.
+    virtual std::optional<std::string> directory_account(std::uint64_t uid) = 0;
+
+    /// Minutes by which the machine's local time is ahead of UTC at a moment in seconds since 1970.
+    virtual int utc_offset(std::int64_t moment) = 0;
+};
+
+/// The facts of this machine.
+std::unique_ptr<Facts> live_facts();
+
+/// The facts that a recorded machine keeps in the folder /.facts: the files statvfs (path, block
+/// size, blocks, free, available), btime (path, seconds), uname (as `uname -a` prints it), id (as
+/// `id` prints it), env (NAME=value), modes (connector, width, height, bits, thousandths of hertz),
+/// vram (PCI place, bytes), password (user number, 1 if it expires, 1 if it may be changed), login
+/// (user number, seconds), passwd (lines of accounts from a directory), zone (moment, minutes ahead
+/// of UTC; at other moments the machine stands in UTC).
+std::unique_ptr<Facts> recorded_facts(const Sysroot& root);
+
+/// The same facts, each told to a witness as a recorded machine keeps it.
+std::unique_ptr<Facts> witnessed_facts(std::unique_ptr<Facts> facts,
+                                       std::shared_ptr<Witness> witness);
+
+} // namespace ostrelum

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/linux/files/Facts.h"
+#include "platform/linux/files/Sysroot.h"
+#include "platform/system/Screens.h"
+
+#include <memory>
+
+namespace ostrelum {
+
+/// The machine that the classes tell of: this one or a recorded one.
+struct MachineView {
+    Sysroot root;
+    std::unique_ptr<Facts> facts;
+    /// Empty without a desktop session.
+    SessionFactsSource session;
+};
+
+} // namespace ostrelum

@@ -1,0 +1,119 @@
+#include "platform/linux/files/Resolve.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <climits>
+#include <fcntl.h>
+#include <linux/openat2.h>
+#include <string_view>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <vector>
+
+namespace ostrelum {
+namespace {
+
+constexpr int place_flags = O_PATH | O_CLOEXEC;
+/// As many as the kernel follows.
+constexpr int link_limit = 40;
+
+/// The names of a path that are still to be walked, the next one last.
+class Names {
+public:
+    void put_first(std::string_view path)
+    {
+        const auto already = static_cast<std::ptrdiff_t>(names_.size());
+        while (!path.empty()) {
+            const std::size_t end = std::min(path.find('/'), path.size());
+            if (end > 0 && path.substr(0, end) != ".")
+                names_.emplace_back(path.substr(0, end));
+            path.remove_prefix(std::min(end + 1, path.size()));
+        }
+        std::reverse(names_.begin() + already, names_.end());
+    }
+    bool empty() const { return names_.empty(); }
+    std::string take()
+    {
+        std::string name = std::move(names_.back());
+        names_.pop_back();
+        return name;
+    }
+
+private:
+    std::vector<std::string> names_;
+};
+
+Descriptor open_in_root(int root, const std::string& path, int flags)
+{
+    open_how how = {};
+    how.flags = static_cast<unsigned>(flags);
+    how.resolve = RESOLVE_IN_ROOT | RESOLVE_NO_MAGICLINKS;
+    return Descriptor(
+        static_cast<int>(::syscall(SYS_openat2, root, path.c_str(), &how, sizeof how)));
+}
+
+/// The last call was not answered, rather than answered with no. The kernel does not say what lies
+/// behind a ".." while anything on the machine is renamed or mounted, however far away.
+bool is_refused()
+{
+    return errno == ENOSYS || errno == EPERM || errno == EAGAIN;
+}
+
+} // namespace
+
+Descriptor resolve_in_root(int root, const std::string& path, LastLink last)
+{
+    Descriptor place =
+        open_in_root(root, path, place_flags | (last == LastLink::Keep ? O_NOFOLLOW : 0));
+    if (!place && is_refused())
+        return resolve_by_hand(root, path, last);
+    return place;
+}
+
+Descriptor resolve_by_hand(int root, const std::string& path, LastLink last)
+{
+    Names names;
+    names.put_first(path);
+    std::vector<Descriptor> trail;
+    const auto here = [&] { return trail.empty() ? root : trail.back().number(); };
+    for (int links = 0; !names.empty();) {
+        const std::string name = names.take();
+        if (name == "..") {
+            if (!trail.empty())
+                trail.pop_back();
+            continue;
+        }
+        Descriptor next(::openat(here(), name.c_str(), place_flags | O_NOFOLLOW));
+        const auto target = next ? link_text(next) : std::nullopt;
+        if (!next || (target && ++links > link_limit))
+            return Descriptor();
+        if (!target || (names.empty() && last == LastLink::Keep)) {
+            trail.push_back(std::move(next));
+            continue;
+        }
+        if (target->starts_with('/'))
+            trail.clear();
+        names.put_first(*target);
+    }
+    return trail.empty() ? Descriptor(::openat(root, ".", place_flags)) : std::move(trail.back());
+}
+
+std::optional<Descriptor> open_kernel_file(int root, const std::string& path)
+{
+    Descriptor file = open_in_root(root, path, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    if (!file && is_refused())
+        return std::nullopt;
+    return file;
+}
+
+std::optional<std::string> link_text(const Descriptor& place)
+{
+    std::array<char, PATH_MAX> text;
+    const ssize_t length = ::readlinkat(place.number(), "", text.data(), text.size());
+    if (length <= 0)
+        return std::nullopt;
+    return std::string(text.data(), static_cast<std::size_t>(length));
+}
+
+} // namespace ostrelum

@@ -1,0 +1,171 @@
+#include "platform/linux/files/Sysroot.h"
+
+#include "platform/linux/text/NaturalOrder.h"
+#include "platform/linux/text/Text.h"
+#include "platform/system/Failure.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <dirent.h>
+#include <fcntl.h>
+#include <memory>
+#include <sys/stat.h>
+#include <system_error>
+
+namespace ostrelum {
+namespace {
+
+/// Opens for reading what a place is, if it is a regular file. The place keeps the file in hand, so
+/// that nothing else can have taken its name meanwhile.
+Descriptor opened(const Descriptor& place)
+{
+    struct stat status = {};
+    if (!place || ::fstat(place.number(), &status) != 0 || !S_ISREG(status.st_mode))
+        return Descriptor();
+    const std::string path = "/proc/self/fd/" + std::to_string(place.number());
+    return Descriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+}
+
+/// All that can be read; nothing if that is more than the limit or an error ends it.
+std::optional<std::string> read_to_end(const Descriptor& file, std::size_t limit)
+{
+    std::string content;
+    std::array<char, 16384> block;
+    for (;;) {
+        const ssize_t count = ::read(file.number(), block.data(), block.size());
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count == 0)
+            return content;
+        if (count < 0 || content.size() + static_cast<std::size_t>(count) > limit)
+            return std::nullopt;
+        content.append(block.data(), static_cast<std::size_t>(count));
+    }
+}
+
+bool is_live_root(const Descriptor& root)
+{
+    struct stat here = {};
+    struct stat live = {};
+    return ::fstat(root.number(), &here) == 0 && ::stat("/", &live) == 0 &&
+           here.st_dev == live.st_dev && here.st_ino == live.st_ino;
+}
+
+bool is_kernel_path(const std::string& path)
+{
+    return path.starts_with("/proc/") || path.starts_with("/sys/");
+}
+
+} // namespace
+
+Sysroot::Sysroot(const std::string& path, Resolver resolver)
+    : root_(std::make_shared<Descriptor>(::open(path.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC))),
+      resolver_(resolver)
+{
+    if (!*root_)
+        throw Failure(path + ": " + std::generic_category().message(errno));
+    live_ = is_live_root(*root_);
+}
+
+Sysroot::Sysroot(const Sysroot& machine, std::shared_ptr<Witness> witness) : Sysroot(machine)
+{
+    witness_ = std::move(witness);
+}
+
+std::optional<Sysroot> Sysroot::find(const std::string& path)
+{
+    try {
+        return Sysroot(path);
+    } catch (const Failure&) {
+        return std::nullopt;
+    }
+}
+
+bool Sysroot::exists(const std::string& path) const
+{
+    if (witness_)
+        witness_->looked_for(path);
+    return static_cast<bool>(resolver_(root_->number(), path, LastLink::Follow));
+}
+
+std::optional<std::string> Sysroot::read(const std::string& path, std::size_t limit) const
+{
+    std::optional<Descriptor> file;
+    if (live_ && is_kernel_path(path))
+        file = open_kernel_file(root_->number(), path);
+    if (!file)
+        file = open(path);
+    auto content = *file ? read_to_end(*file, limit) : std::nullopt;
+    if (witness_)
+        witness_->read(path, content);
+    return content;
+}
+
+std::optional<std::string> Sysroot::read_piece(const std::string& path, std::uint64_t at,
+                                               std::size_t size) const
+{
+    const Descriptor file = open(path);
+    std::string bytes(size, '\0');
+    if (!file || ::pread(file.number(), bytes.data(), size, static_cast<off_t>(at)) !=
+                     static_cast<ssize_t>(size))
+        return std::nullopt;
+    if (witness_)
+        witness_->read_piece(path, at, bytes);
+    return bytes;
+}
+
+Descriptor Sysroot::open(const std::string& path) const
+{
+    return opened(resolver_(root_->number(), path, LastLink::Follow));
+}
+
+std::optional<std::string> Sysroot::text(const std::string& path) const
+{
+    const auto content = read(path);
+    if (!content)
+        return std::nullopt;
+    const std::size_t end = content->find_first_of(std::string_view("\n\0", 2));
+    return text_or_none(std::string_view(*content).substr(0, end));
+}
+
+std::optional<std::uint64_t> Sysroot::number(const std::string& path) const
+{
+    const auto line = text(path);
+    return line ? whole_number(*line) : std::nullopt;
+}
+
+std::vector<std::string> Sysroot::list(const std::string& path) const
+{
+    const Descriptor place = resolver_(root_->number(), path, LastLink::Follow);
+    const int opened =
+        place ? ::openat(place.number(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC) : -1;
+    const std::unique_ptr<DIR, int (*)(DIR*)> folder(opened < 0 ? nullptr : ::fdopendir(opened),
+                                                     ::closedir);
+    std::vector<std::string> names;
+    while (const dirent* entry = folder ? ::readdir(folder.get()) : nullptr) {
+        const std::string_view name = entry->d_name;
+        if (name != "." && name != "..")
+            names.emplace_back(name);
+    }
+    std::ranges::sort(names, natural_less);
+    if (witness_)
+        witness_->listed(path, names);
+    return names;
+}
+
+std::optional<std::string> Sysroot::link(const std::string& path) const
+{
+    if (witness_)
+        witness_->read_link(path);
+    const Descriptor place = resolver_(root_->number(), path, LastLink::Keep);
+    return place ? link_text(place) : std::nullopt;
+}
+
+void Sysroot::tell(const std::string& list, const std::string& key, const std::string& value) const
+{
+    if (witness_)
+        witness_->told(list, key, value);
+}
+
+} // namespace ostrelum

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "platform/linux/files/Descriptor.h"
+#include "platform/linux/files/Resolve.h"
+#include "platform/linux/files/Witness.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace ostrelum {
+
+/// Reads the files of a machine under its root folder: "/", or the folder of a recorded machine,
+/// which no symbolic link leads out of. Paths are absolute, as the machine itself has them.
+///
+/// Nothing here throws once the root is open: what cannot be had, for whatever reason, is not
+/// there. A device can vanish between two calls. Device nodes, pipes and sockets are never opened.
+class Sysroot {
+public:
+    /// How a path is found under the root; by hand for tests.
+    using Resolver = Descriptor (*)(int root, const std::string& path, LastLink last);
+
+    /// Throws Failure if the path is no folder that can be opened.
+    explicit Sysroot(const std::string& path, Resolver resolver = resolve_in_root);
+
+    /// The same machine, with a witness to whatever is asked of it from here on.
+    Sysroot(const Sysroot& machine, std::shared_ptr<Witness> witness);
+
+    /// The root of that path; nothing if it is no folder.
+    static std::optional<Sysroot> find(const std::string& path);
+
+    /// This very machine, not a recorded one.
+    bool is_live() const { return live_; }
+
+    bool exists(const std::string& path) const;
+
+    /// All bytes of a regular file, to its end whatever size it claims; nothing for one of more
+    /// than `limit` bytes.
+    std::optional<std::string> read(const std::string& path,
+                                    std::size_t limit = default_limit) const;
+
+    /// `size` bytes of a regular file from the byte `at` on; nothing if it has fewer.
+    std::optional<std::string> read_piece(const std::string& path, std::uint64_t at,
+                                          std::size_t size) const;
+
+    /// A regular file, open for reading, for libraries that take a file and not its bytes. A
+    /// witness does not hear of it: whoever reads the file tells what it said.
+    Descriptor open(const std::string& path) const;
+
+    /// The first line of a file, or what stands before its first NUL: trimmed, valid UTF-8, not
+    /// empty.
+    std::optional<std::string> text(const std::string& path) const;
+
+    /// The whole number that is the first line of a file.
+    std::optional<std::uint64_t> number(const std::string& path) const;
+
+    /// The names in a folder, sorted so that "input10" comes after "input2".
+    std::vector<std::string> list(const std::string& path) const;
+
+    /// The text of a symbolic link.
+    std::optional<std::string> link(const std::string& path) const;
+
+    /// Tells a witness a fact that no file tells; without one nobody hears it.
+    void tell(const std::string& list, const std::string& key, const std::string& value) const;
+    const std::shared_ptr<Witness>& witness() const { return witness_; }
+
+private:
+    static constexpr std::size_t default_limit = std::size_t{4} << 20;
+
+    std::shared_ptr<const Descriptor> root_;
+    Resolver resolver_;
+    bool live_ = false;
+    std::shared_ptr<Witness> witness_;
+};
+
+} // namespace ostrelum

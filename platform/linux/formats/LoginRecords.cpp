@@ -1,0 +1,96 @@
+#include "platform/linux/formats/LoginRecords.h"
+
+#include <algorithm>
+
+namespace ostrelum {
+namespace {
+
+using Record = std::span<const std::uint8_t>;
+
+std::uint64_t little_endian(Record bytes, std::size_t at, std::size_t count)
+{
+    std::uint64_t number = 0;
+    for (std::size_t i = 0; i < count; ++i)
+        number |= std::uint64_t{bytes[at + i]} << (8 * i);
+    return number;
+}
+
+constexpr std::uint64_t UserProcess = 7;
+
+std::uint64_t type_of(Record record)
+{
+    return little_endian(record, 0, 2);
+}
+
+/// From RUN_LVL to ACCOUNTING (utmp(5)).
+std::size_t records_of_known_type(Record log, std::size_t record_bytes)
+{
+    std::size_t count = 0;
+    for (; log.size() >= record_bytes; log = log.subspan(record_bytes)) {
+        const std::uint64_t type = type_of(log);
+        count += type >= 1 && type <= 9 ? 1U : 0U;
+    }
+    return count;
+}
+
+/// The account's name fills 32 bytes at 44, or ends with a NUL.
+bool names(Record record, std::string_view account)
+{
+    const auto* begin = reinterpret_cast<const char*>(record.data()) + 44;
+    const std::string_view field(begin, 32);
+    return field.substr(0, field.find('\0')) == account;
+}
+
+std::int64_t time_of(Record record)
+{
+    const bool wide = record.size() == WideUtmpBytes;
+    const std::uint64_t seconds =
+        wide ? little_endian(record, 344, 8) : little_endian(record, 340, 4);
+    return static_cast<std::int64_t>(seconds);
+}
+
+} // namespace
+
+std::size_t utmp_bytes(Record log, std::size_t otherwise)
+{
+    const std::size_t narrow = records_of_known_type(log, UtmpBytes);
+    const std::size_t wide = records_of_known_type(log, WideUtmpBytes);
+    if (narrow == wide)
+        return otherwise;
+    return wide > narrow ? WideUtmpBytes : UtmpBytes;
+}
+
+LoginHistory login_history(Record log, std::size_t record_bytes, std::string_view account)
+{
+    LoginHistory history;
+    for (; log.size() >= record_bytes; log = log.subspan(record_bytes)) {
+        const Record record = log.first(record_bytes);
+        if (type_of(record) != UserProcess || !names(record, account))
+            continue;
+        ++history.logins;
+        history.last = time_of(record);
+    }
+    return history;
+}
+
+std::optional<std::int64_t> last_login(Record record)
+{
+    const bool wide = record.size() == lastlog_bytes(WideUtmpBytes);
+    if (!wide && record.size() != lastlog_bytes(UtmpBytes))
+        return std::nullopt;
+    const auto seconds = static_cast<std::int64_t>(little_endian(record, 0, wide ? 8 : 4));
+    return seconds > 0 ? std::optional(seconds) : std::nullopt;
+}
+
+std::uint32_t failed_logins(Record file)
+{
+    constexpr std::size_t RecordBytes = 64;
+    constexpr std::size_t StatusAt = 54;
+    constexpr std::uint64_t Valid = 1;
+    std::uint32_t count = 0;
+    for (; file.size() >= RecordBytes; file = file.subspan(RecordBytes))
+        count += (little_endian(file, StatusAt, 2) & Valid) != 0 ? 1U : 0U;
+    return count;
+}
+
+} // namespace ostrelum

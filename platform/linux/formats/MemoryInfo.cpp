@@ -1,0 +1,34 @@
+#include "platform/linux/formats/MemoryInfo.h"
+
+#include "platform/linux/text/Text.h"
+
+namespace ostrelum {
+namespace {
+
+std::optional<std::uint64_t> kilobytes(std::string_view text, std::string_view label)
+{
+    const auto words = words_of(value_behind(text, label, ':').value_or(""));
+    return words.empty() ? std::nullopt : whole_number(words.front());
+}
+
+/// For kernels before 3.14, which do not add it up themselves.
+std::optional<std::uint64_t> free_and_cached(std::string_view text)
+{
+    const auto free = kilobytes(text, "MemFree");
+    if (!free)
+        return std::nullopt;
+    return *free + kilobytes(text, "Buffers").value_or(0) + kilobytes(text, "Cached").value_or(0);
+}
+
+} // namespace
+
+MemoryInfo parse_meminfo(std::string_view text)
+{
+    const auto available = kilobytes(text, "MemAvailable");
+    return {.total = kilobytes(text, "MemTotal"),
+            .available = available ? available : free_and_cached(text),
+            .swap_total = kilobytes(text, "SwapTotal"),
+            .swap_free = kilobytes(text, "SwapFree")};
+}
+
+} // namespace ostrelum

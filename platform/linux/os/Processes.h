@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/linux/files/Sysroot.h"
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace ostrelum {
+
+/// Whether a line of /proc/N/stat (proc_pid_stat(5)) tells of a thread of the kernel. Nothing for
+/// text that is no such line.
+std::optional<bool> is_kernel_thread(std::string_view stat);
+
+/// How many processes run, the kernel's own threads left out. Nothing where others' processes are
+/// hidden.
+std::optional<std::uint32_t> process_count(const Sysroot& root);
+
+} // namespace ostrelum

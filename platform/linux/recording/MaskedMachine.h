@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/linux/recording/RecordedMachine.h"
+
+#include <string>
+#include <vector>
+
+namespace ostrelum {
+
+/// The recording without what identifies anybody or anything: stand-ins for names of accounts,
+/// machines, networks, folders and volumes and for serial numbers, in what the files hold and in
+/// their own names. Files in a form that is not known are left out, and so are the records of
+/// logins. `accounts` are those that are shown, the user's own first.
+RecordedMachine masked_machine(const RecordedMachine& machine,
+                               const std::vector<std::string>& accounts);
+
+} // namespace ostrelum

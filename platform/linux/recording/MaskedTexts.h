@@ -1,0 +1,50 @@
+#pragma once
+
+#include "platform/masking/StandIns.h"
+
+#include <string>
+#include <vector>
+
+/// What a file of a machine says, without what identifies. Each function takes the whole file as
+/// the machine has it. Of a file that holds more than the program reads, only that is left.
+namespace ostrelum {
+
+/// The stand-ins that one machine has been given.
+struct Disguise {
+    /// Those of the accounts that are shown.
+    StandIns accounts;
+    /// The names of these accounts.
+    std::vector<std::string> shown;
+    /// Those of folders, volumes and devices.
+    StandIns names;
+
+    bool shows(const std::string& account) const;
+};
+
+/// A placeholder stays: it tells nothing.
+std::string hidden_line(const std::string& content, Disguise& who);
+std::string unchanged(const std::string& content, Disguise& who);
+/// machine-id(5); for another text, that the machine has none.
+std::string masked_machine_id(const std::string& content, Disguise& who);
+/// passwd(5): the accounts that are shown.
+std::string masked_accounts(const std::string& content, Disguise& who);
+/// group(5): the groups that administer the machine.
+std::string masked_groups(const std::string& content, Disguise& who);
+std::string masked_realm(const std::string& content, Disguise& who);
+std::string masked_workgroup(const std::string& content, Disguise& who);
+/// "(none)" stays.
+std::string masked_domain(const std::string& content, Disguise& who);
+std::string masked_boot_menu(const std::string& content, Disguise& who);
+std::string masked_mounts(const std::string& content, Disguise& who);
+/// The line of a process, without the name that its program bears.
+std::string masked_process(const std::string& content, Disguise& who);
+std::string masked_cpuinfo(const std::string& content, Disguise& who);
+std::string masked_kernel(const std::string& content, Disguise& who);
+/// The lines of the model, of a mainframe and of a graphics card.
+std::string only_model(const std::string& content, Disguise& who);
+std::string masked_udev(const std::string& content, Disguise& who);
+std::string masked_name(const std::string& content, Disguise& who);
+/// A disk's world-wide identity; the model in it stays.
+std::string masked_disk_identity(const std::string& content, Disguise& who);
+
+} // namespace ostrelum

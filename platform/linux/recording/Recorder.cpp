@@ -1,0 +1,113 @@
+#include "platform/linux/recording/Recorder.h"
+
+#include <algorithm>
+
+namespace ostrelum {
+namespace {
+
+/// Puts the names of a path in front of those that are still to be walked, the next one last.
+void put_first(std::vector<std::string>& names, std::string_view path)
+{
+    while (!path.empty()) {
+        const std::size_t begin = path.rfind('/') + 1;
+        const std::string_view name = path.substr(begin);
+        if (!name.empty() && name != ".")
+            names.emplace_back(name);
+        path = path.substr(0, begin == 0 ? 0 : begin - 1);
+    }
+}
+
+} // namespace
+
+void Recorder::keep(const std::string& place, PlaceKind kind, const std::string& content,
+                    const std::string& asked)
+{
+    const auto [known, is_new] = machine_.places.try_emplace(place, Place{kind, content, asked});
+    if (!is_new && known->second.kind < kind)
+        known->second = {kind, content, asked};
+}
+
+std::optional<std::string> Recorder::link_at(const std::string& place, const std::string& asked)
+{
+    const auto known = machine_.places.find(place);
+    if (known != machine_.places.end() && known->second.kind >= PlaceKind::Folder)
+        return known->second.kind == PlaceKind::Link ? std::optional(known->second.content)
+                                                     : std::nullopt;
+    auto target = files_.link(place);
+    if (target)
+        keep(place, PlaceKind::Link, *target, asked);
+    return target;
+}
+
+/// Keeps the links and folders on the way. The place that the path leads to over all links; nothing
+/// if there is none.
+std::optional<std::string> Recorder::walk(const std::string& path, LastLink last)
+{
+    /// As many as the kernel follows.
+    constexpr int link_limit = 40;
+    std::vector<std::string> names;
+    put_first(names, path);
+    std::string here;
+    for (int links = 0; !names.empty();) {
+        const std::string name = std::move(names.back());
+        names.pop_back();
+        if (name == "..") {
+            here.resize(here.empty() ? 0 : here.rfind('/'));
+            continue;
+        }
+        const std::string next = here + "/" + name;
+        const auto target = link_at(next, path);
+        if ((target && ++links > link_limit) || (!target && !files_.exists(next)))
+            return std::nullopt;
+        if (!target || (names.empty() && last == LastLink::Keep)) {
+            here = next;
+            if (!names.empty())
+                keep(here, PlaceKind::Folder, "", path);
+            continue;
+        }
+        if (target->starts_with('/'))
+            here.clear();
+        put_first(names, *target);
+    }
+    return here;
+}
+
+void Recorder::looked_for(const std::string& path)
+{
+    if (const auto place = walk(path, LastLink::Follow))
+        keep(*place, PlaceKind::Name, "", path);
+}
+
+void Recorder::read(const std::string& path, const std::optional<std::string>& content)
+{
+    if (const auto place = walk(path, LastLink::Follow))
+        keep(*place, content ? PlaceKind::File : PlaceKind::Unreadable, content.value_or(""), path);
+}
+
+void Recorder::read_piece(const std::string& path, std::uint64_t at, const std::string& bytes)
+{
+    if (const auto place = walk(path, LastLink::Follow))
+        machine_.pieces.try_emplace({*place, at}, bytes);
+}
+
+void Recorder::listed(const std::string& path, const std::vector<std::string>& names)
+{
+    const auto place = walk(path, LastLink::Follow);
+    if (!place || names.empty())
+        return;
+    keep(*place, PlaceKind::Folder, "", path);
+    for (const std::string& name : names)
+        keep(*place + "/" + name, PlaceKind::Name, "", path + "/" + name);
+}
+
+void Recorder::read_link(const std::string& path)
+{
+    walk(path, LastLink::Keep);
+}
+
+void Recorder::told(const std::string& list, const std::string& key, const std::string& value)
+{
+    machine_.facts[list].try_emplace(key, value);
+}
+
+} // namespace ostrelum

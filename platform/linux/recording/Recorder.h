@@ -1,0 +1,39 @@
+#pragma once
+
+#include "platform/linux/files/Sysroot.h"
+#include "platform/linux/files/Witness.h"
+#include "platform/linux/recording/RecordedMachine.h"
+
+#include <string>
+#include <vector>
+
+namespace ostrelum {
+
+/// A witness that keeps what it hears, so that a machine made of it answers the same questions in
+/// the same way: the files that were read, the names that were listed, and the links that lay on
+/// the way. What was read twice is kept as it was the first time.
+class Recorder : public Witness {
+public:
+    /// `files` are the machine's, to follow paths in.
+    explicit Recorder(Sysroot files) : files_(std::move(files)) {}
+
+    void looked_for(const std::string& path) override;
+    void read(const std::string& path, const std::optional<std::string>& content) override;
+    void read_piece(const std::string& path, std::uint64_t at, const std::string& bytes) override;
+    void listed(const std::string& path, const std::vector<std::string>& names) override;
+    void read_link(const std::string& path) override;
+    void told(const std::string& list, const std::string& key, const std::string& value) override;
+
+    const RecordedMachine& machine() const { return machine_; }
+
+private:
+    std::optional<std::string> walk(const std::string& path, LastLink last);
+    std::optional<std::string> link_at(const std::string& place, const std::string& asked);
+    void keep(const std::string& place, PlaceKind kind, const std::string& content,
+              const std::string& asked);
+
+    Sysroot files_;
+    RecordedMachine machine_;
+};
+
+} // namespace ostrelum

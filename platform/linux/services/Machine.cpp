@@ -1,0 +1,149 @@
+#include "platform/linux/services/Machine.h"
+
+#include "platform/linux/formats/MouseButtons.h"
+#include "platform/linux/services/UserFolders.h"
+#include "platform/system/Failure.h"
+#include "sources/Ascii.h"
+#include "sources/Utf8.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdlib>
+#include <filesystem>
+#include <optional>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <vector>
+#ifdef __SANITIZE_ADDRESS__
+#include <sanitizer/lsan_interface.h>
+#endif
+
+namespace ostrelum {
+
+namespace {
+
+constexpr int ATTR_DIRECTORY = 16;
+
+/// Programs that remap keys make devices of their own, with every button there is.
+bool made_by_program(const Sysroot& root, const std::string& device)
+{
+    const std::string target = root.link(device).value_or("");
+    return target.find("/virtual/input/") != std::string::npos;
+}
+
+std::vector<InputDevice> input_devices(const Sysroot& root)
+{
+    const std::string folder = "/sys/class/input";
+    std::vector<InputDevice> devices;
+    for (const std::string& name : root.list(folder)) {
+        const std::string device = folder + "/" + name + "/";
+        if (!name.starts_with("input") || made_by_program(root, folder + "/" + name))
+            continue;
+        const auto fact = [&](const char* file) { return root.read(device + file).value_or(""); };
+        devices.push_back({fact("capabilities/key"), fact("capabilities/rel"),
+                           fact("capabilities/abs"), fact("properties")});
+    }
+    return devices;
+}
+
+/// Takes a number off the front of the text.
+bool take_number(std::string_view& text, std::uint16_t& number)
+{
+    const auto [rest, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    text.remove_prefix(static_cast<std::size_t>(rest - text.data()));
+    return error == std::errc();
+}
+
+} // namespace
+
+std::uint32_t count_in_list(std::string_view list)
+{
+    while (list.ends_with('\n'))
+        list.remove_suffix(1);
+    std::uint32_t count = 0;
+    for (bool more = true; more;) {
+        std::uint16_t first = 0;
+        if (!take_number(list, first))
+            return 0;
+        std::uint16_t last = first;
+        if (list.starts_with('-')) {
+            list.remove_prefix(1);
+            if (!take_number(list, last) || last < first)
+                return 0;
+        }
+        count += static_cast<std::uint32_t>(last - first) + 1U;
+        more = list.starts_with(',');
+        list.remove_prefix(more ? 1 : 0);
+    }
+    return list.empty() ? count : 0;
+}
+
+LinuxMachine::LinuxMachine(const std::string& root, Environment environment)
+    : LinuxMachine(Sysroot::find(root), std::move(environment))
+{
+}
+
+LinuxMachine::LinuxMachine(std::optional<Sysroot> files, Environment environment)
+    : files_(std::move(files)), environment_(std::move(environment)), instance_(environment_)
+{
+}
+
+SystemInfo LinuxMachine::GetOstrelum()
+{
+    const auto online = files_ ? files_->read("/sys/devices/system/cpu/online") : std::nullopt;
+    std::uint32_t count = count_in_list(online.value_or(""));
+    // A sandbox may hide the list; the processors of this machine are then asked for directly.
+    if (count == 0 && files_ && files_->is_live())
+        count = static_cast<std::uint32_t>(std::max(::sysconf(_SC_NPROCESSORS_ONLN), 1L));
+    return {std::max(count, 1U)};
+}
+
+int LinuxMachine::GetSystemMetrics(int index)
+{
+    return files_ && index == SM_CMOUSEBUTTONS ? mouse_buttons(input_devices(*files_)) : 0;
+}
+
+std::string LinuxMachine::Environ(const std::string& name)
+{
+    const auto same = [&](const auto& entry) {
+        return same_ascii_letters(entry.first, name) && !entry.second.empty();
+    };
+    std::string value = variable(environment_, name);
+    const auto found = std::find_if(environment_.begin(), environment_.end(), same);
+    if (value.empty() && found != environment_.end())
+        value = found->second;
+    if (value.empty() && same_ascii_letters(name, "UserName"))
+        value = login_name(environment_);
+    return made_valid_utf8(value);
+}
+
+int LinuxMachine::GetAttr(const std::string& path)
+{
+    std::string slashes = path;
+    std::replace(slashes.begin(), slashes.end(), '\\', '/');
+    const std::filesystem::path wanted = slashes;
+    const auto found = file_in_folder(wanted.parent_path().native(), wanted.filename().native());
+    struct stat status = {};
+    if (!found || ::stat(found->c_str(), &status) != 0)
+        throw Failure("no such file: " + path);
+    if (S_ISDIR(status.st_mode))
+        return ATTR_DIRECTORY;
+    const bool readable = S_ISREG(status.st_mode) && ::access(found->c_str(), R_OK) == 0;
+    return readable ? ATTR_ARCHIVE : 0;
+}
+
+bool LinuxMachine::PrevInstance()
+{
+    return instance_.another_runs();
+}
+
+void LinuxMachine::End()
+{
+#ifdef __SANITIZE_ADDRESS__
+    // What an ordinary end would check.
+    __lsan_do_leak_check();
+#endif
+    std::_Exit(0);
+}
+
+} // namespace ostrelum

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "platform/linux/files/Sysroot.h"
+#include "platform/linux/services/Environment.h"
+#include "platform/linux/services/SingleInstance.h"
+#include "platform/system/Machine.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace ostrelum {
+
+/// How many numbers a list of the kernel such as "0-3,6" holds; 0 for a text that is no such list.
+/// Numbers of 65536 and more are none of a processor.
+std::uint32_t count_in_list(std::string_view list);
+
+/// System calls on Linux. Facts about the hardware are read under `root`: "/" or the folder of a
+/// recorded machine.
+class LinuxMachine : public Machine {
+public:
+    LinuxMachine(const std::string& root, Environment environment);
+    /// Nothing in `files`: a machine without any.
+    LinuxMachine(std::optional<Sysroot> files, Environment environment);
+
+    SystemInfo GetOstrelum() override;
+    int GetSystemMetrics(int index) override;
+
+    /// "UserName", which Linux does not know, is the login name.
+    std::string Environ(const std::string& name) override;
+
+    /// 32 for a regular file that this process may read, 16 for a folder, 0 for anything else. The
+    /// last part of the path matches in any ASCII case.
+    int GetAttr(const std::string& path) override;
+
+    bool PrevInstance() override;
+    void End() override;
+
+private:
+    std::optional<Sysroot> files_;
+    Environment environment_;
+    SingleInstance instance_;
+};
+
+} // namespace ostrelum

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "platform/masking/StandIns.h"
+#include "sources/ManagementService.h"
+#include "sources/Schema.h"
+
+#include <memory>
+#include <string>
+
+namespace ostrelum {
+
+/// Another management service whose answers have stand-ins for what the schema says to identify
+/// somebody. Conditions are tested on the true values. Null and empty text stay so.
+class MaskedService : public ManagementService {
+public:
+    /// `own_account` gets the first stand-in of all accounts.
+    MaskedService(std::unique_ptr<ManagementService> service, const std::string& own_account);
+
+    ResultSet ExecQuery(std::string_view wql) override;
+
+private:
+    Value masked(const Value& value, Identity identity);
+
+    std::unique_ptr<ManagementService> service_;
+    StandIns accounts_;
+    StandIns folders_;
+};
+
+} // namespace ostrelum
