@@ -24,7 +24,7 @@ void OpenPage(benchmark::State& state)
     for (auto _ : state) {
         LMenu_MouseDown(8, LeftButton, 0, 0, 0);
         program.script.asked.clear();
-        program.toolkit.pointers.clear();
+        program.toolkit.cursors.clear();
     }
 }
 BENCHMARK(OpenPage);

@@ -50,20 +50,20 @@ void place_left_column(Designer& put)
 {
     put.inside(F1.S(1));
     ROW(MenuLogo, .Left = 16, .Top = 5, .Width = 20, .Height = 20, .Transparent = true,
-        .Stored = art_picture("MenuLogo"), .MousePointer = Pointer::Hand);
+        .Stored = art_picture("MenuLogo"), .MousePointer = MouseCursor::Hand);
     ROW(LOpc, .Left = 47, .Top = 7, .Font = tahoma(9.75), .ForeColor = White,
-        .MousePointer = Pointer::Hand, .TabStop = true);
+        .MousePointer = MouseCursor::Hand, .TabStop = true);
     ROWS(LMenu, Label{.Left = 20,
                       .Top = 58 + 35 * (i - 1),
                       .Font = tahoma(9.75),
                       .ForeColor = White,
-                      .MousePointer = Pointer::Hand,
+                      .MousePointer = MouseCursor::Hand,
                       .TabStop = true});
     ROW(BM, .Left = 0, .Top = 49, .Width = 170, .Height = 35, .Stored = art_picture("BM"),
-        .MousePointer = Pointer::Hand);
+        .MousePointer = MouseCursor::Hand);
     put.inside(F1.BM);
     ROW(LMenu2, .Left = 20, .Top = 9, .Font = tahoma(9.75), .ForeColor = White,
-        .MousePointer = Pointer::Hand);
+        .MousePointer = MouseCursor::Hand);
     ROW(PesBMenu, .Left = 163, .Top = 11, .Width = 7, .Height = 13, .Transparent = true,
         .Stored = art_picture("PesBMenu"));
     put.on_the_form();
@@ -135,7 +135,7 @@ void place_about_panel(Designer& put)
     ROW(LTra, .Left = 0, .Top = 184, .Font = tahoma(8.25, true), .ForeColor = TitleGrey);
     ROW(LTra1, .Left = 0, .Top = 216, .Font = tahoma(8.25), .ForeColor = TitleGrey);
     ROW(LTra2, .Left = 0, .Top = 216, .Font = tahoma(8.25), .ForeColor = TitleGrey,
-        .MousePointer = Pointer::Hand, .TabStop = true);
+        .MousePointer = MouseCursor::Hand, .TabStop = true);
     put.on_the_form();
 }
 
@@ -198,7 +198,7 @@ void load_main_form()
     F1.BackColor = White;
     F1.Icon = {art_picture("Icon32"), art_picture("Icon16")};
     F1.MinButton = true;
-    F1.MousePointer = Pointer::Default;
+    F1.MousePointer = MouseCursor::Default;
     place_controls();
     F1.handlers = main_form_handlers();
     F1.Seccion = F1.SeccionPrev = 0;

@@ -89,7 +89,7 @@ public:
     std::uint8_t Seccion = 0;
     /// Section to go back to when a panel closes.
     std::uint8_t SeccionPrev = 0;
-    /// A panel is open: navigation, the options menu and the pointer changes are off.
+    /// A panel is open: navigation, the options menu and the changes of the mouse cursor are off.
     bool PanelOpen = false;
     /// The customise panel has been filled: only now its controls act.
     bool PanelReady = false;

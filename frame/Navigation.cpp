@@ -74,7 +74,7 @@ void S_MouseMove(int index, int, int, int x, int y)
     if (index != 1)
         return;
     const bool active = !F1.PanelOpen && (in_tab(x, y) || row_at(y) != 0);
-    F1.S(1).MousePointer = active ? Pointer::Hand : Pointer::Arrow;
+    F1.S(1).MousePointer = active ? MouseCursor::Hand : MouseCursor::Arrow;
 }
 
 void LMenu2_Click()
@@ -88,16 +88,16 @@ void BM_Click()
 }
 
 /// `live` tells whether a press opens something: only then does the keyboard stop there.
-void set_navigation(bool live, Colour options, Colour names, Pointer pointer)
+void set_navigation(bool live, Colour options, Colour names, MouseCursor cursor)
 {
     F1.LOpc.TabStop = live;
     F1.LOpc.ForeColor = options;
     F1.LMenu2.ForeColor = names;
-    F1.LOpc.MousePointer = F1.MenuLogo.MousePointer = pointer;
-    F1.BM.MousePointer = F1.LMenu2.MousePointer = pointer;
+    F1.LOpc.MousePointer = F1.MenuLogo.MousePointer = cursor;
+    F1.BM.MousePointer = F1.LMenu2.MousePointer = cursor;
     for (int n = 1; n <= SectionCount; ++n) {
         F1.LMenu(n).ForeColor = names;
-        F1.LMenu(n).MousePointer = pointer;
+        F1.LMenu(n).MousePointer = cursor;
         F1.LMenu(n).TabStop = live;
     }
 }
@@ -116,11 +116,11 @@ void LMenu_MouseDown(int index, int button, int, int, int)
 {
     if (button == RightButton || button == MiddleButton || F1.PanelOpen)
         return;
-    platform.toolkit->set_screen_pointer(Pointer::Hourglass);
+    platform.toolkit->set_screen_cursor(MouseCursor::Hourglass);
     F1.BM.Visible = false;
     if (index >= 1 && index <= SectionCount)
         collect(index);
-    platform.toolkit->set_screen_pointer(Pointer::Default);
+    platform.toolkit->set_screen_cursor(MouseCursor::Default);
     F1.Labelmi.Caption = Trad[35];
     platform.toolkit->Refresh(F1);
     start_cross_fade();
@@ -148,12 +148,12 @@ void ClearPage()
 
 void LockMenu()
 {
-    set_navigation(false, RGB(215, 215, 215), RGB(215, 215, 215), Pointer::Arrow);
+    set_navigation(false, RGB(215, 215, 215), RGB(215, 215, 215), MouseCursor::Arrow);
 }
 
 void UnlockMenu()
 {
-    set_navigation(true, RGB(250, 250, 250), White, Pointer::Hand);
+    set_navigation(true, RGB(250, 250, 250), White, MouseCursor::Hand);
 }
 
 } // namespace ostrelum

@@ -26,7 +26,7 @@ public:
     void Refresh(Form& form) override;
     void DoEvents() override;
     void popup(Form& form, PopupMenu& menu, std::optional<Point> at, const MenuItem* bold) override;
-    void set_screen_pointer(Pointer pointer) override { pointers.push_back(pointer); }
+    void set_screen_cursor(MouseCursor cursor) override { cursors.push_back(cursor); }
     std::int32_t GetWindowLongA(const Form& form, int index) override;
     void SetWindowLongA(Form& form, int index, std::int32_t value) override;
     void SetLayeredWindowAttributes(Form& form, Colour key, std::uint8_t alpha,
@@ -56,8 +56,8 @@ public:
     /// How often each form was painted at once.
     std::map<const Form*, int> refreshes;
     std::vector<Popup> popups;
-    /// The screen's pointers one after the other.
-    std::vector<Pointer> pointers;
+    /// The cursors of the whole screen, one after the other.
+    std::vector<MouseCursor> cursors;
     /// The alpha values that a form was given, one after the other.
     std::map<const Form*, std::vector<int>> alphas;
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "platform/qt/Cursors.h"
 #include "platform/qt/Gate.h"
-#include "platform/qt/Pointers.h"
 #include "platform/toolkit/Toolkit.h"
 
 #include <QWidget>
@@ -16,7 +16,7 @@ struct Surroundings {
     const Form& form;
     const Toolkit& toolkit;
     Gate& gate;
-    const Pointers& pointers;
+    const Cursors& cursors;
 };
 
 /// Carries one control over to its widget, and what the user does with the widget back.

@@ -74,7 +74,7 @@ void FormWindow::carry_frame()
     setWindowTitle(qt_text(form.Caption));
     setFixedSize(form.ClientWidth, form.ClientHeight);
     setPalette(window_palette(form.BackColor));
-    around_.pointers.give(*this, form.MousePointer);
+    around_.cursors.set(*this, form.MousePointer);
     QIcon icon;
     for (const Picture& picture : form.Icon) {
         icon.addPixmap(pixmap_of(picture.bitmap()));

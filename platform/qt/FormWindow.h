@@ -44,7 +44,7 @@ private:
         Point size;
         Colour BackColor = White;
         std::array<Picture, 2> Icon;
-        Pointer MousePointer = Pointer::Default;
+        MouseCursor MousePointer = MouseCursor::Default;
         bool operator==(const Frame&) const = default;
     };
     std::optional<Frame> shown_;

@@ -11,7 +11,7 @@ namespace ostrelum {
 /// image for an empty or a torn bitmap.
 QImage image_of(const Bitmap& bitmap);
 
-/// A copy for icons and pointers.
+/// A copy for icons and mouse cursors.
 QPixmap pixmap_of(const Bitmap& bitmap);
 
 } // namespace ostrelum

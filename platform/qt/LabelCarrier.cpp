@@ -44,7 +44,7 @@ void LabelCarrier::apply()
     if (changed(&Label::ToolTipText))
         widget_->setToolTip(qt_text(control_.ToolTipText));
     if (changed(&Label::MousePointer))
-        around_.pointers.give(*widget_, control_.MousePointer);
+        around_.cursors.set(*widget_, control_.MousePointer);
     if (changed(&Label::TabStop))
         widget_->setFocusPolicy(control_.TabStop ? Qt::StrongFocus : Qt::NoFocus);
     appear(*widget_);

@@ -30,7 +30,7 @@ void PictureCarrier::apply()
     if (changed(&PictureBox::AccessibleName))
         widget_->setAccessibleName(qt_text(control_.AccessibleName));
     if (changed(&PictureBox::MousePointer))
-        around_.pointers.give(*widget_, control_.MousePointer);
+        around_.cursors.set(*widget_, control_.MousePointer);
     if (changed(&PictureBox::TabStop))
         widget_->setFocusPolicy(control_.TabStop ? Qt::StrongFocus : Qt::NoFocus);
     appear(*widget_);

@@ -15,7 +15,7 @@ namespace ostrelum {
 
 /// What the program itself gives to the toolkit.
 struct QtLook {
-    /// The hand pointer, 32 by 32 pixels; without it the desktop's own hand is used.
+    /// The mouse cursor of a hand, 32 by 32 pixels; without it the desktop's own hand is used.
     Picture hand;
     /// Pixel of the hand that points.
     Point hot_spot;

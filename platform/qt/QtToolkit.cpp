@@ -47,7 +47,7 @@ std::unique_ptr<Toolkit> make_qt_toolkit(int& argc, char** argv, const QtLook& l
 }
 
 QtToolkit::QtToolkit(int& argc, char** argv, const QtLook& look)
-    : application_(argc, argv), pointers_(look.hand, look.hot_spot), gate_([this] {
+    : application_(argc, argv), cursors_(look.hand, look.hot_spot), gate_([this] {
           for (const auto& [form, window] : windows_)
               window->carry();
       })
@@ -86,7 +86,7 @@ FormWindow& QtToolkit::make_window(Form& form, Qt::WindowType kind)
 {
     if (FormWindow* window = window_of(form))
         return *window;
-    const Surroundings around{form, *this, gate_, pointers_};
+    const Surroundings around{form, *this, gate_, cursors_};
     auto* window = new FormWindow(around, kind, [this, &form] { user_closes(form); });
     windows_[&form] = window;
     // The native window is there before it shows, so that it comes up with its opacity.
@@ -164,9 +164,9 @@ void QtToolkit::popup(Form& form, PopupMenu& menu, std::optional<Point> at, cons
     pop_up(*window, gate_, menu, place, bold);
 }
 
-void QtToolkit::set_screen_pointer(Pointer pointer)
+void QtToolkit::set_screen_cursor(MouseCursor cursor)
 {
-    pointers_.give_screen(pointer);
+    cursors_.set_screen(cursor);
 }
 
 std::int32_t QtToolkit::GetWindowLongA(const Form& form, int index)

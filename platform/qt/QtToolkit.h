@@ -22,7 +22,7 @@ public:
     void Refresh(Form& form) override;
     void DoEvents() override;
     void popup(Form& form, PopupMenu& menu, std::optional<Point> at, const MenuItem* bold) override;
-    void set_screen_pointer(Pointer pointer) override;
+    void set_screen_cursor(MouseCursor cursor) override;
     std::int32_t GetWindowLongA(const Form& form, int index) override;
     void SetWindowLongA(Form& form, int index, std::int32_t value) override;
     void SetLayeredWindowAttributes(Form& form, Colour key, std::uint8_t alpha,
@@ -45,7 +45,7 @@ private:
     void apply_opacity(const Form& form);
 
     QApplication application_;
-    Pointers pointers_;
+    Cursors cursors_;
     Gate gate_;
     std::map<const Form*, FormWindow*> windows_;
     std::map<const Form*, Layer> layers_;

@@ -29,7 +29,7 @@ struct FontSpec {
     bool operator==(const FontSpec&) const = default;
 };
 
-enum class Pointer { Default, Arrow, Hourglass, Hand };
+enum class MouseCursor { Default, Arrow, Hourglass, Hand };
 enum class Align { Left, Right, Centre };
 
 struct Label {
@@ -45,7 +45,7 @@ struct Label {
     bool AutoSize = true;
     bool WordWrap = false;
     std::string ToolTipText;
-    Pointer MousePointer = Pointer::Default;
+    MouseCursor MousePointer = MouseCursor::Default;
     bool Visible = true;
     /// The keyboard reaches it; Enter or Space acts as a press of the left button.
     bool TabStop = false;
@@ -67,7 +67,7 @@ struct PictureBox {
     std::string ToolTipText;
     /// What a screen reader calls the box; empty for decoration.
     std::string AccessibleName;
-    Pointer MousePointer = Pointer::Default;
+    MouseCursor MousePointer = MouseCursor::Default;
     bool Visible = true;
     bool TabStop = false;
     bool operator==(const PictureBox&) const = default;

@@ -53,7 +53,7 @@ public:
     /// 32 by 32 and 16 by 16 pixels.
     std::array<Picture, 2> Icon;
     bool MinButton = false;
-    Pointer MousePointer = Pointer::Default;
+    MouseCursor MousePointer = MouseCursor::Default;
 
     std::vector<ControlEntry> controls;
     std::vector<HandlerTable> handlers;

@@ -44,13 +44,13 @@ public:
     /// Runs the events that are pending, once.
     virtual void DoEvents() = 0;
 
-    /// Pops up a menu of the form at a point of its client area, or at the pointer, and raises
+    /// Pops up a menu of the form at a point of its client area, or at the mouse cursor, and raises
     /// Click of the entry that the user chooses. `bold` is the default entry, if any.
     virtual void popup(Form& form, PopupMenu& menu, std::optional<Point> at,
                        const MenuItem* bold) = 0;
 
-    /// The pointer of the whole screen; Default gives each control its own pointer back.
-    virtual void set_screen_pointer(Pointer pointer) = 0;
+    /// The mouse cursor of the whole screen; Default gives each control its own back.
+    virtual void set_screen_cursor(MouseCursor cursor) = 0;
 
     virtual std::int32_t GetWindowLongA(const Form& form, int index) = 0;
     virtual void SetWindowLongA(Form& form, int index, std::int32_t value) = 0;

@@ -104,7 +104,7 @@ TEST_F(Life, StartFillsMenuSkinAndFirstPageBeforeTheWindowShows)
     EXPECT_EQ(F1.Seccion, 1);
     EXPECT_TRUE(F6.created());
     EXPECT_EQ(F1.Ico.Stored, F6->Sec1.Stored);
-    EXPECT_EQ(toolkit.pointers, (std::vector{Pointer::Hourglass, Pointer::Default}));
+    EXPECT_EQ(toolkit.cursors, (std::vector{MouseCursor::Hourglass, MouseCursor::Default}));
 }
 
 TEST_F(Life, PreferredFontsNeedBothFilesWithTheArchiveFlagAlone)

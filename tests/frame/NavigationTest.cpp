@@ -33,7 +33,8 @@ TEST_F(Navigation, TheColumnIsOneTargetByItsTabAndItsRows)
         click_skin(1, LeftButton, c.x, c.y);
         EXPECT_EQ(F1.Seccion, c.opens == Menu ? Nothing : c.opens) << c.x << "," << c.y;
         EXPECT_EQ(toolkit.popups.size(), c.opens == Menu ? 1U : 0U) << c.x << "," << c.y;
-        EXPECT_EQ(F1.S(1).MousePointer, c.opens == Nothing ? Pointer::Arrow : Pointer::Hand);
+        EXPECT_EQ(F1.S(1).MousePointer,
+                  c.opens == Nothing ? MouseCursor::Arrow : MouseCursor::Hand);
     }
 }
 

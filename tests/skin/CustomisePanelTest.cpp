@@ -73,7 +73,7 @@ TEST_F(CustomisePanelOpen, ShowsTheSettingsOfTheRunAndTouchesNeitherSkinNorStore
     EXPECT_TRUE(F1.LineInf.Visible && F1.LMenu(1).TabStop);
     EXPECT_EQ(F1.LMenu(13).ForeColor, White);
     EXPECT_EQ(F1.LOpc.ForeColor, RGB(250, 250, 250));
-    EXPECT_EQ(F1.MenuLogo.MousePointer, Pointer::Hand);
+    EXPECT_EQ(F1.MenuLogo.MousePointer, MouseCursor::Hand);
     EXPECT_TRUE(F1.LangList.List.empty());
     click("Personalizar");
     EXPECT_EQ(F1.LangList.List.size(), 3U);
@@ -206,7 +206,8 @@ TEST_F(CustomisePanelOpen, LocksWhatLiesAroundItUntilItCloses)
     EXPECT_FALSE(F1.LMenu(8).TabStop || F1.LOpc.TabStop);
     EXPECT_TRUE(F1.LMenu(13).ForeColor == RGB(215, 215, 215) &&
                 F1.LOpc.ForeColor == F1.LMenu(13).ForeColor);
-    EXPECT_TRUE(F1.BM.MousePointer == Pointer::Arrow && F1.S(1).MousePointer == Pointer::Arrow);
+    EXPECT_TRUE(F1.BM.MousePointer == MouseCursor::Arrow &&
+                F1.S(1).MousePointer == MouseCursor::Arrow);
     EXPECT_EQ(F1.LT(3).Caption + F1.L(3).Caption + F1.LT(3).ToolTipText + F1.L(3).ToolTipText, "");
     EXPECT_FALSE(F1.Iaviso.Visible || F1.Line1.Visible || F1.LineInf.Visible);
     EXPECT_EQ(F1.Labelmi.Caption, "");
