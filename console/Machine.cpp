@@ -7,7 +7,7 @@
 #include "frame/Navigation.h"
 #include "frame/SettingRows.h"
 #include "platform/linux/LinuxManagementService.h"
-#include "platform/linux/files/Facts.h"
+#include "platform/linux/recording/RecordedSystemCalls.h"
 #include "platform/linux/services/MachineShell.h"
 #include "platform/masking/MaskedService.h"
 #include "report/Report.h"
@@ -22,7 +22,7 @@ std::optional<std::string> user_of(const Options& options, const Sysroot& files)
 {
     if (options.user || files.is_live())
         return options.user;
-    return recorded_facts(Sysroot(files, nullptr))->variable(UserName);
+    return recorded_system_calls(Sysroot(files, nullptr))->variable(UserName);
 }
 
 Environment environment_of(const Options& options, const Sysroot& files)

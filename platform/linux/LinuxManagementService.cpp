@@ -1,6 +1,9 @@
 #include "platform/linux/LinuxManagementService.h"
 
+#include "platform/linux/LiveSystemCalls.h"
 #include "platform/linux/classes/Classes.h"
+#include "platform/linux/recording/ObservedSystemCalls.h"
+#include "platform/linux/recording/RecordedSystemCalls.h"
 #include "platform/system/Failure.h"
 #include "platform/wql/ClassQuery.h"
 #include "platform/wql/Wql.h"
@@ -39,11 +42,12 @@ std::unique_ptr<ManagementService> make_linux_management_service(const std::stri
 std::unique_ptr<ManagementService> make_linux_management_service(Sysroot root,
                                                                  SessionFactsSource session)
 {
-    auto facts = root.is_live() ? live_facts() : recorded_facts(Sysroot(root, nullptr));
+    auto calls =
+        root.is_live() ? live_system_calls() : recorded_system_calls(Sysroot(root, nullptr));
     if (root.witness())
-        facts = witnessed_facts(std::move(facts), root.witness());
+        calls = observed_system_calls(std::move(calls), root.witness());
     return std::make_unique<LinuxManagementService>(
-        MachineView{std::move(root), std::move(facts), std::move(session)});
+        MachineView{std::move(root), std::move(calls), std::move(session)});
 }
 
 } // namespace ostrelum

@@ -86,13 +86,13 @@ bool administers(std::string_view groups, const Account& account)
 std::vector<Account> local_accounts(const MachineView& machine)
 {
     const PersonRange persons = person_range(machine.root);
-    const auto own = machine.facts->user_id();
+    const auto own = machine.system_calls->user_id();
     std::vector<Account> accounts = parse_passwd(machine.root.read("/etc/passwd").value_or(""));
     std::erase_if(accounts, [&](const Account& account) {
         return account.uid != 0 && !persons.holds(account.uid) && account.uid != own;
     });
     if (own && std::ranges::find(accounts, *own, &Account::uid) == accounts.end()) {
-        const auto line = machine.facts->directory_account(*own);
+        const auto line = machine.system_calls->directory_account(*own);
         std::ranges::move(parse_passwd(line.value_or("")), std::back_inserter(accounts));
     }
     return accounts;

@@ -32,7 +32,7 @@ struct Disk {
     {
         if (!mounted() || volume.network || volume.behind_network)
             return std::nullopt;
-        return machine.facts->space(volume.mount.target);
+        return machine.system_calls->space(volume.mount.target);
     }
 };
 

@@ -33,15 +33,16 @@ std::optional<std::int64_t> last_login_of(const Profile& profile)
     if (const auto told = profile.files->last(profile.account))
         return told;
     const MachineView& machine = profile.machine;
-    const bool own = machine.facts->user_id() == profile.account.uid;
-    return own ? machine.facts->login_time(profile.account.uid) : std::nullopt;
+    const bool own = machine.system_calls->user_id() == profile.account.uid;
+    return own ? machine.system_calls->login_time(profile.account.uid) : std::nullopt;
 }
 
 Value last_logon(const Profile& profile)
 {
     const auto moment = last_login_of(profile);
-    return moment ? value_of(cim_datetime(*moment, profile.machine.facts->utc_offset(*moment)))
-                  : Value();
+    return moment
+               ? value_of(cim_datetime(*moment, profile.machine.system_calls->utc_offset(*moment)))
+               : Value();
 }
 
 Value number_of_logons(const Profile& profile)

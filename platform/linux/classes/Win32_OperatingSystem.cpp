@@ -74,12 +74,13 @@ Value install_date(const System& system)
         return {};
     std::optional<std::int64_t> oldest;
     for (const char* path : {"/", "/lost+found", "/etc/machine-id"}) {
-        const auto birth = system.machine.facts->birth_time(path);
+        const auto birth = system.machine.system_calls->birth_time(path);
         if (birth && *birth >= Year2000 && (!oldest || *birth < *oldest))
             oldest = birth;
     }
-    return oldest ? value_of(cim_datetime(*oldest, system.machine.facts->utc_offset(*oldest)))
-                  : Value();
+    return oldest
+               ? value_of(cim_datetime(*oldest, system.machine.system_calls->utc_offset(*oldest)))
+               : Value();
 }
 
 /// Linux does not favour one use of memory over the other.
@@ -114,7 +115,7 @@ Value language(const System& system)
         if (const auto locale = assigned(system.root().read(path).value_or(""), "LANG"))
             return value_of(locale_id(*locale));
     }
-    const auto locale = system.machine.facts->variable("LANG");
+    const auto locale = system.machine.system_calls->variable("LANG");
     return locale ? value_of(locale_id(*locale)) : Value();
 }
 

@@ -33,8 +33,9 @@ Value name(const LocalAccount& local)
 std::optional<PasswordPolicy> policy(const LocalAccount& local)
 {
     if (!local.policy) {
-        const bool own = local.machine.facts->user_id() == local.account.uid;
-        local.policy = own ? local.machine.facts->password_policy(local.account.uid) : std::nullopt;
+        const bool own = local.machine.system_calls->user_id() == local.account.uid;
+        local.policy =
+            own ? local.machine.system_calls->password_policy(local.account.uid) : std::nullopt;
     }
     return *local.policy;
 }

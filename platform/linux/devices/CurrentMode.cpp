@@ -58,7 +58,7 @@ std::optional<DisplayMode> kernel_mode_of(const MachineView& machine, const Conn
 {
     if (machine.root.text(connector.folder() + "/enabled") == "disabled")
         return std::nullopt;
-    return machine.facts->display_mode(connector.name);
+    return machine.system_calls->display_mode(connector.name);
 }
 
 /// The picture memory of the text consoles: of the card itself, or as the firmware left it to a

@@ -77,7 +77,7 @@ std::optional<std::uint64_t> graphics_memory(const MachineView& machine, const G
     const bool asleep = machine.root.text(folder + "/power/runtime_status") == "suspended";
     if (graphics_driver(machine.root, card) != nvidia || asleep)
         return std::nullopt;
-    return machine.facts->graphics_memory(card.slot);
+    return machine.system_calls->graphics_memory(card.slot);
 }
 
 } // namespace ostrelum

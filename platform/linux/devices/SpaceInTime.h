@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/files/Facts.h"
+#include "platform/linux/files/SystemCalls.h"
 
 #include <optional>
 #include <string>

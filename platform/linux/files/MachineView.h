@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/linux/files/Facts.h"
 #include "platform/linux/files/Sysroot.h"
+#include "platform/linux/files/SystemCalls.h"
 #include "platform/system/Screens.h"
 
 #include <memory>
@@ -11,7 +11,7 @@ namespace ostrelum {
 /// The machine that the classes tell of: this one or a recorded one.
 struct MachineView {
     Sysroot root;
-    std::unique_ptr<Facts> facts;
+    std::unique_ptr<SystemCalls> system_calls;
     /// Empty without a desktop session.
     SessionFactsSource session;
 };

@@ -64,7 +64,7 @@ std::optional<std::string> kernel_architecture(const MachineView& machine)
 {
     if (auto kind = machine.root.text("/proc/sys/kernel/arch"))
         return kind;
-    if (auto kind = machine.facts->processor_kind())
+    if (auto kind = machine.system_calls->processor_kind())
         return kind;
     return architecture_of_cpuinfo(machine.root);
 }

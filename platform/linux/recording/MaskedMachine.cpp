@@ -78,28 +78,28 @@ std::string masked_path(const std::string& path, Disguise& who)
     return path.starts_with("/dev/") ? who.names.of_path(path) : path;
 }
 
-using Facts = decltype(RecordedMachine::facts);
+using Answers = decltype(RecordedMachine::answers);
 
-Facts masked_facts(Facts facts, Disguise& who)
+Answers masked_answers(Answers answers, Disguise& who)
 {
     constexpr std::string_view user = "UserName=";
-    Facts masked;
-    for (const auto& [path, space] : facts["statvfs"])
+    Answers masked;
+    for (const auto& [path, space] : answers["statvfs"])
         masked["statvfs"].emplace(who.names.of_path(path), space);
-    for (const auto& [line, rest] : facts["passwd"])
+    for (const auto& [line, rest] : answers["passwd"])
         masked["passwd"].emplace(trimmed_space(masked_accounts(line, who)), rest);
-    for (const auto& [line, rest] : facts["env"]) {
+    for (const auto& [line, rest] : answers["env"]) {
         const bool name = line.starts_with(user);
         masked["env"].emplace(
             name ? std::string(user) + who.accounts.of(line.substr(user.size())) : line, rest);
     }
     // The other moments are those of logins.
-    for (const auto& [path, birth] : facts["btime"]) {
-        if (facts["zone"].contains(birth))
-            masked["zone"].emplace(birth, facts["zone"][birth]);
+    for (const auto& [path, birth] : answers["btime"]) {
+        if (answers["zone"].contains(birth))
+            masked["zone"].emplace(birth, answers["zone"][birth]);
     }
     for (const char* list : {"btime", "hwdb", "id", "modes", "password", "uname", "vram"})
-        masked[list] = facts[list];
+        masked[list] = answers[list];
     std::erase_if(masked, [](const auto& list) { return list.second.empty(); });
     return masked;
 }
@@ -113,7 +113,7 @@ RecordedMachine masked_machine(const RecordedMachine& machine,
     for (const std::string& account : accounts)
         who.accounts.of(account);
     RecordedMachine masked;
-    masked.facts = masked_facts(machine.facts, who);
+    masked.answers = masked_answers(machine.answers, who);
     for (const auto& [path, place] : machine.places) {
         const bool file = place.kind == PlaceKind::File;
         const Rule* rule = file ? rule_of(place) : nullptr;

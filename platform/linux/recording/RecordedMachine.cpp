@@ -86,10 +86,10 @@ void write_content(const RecordedMachine& machine, const PartFolder& part)
     }
 }
 
-void write_facts(const RecordedMachine& machine, const PartFolder& part)
+void write_answers(const RecordedMachine& machine, const PartFolder& part)
 {
     fs::create_directories(part / "/.facts");
-    for (const auto& [list, values] : machine.facts) {
+    for (const auto& [list, values] : machine.answers) {
         std::string lines;
         for (const auto& [key, value] : values)
             lines += key + (value.empty() ? "" : " " + value) + "\n";
@@ -112,7 +112,7 @@ void write_machine(const RecordedMachine& machine, const std::string& folder)
     try {
         const PartFolder part(named(folder));
         write_content(machine, part);
-        write_facts(machine, part);
+        write_answers(machine, part);
         part.become(named(folder));
     } catch (const fs::filesystem_error& error) {
         throw Failure(folder + ": " + error.code().message());

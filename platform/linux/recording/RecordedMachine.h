@@ -33,8 +33,8 @@ struct RecordedMachine {
     std::map<std::string, Place> places;
     /// Pieces of files too long to be taken whole, by path and first byte.
     std::map<std::pair<std::string, std::uint64_t>, std::string> pieces;
-    /// The files of /.facts by name; of each, the values by key (Witness.h).
-    std::map<std::string, std::map<std::string, std::string>> facts;
+    /// Answers of system calls: of each file in /.facts the values by key (Witness.h).
+    std::map<std::string, std::map<std::string, std::string>> answers;
 };
 
 /// Throws Failure unless the folder is empty or not there.

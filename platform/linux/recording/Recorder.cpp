@@ -107,7 +107,7 @@ void Recorder::read_link(const std::string& path)
 
 void Recorder::told(const std::string& list, const std::string& key, const std::string& value)
 {
-    machine_.facts[list].try_emplace(key, value);
+    machine_.answers[list].try_emplace(key, value);
 }
 
 } // namespace ostrelum

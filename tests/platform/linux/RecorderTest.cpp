@@ -1,6 +1,5 @@
 #include "platform/linux/recording/Recorder.h"
 #include "platform/linux/devices/HardwareDatabase.h"
-#include "platform/linux/files/Facts.h"
 #include "tests/platform/linux/TemporaryFolder.h"
 
 #include <gtest/gtest.h>

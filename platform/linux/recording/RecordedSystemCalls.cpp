@@ -1,4 +1,5 @@
-#include "platform/linux/files/Facts.h"
+#include "platform/linux/recording/RecordedSystemCalls.h"
+
 #include "platform/linux/text/Text.h"
 
 namespace ostrelum {
@@ -24,9 +25,9 @@ std::optional<std::vector<std::uint64_t>> numbers_of(std::string_view lines, std
     return std::nullopt;
 }
 
-class RecordedFacts : public Facts {
+class RecordedSystemCalls : public SystemCalls {
 public:
-    explicit RecordedFacts(const Sysroot& root)
+    explicit RecordedSystemCalls(const Sysroot& root)
         : spaces_(record(root, "statvfs")), births_(record(root, "btime")),
           uname_(record(root, "uname")), id_(record(root, "id")), environment_(record(root, "env")),
           modes_(record(root, "modes")), vram_(record(root, "vram")),
@@ -140,9 +141,9 @@ private:
 
 } // namespace
 
-std::unique_ptr<Facts> recorded_facts(const Sysroot& root)
+std::unique_ptr<SystemCalls> recorded_system_calls(const Sysroot& root)
 {
-    return std::make_unique<RecordedFacts>(root);
+    return std::make_unique<RecordedSystemCalls>(root);
 }
 
 } // namespace ostrelum

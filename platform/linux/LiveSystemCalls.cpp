@@ -1,8 +1,9 @@
+#include "platform/linux/LiveSystemCalls.h"
+
 #include "platform/linux/accounts/AccountsService.h"
 #include "platform/linux/devices/KernelMode.h"
 #include "platform/linux/devices/NvidiaMemory.h"
 #include "platform/linux/devices/SpaceInTime.h"
-#include "platform/linux/files/Facts.h"
 #include "platform/linux/services/Environment.h"
 
 #include <array>
@@ -17,7 +18,7 @@
 namespace ostrelum {
 namespace {
 
-class LiveFacts : public Facts {
+class LiveSystemCalls : public SystemCalls {
 public:
     std::optional<VolumeSpace> space(const std::string& path) override
     {
@@ -101,9 +102,9 @@ private:
 
 } // namespace
 
-std::unique_ptr<Facts> live_facts()
+std::unique_ptr<SystemCalls> live_system_calls()
 {
-    return std::make_unique<LiveFacts>();
+    return std::make_unique<LiveSystemCalls>();
 }
 
 } // namespace ostrelum

@@ -1,9 +1,6 @@
 #pragma once
 
-#include "platform/linux/files/Sysroot.h"
-
 #include <cstdint>
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -37,10 +34,10 @@ struct PasswordPolicy {
     bool changeable = false;
 };
 
-/// What a machine tells by system calls and not by files. A fact that cannot be had is nothing.
-class Facts {
+/// What a machine answers by system calls, not by files. Nothing: the call failed or has no answer.
+class SystemCalls {
 public:
-    virtual ~Facts() = default;
+    virtual ~SystemCalls() = default;
 
     /// The space of the volume that holds a path. Waits two seconds at most.
     virtual std::optional<VolumeSpace> space(const std::string& path) = 0;
@@ -78,20 +75,5 @@ public:
     /// Minutes by which the machine's local time is ahead of UTC at a moment in seconds since 1970.
     virtual int utc_offset(std::int64_t moment) = 0;
 };
-
-/// The facts of this machine.
-std::unique_ptr<Facts> live_facts();
-
-/// The facts that a recorded machine keeps in the folder /.facts: the files statvfs (path, block
-/// size, blocks, free, available), btime (path, seconds), uname (as `uname -a` prints it), id (as
-/// `id` prints it), env (NAME=value), modes (connector, width, height, bits, thousandths of hertz),
-/// vram (PCI place, bytes), password (user number, 1 if it expires, 1 if it may be changed), login
-/// (user number, seconds), passwd (lines of accounts from a directory), zone (moment, minutes ahead
-/// of UTC; at other moments the machine stands in UTC).
-std::unique_ptr<Facts> recorded_facts(const Sysroot& root);
-
-/// The same facts, each told to a witness as a recorded machine keeps it.
-std::unique_ptr<Facts> witnessed_facts(std::unique_ptr<Facts> facts,
-                                       std::shared_ptr<Witness> witness);
 
 } // namespace ostrelum
