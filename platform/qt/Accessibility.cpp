@@ -2,8 +2,8 @@
 
 #include "platform/qt/FocusFrame.h"
 #include "platform/qt/FormWindow.h"
-#include "platform/qt/LabelCarrier.h"
-#include "platform/qt/LineCarrier.h"
+#include "platform/qt/LabelBinding.h"
+#include "platform/qt/LineBinding.h"
 #include "platform/qt/PictureWidget.h"
 
 #include <QAccessible>

@@ -27,41 +27,41 @@ Qt::WindowFlags frame_of(const Form& form, Qt::WindowType kind)
 FormWindow::FormWindow(const Surroundings& around, Qt::WindowType kind,
                        std::function<void()> asked_to_close)
     : QWidget(nullptr, frame_of(around.form, kind)), around_(around),
-      asked_to_close_(std::move(asked_to_close)), keyboard_(*this, carriers_, around_)
+      asked_to_close_(std::move(asked_to_close)), keyboard_(*this, bindings_, around_)
 {
     // The window itself has the focus until the user moves it, so that no control starts marked.
     setFocusPolicy(Qt::ClickFocus);
     setFocus();
     new MouseFeed(*this, nullptr, around_);
     installEventFilter(this);
-    make_carriers();
+    make_bindings();
 }
 
-void FormWindow::make_carriers()
+void FormWindow::make_bindings()
 {
     for (const ControlEntry& entry : around_.form.controls) {
         QWidget* parent = this;
         if (entry.container >= 0) {
-            const auto& holder = carriers_.at(static_cast<std::size_t>(entry.container));
+            const auto& holder = bindings_.at(static_cast<std::size_t>(entry.container));
             parent = holder && holder->widget() ? holder->widget() : this;
         }
-        carriers_.push_back(make_carrier(entry, *parent, around_));
-        if (const auto& made = carriers_.back(); made && made->widget())
+        bindings_.push_back(make_binding(entry, *parent, around_));
+        if (const auto& made = bindings_.back(); made && made->widget())
             made->widget()->installEventFilter(this);
     }
 }
 
-void FormWindow::carry()
+void FormWindow::sync()
 {
-    carry_frame();
-    for (const auto& carrier : carriers_) {
-        if (carrier)
-            carrier->carry();
+    sync_frame();
+    for (const auto& binding : bindings_) {
+        if (binding)
+            binding->sync();
     }
     keyboard_.show_focus();
 }
 
-void FormWindow::carry_frame()
+void FormWindow::sync_frame()
 {
     const Form& form = around_.form;
     const Frame wanted{form.Caption,
@@ -99,9 +99,9 @@ void FormWindow::bring_up()
 
 void FormWindow::close_down()
 {
-    for (const auto& carrier : carriers_) {
-        if (carrier)
-            carrier->stop();
+    for (const auto& binding : bindings_) {
+        if (binding)
+            binding->stop();
     }
     hide();
     if (gone)
@@ -129,7 +129,7 @@ bool FormWindow::focusNextPrevChild(bool next)
 {
     const bool moved = QWidget::focusNextPrevChild(next);
     // Not where a control that goes gives its focus away.
-    if (!around_.gate.carrying())
+    if (!around_.gate.syncing())
         keyboard_.set_in_use(true);
     return moved;
 }

@@ -13,9 +13,9 @@ public:
                std::function<void()> asked_to_close);
 
     const Form& form() const { return around_.form; }
-    const Carriers& carriers() const { return carriers_; }
-    /// Carries over what differs.
-    void carry();
+    const ControlBindings& bindings() const { return bindings_; }
+    /// Hands on what differs.
+    void sync();
     /// Brings the window up in the centre of the screen.
     void bring_up();
     /// Takes the window away for good: nothing comes from it any more.
@@ -31,12 +31,12 @@ protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
-    void make_carriers();
-    void carry_frame();
+    void make_bindings();
+    void sync_frame();
 
     const Surroundings around_;
     std::function<void()> asked_to_close_;
-    Carriers carriers_;
+    ControlBindings bindings_;
     Keyboard keyboard_;
     /// Copies of what the frame shows.
     struct Frame {

@@ -4,22 +4,22 @@ namespace ostrelum {
 
 void Gate::raise(const Form& form, const ControlEntry* entry, const Event& event)
 {
-    if (carrying_)
+    if (syncing_)
         return;
     if (entry)
         form.raise(*entry, event);
     else
         form.raise("Form", event);
-    carry_over();
+    sync_all();
 }
 
-void Gate::carry_over()
+void Gate::sync_all()
 {
-    if (carrying_)
+    if (syncing_)
         return;
-    carrying_ = true;
+    syncing_ = true;
     walk_();
-    carrying_ = false;
+    syncing_ = false;
 }
 
 } // namespace ostrelum

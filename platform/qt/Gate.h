@@ -10,7 +10,7 @@
 namespace ostrelum {
 
 /// The one way in which what happens on the screen reaches the program: event by event, each
-/// followed by a walk over the forms that carries over what it changed.
+/// followed by a walk over the forms that shows what it changed.
 class Gate {
 public:
     explicit Gate(std::function<void()> walk) : walk_(std::move(walk)) {}
@@ -18,9 +18,9 @@ public:
     /// Raises an event of a control, or of the form itself without an entry. Nothing is raised
     /// during a walk: what widgets report then is the program's own doing.
     void raise(const Form& form, const ControlEntry* entry, const Event& event);
-    /// Carries over what the program changed.
-    void carry_over();
-    bool carrying() const { return carrying_; }
+    /// Shows what the program changed.
+    void sync_all();
+    bool syncing() const { return syncing_; }
 
     /// Point of the screen at which a menu comes up while an event from the keyboard runs. A menu
     /// that comes up takes it.
@@ -28,7 +28,7 @@ public:
 
 private:
     std::function<void()> walk_;
-    bool carrying_ = false;
+    bool syncing_ = false;
 };
 
 } // namespace ostrelum

@@ -3,15 +3,15 @@
 #include <QPushButton>
 
 namespace ostrelum {
-Keyboard::Keyboard(QWidget& window, const Carriers& carriers, const Surroundings& around)
-    : window_(window), carriers_(carriers), around_(around), frame_(window)
+Keyboard::Keyboard(QWidget& window, const ControlBindings& bindings, const Surroundings& around)
+    : window_(window), bindings_(bindings), around_(around), frame_(window)
 {
 }
 
 QWidget* Keyboard::widget(int place) const
 {
-    const auto& carrier = carriers_.at(static_cast<std::size_t>(place));
-    return carrier ? carrier->widget() : nullptr;
+    const auto& binding = bindings_.at(static_cast<std::size_t>(place));
+    return binding ? binding->widget() : nullptr;
 }
 
 const ControlEntry& Keyboard::entry(int place) const
@@ -22,7 +22,7 @@ const ControlEntry& Keyboard::entry(int place) const
 int Keyboard::focused() const
 {
     const QWidget* focus = window_.focusWidget();
-    for (int place = 0; focus && place < static_cast<int>(carriers_.size()); ++place) {
+    for (int place = 0; focus && place < static_cast<int>(bindings_.size()); ++place) {
         if (widget(place) == focus)
             return place;
     }
@@ -74,14 +74,14 @@ bool Keyboard::press_focused(int button)
     if (place < 0)
         return false;
     set_in_use(true);
-    const bool pressed = carriers_[static_cast<std::size_t>(place)]->press(button);
+    const bool pressed = bindings_[static_cast<std::size_t>(place)]->press(button);
     around_.gate.keyboard_point.reset();
     return pressed;
 }
 
 bool Keyboard::press_button(bool CommandButton::*mark) const
 {
-    for (int place = 0; place < static_cast<int>(carriers_.size()); ++place) {
+    for (int place = 0; place < static_cast<int>(bindings_.size()); ++place) {
         const auto* control = std::get_if<CommandButton*>(&entry(place).control);
         auto* button = qobject_cast<QAbstractButton*>(widget(place));
         if (control && button && (*control)->*mark && button->isVisible() && button->isEnabled()) {
@@ -98,7 +98,7 @@ bool Keyboard::menu_key()
     const int place = focused();
     std::optional<QPoint>& point = around_.gate.keyboard_point;
     const bool pressed =
-        place >= 0 && carriers_[static_cast<std::size_t>(place)]->press(RightButton);
+        place >= 0 && bindings_[static_cast<std::size_t>(place)]->press(RightButton);
     if (pressed && !point)
         return true;
     const QPoint middle = window_.rect().center();
@@ -122,7 +122,7 @@ bool Keyboard::move_focus(int key)
     const int from = focused();
     if (from < 0)
         return false;
-    const int count = static_cast<int>(carriers_.size());
+    const int count = static_cast<int>(bindings_.size());
     const bool forward = key == Qt::Key_Down || key == Qt::Key_Home;
     const int step = forward ? 1 : -1;
     int place = key == Qt::Key_Home ? 0 : key == Qt::Key_End ? count - 1 : from + step;

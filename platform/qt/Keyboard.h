@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/qt/Carrier.h"
+#include "platform/qt/ControlBinding.h"
 #include "platform/qt/FocusFrame.h"
 
 #include <QKeyEvent>
@@ -9,13 +9,13 @@
 
 namespace ostrelum {
 
-/// The carriers of a form, at the places of its controls.
-using Carriers = std::vector<std::unique_ptr<Carrier>>;
+/// The bindings of a form, at the places of its controls.
+using ControlBindings = std::vector<std::unique_ptr<ControlBinding>>;
 
 /// What keys do in a form's window beyond what its widgets do with them.
 class Keyboard {
 public:
-    Keyboard(QWidget& window, const Carriers& carriers, const Surroundings& around);
+    Keyboard(QWidget& window, const ControlBindings& bindings, const Surroundings& around);
 
     /// A key that no widget wanted. False if it means nothing here either.
     bool key(const QKeyEvent& key);
@@ -39,7 +39,7 @@ private:
     const ControlEntry& entry(int place) const;
 
     QWidget& window_;
-    const Carriers& carriers_;
+    const ControlBindings& bindings_;
     const Surroundings around_;
     FocusFrame frame_;
     bool in_use_ = false;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/qt/Carrier.h"
+#include "platform/qt/ControlBinding.h"
 
 #include <QMouseEvent>
 

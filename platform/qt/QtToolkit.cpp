@@ -49,7 +49,7 @@ std::unique_ptr<Toolkit> make_qt_toolkit(int& argc, char** argv, const QtLook& l
 QtToolkit::QtToolkit(int& argc, char** argv, const QtLook& look)
     : application_(argc, argv), cursors_(look.hand, look.hot_spot), gate_([this] {
           for (const auto& [form, window] : windows_)
-              window->carry();
+              window->sync();
       })
 {
     // The places of the controls are fixed, so their look is too.
@@ -98,13 +98,13 @@ FormWindow& QtToolkit::make_window(Form& form, Qt::WindowType kind)
 void QtToolkit::user_closes(Form& form)
 {
     Unload(*this, form);
-    gate_.carry_over();
+    gate_.sync_all();
 }
 
 void QtToolkit::Show(Form& form)
 {
     FormWindow& window = make_window(form, Qt::Window);
-    gate_.carry_over();
+    gate_.sync_all();
     window.bring_up();
 }
 
@@ -141,14 +141,14 @@ void QtToolkit::Hide(Form& form)
 
 void QtToolkit::Refresh(Form& form)
 {
-    gate_.carry_over();
+    gate_.sync_all();
     if (FormWindow* window = window_of(form))
         window->repaint();
 }
 
 void QtToolkit::DoEvents()
 {
-    gate_.carry_over();
+    gate_.sync_all();
     QCoreApplication::processEvents();
 }
 

@@ -9,7 +9,7 @@
 
 /// Controls as plain data. Places and sizes are pixels of the box or the client area that holds the
 /// control. The program's logic assigns fields; a back end compares each control with what it shows
-/// and carries over what differs.
+/// and brings what differs to the screen.
 namespace ostrelum {
 
 struct Point {

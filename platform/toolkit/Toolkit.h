@@ -21,7 +21,7 @@ inline constexpr std::int32_t WS_EX_LAYERED = 0x80000;
 /// The window's opacity is its alpha; the colour key is unused.
 inline constexpr std::uint32_t LWA_ALPHA = 2;
 
-/// The window toolkit. After each event that it raises it carries over to the screen what the event
+/// The window toolkit. After each event that it raises it shows what the event
 /// changed in the form's data; in the middle of an event only Refresh does.
 class Toolkit {
 public:
@@ -39,7 +39,7 @@ public:
     virtual void ShowModal(Form& form) = 0;
     /// Takes the form's window away.
     virtual void Hide(Form& form) = 0;
-    /// Carries over what changed and paints it before it returns.
+    /// Shows what changed and paints it before it returns.
     virtual void Refresh(Form& form) = 0;
     /// Runs the events that are pending, once.
     virtual void DoEvents() = 0;

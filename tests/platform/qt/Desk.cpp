@@ -129,7 +129,7 @@ Desk::~Desk()
 QWidget& Desk::find_widget(const std::string& name, int index)
 {
     const auto place = form.find(name, index) - form.controls.data();
-    return *window().carriers().at(static_cast<std::size_t>(place))->widget();
+    return *window().bindings().at(static_cast<std::size_t>(place))->widget();
 }
 
 } // namespace ostrelum::desk

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "platform/qt/Carrier.h"
+#include "platform/qt/ControlBinding.h"
 #include "platform/qt/MouseFeed.h"
 #include "platform/qt/PictureWidget.h"
 
 namespace ostrelum {
 
-class PictureCarrier : public CarrierOf<PictureBox> {
+class PictureBinding : public BindingOf<PictureBox> {
 public:
-    PictureCarrier(PictureBox& box, const ControlEntry& entry, QWidget& parent,
+    PictureBinding(PictureBox& box, const ControlEntry& entry, QWidget& parent,
                    const Surroundings& around);
     QWidget* widget() const override { return widget_; }
     bool press(int button) override;

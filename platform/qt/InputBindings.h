@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/qt/Carrier.h"
+#include "platform/qt/ControlBinding.h"
 #include "platform/qt/SliderWidget.h"
 
 #include <QCheckBox>
@@ -10,9 +10,9 @@
 /// The controls of which the user changes the value.
 namespace ostrelum {
 
-class ButtonCarrier : public CarrierOf<CommandButton> {
+class ButtonBinding : public BindingOf<CommandButton> {
 public:
-    ButtonCarrier(CommandButton& button, const ControlEntry& entry, QWidget& parent,
+    ButtonBinding(CommandButton& button, const ControlEntry& entry, QWidget& parent,
                   const Surroundings& around);
     QWidget* widget() const override { return widget_; }
 
@@ -22,9 +22,9 @@ private:
     QPushButton* widget_;
 };
 
-class ScrollBarCarrier : public CarrierOf<ScrollBar> {
+class ScrollBarBinding : public BindingOf<ScrollBar> {
 public:
-    ScrollBarCarrier(ScrollBar& bar, const ControlEntry& entry, QWidget& parent,
+    ScrollBarBinding(ScrollBar& bar, const ControlEntry& entry, QWidget& parent,
                      const Surroundings& around);
     QWidget* widget() const override { return widget_; }
 
@@ -37,9 +37,9 @@ private:
     int value_when_grabbed_ = 0;
 };
 
-class CheckBoxCarrier : public CarrierOf<CheckBox> {
+class CheckBoxBinding : public BindingOf<CheckBox> {
 public:
-    CheckBoxCarrier(CheckBox& box, const ControlEntry& entry, QWidget& parent,
+    CheckBoxBinding(CheckBox& box, const ControlEntry& entry, QWidget& parent,
                     const Surroundings& around);
     QWidget* widget() const override { return widget_; }
 
@@ -49,9 +49,9 @@ private:
     QCheckBox* widget_;
 };
 
-class ComboBoxCarrier : public CarrierOf<ComboBox> {
+class ComboBoxBinding : public BindingOf<ComboBox> {
 public:
-    ComboBoxCarrier(ComboBox& box, const ControlEntry& entry, QWidget& parent,
+    ComboBoxBinding(ComboBox& box, const ControlEntry& entry, QWidget& parent,
                     const Surroundings& around);
     QWidget* widget() const override { return widget_; }
 

@@ -1,4 +1,4 @@
-#include "platform/qt/InputCarriers.h"
+#include "platform/qt/InputBindings.h"
 
 #include "platform/qt/Colours.h"
 #include "platform/qt/Fonts.h"
@@ -6,15 +6,15 @@
 
 namespace ostrelum {
 
-ButtonCarrier::ButtonCarrier(CommandButton& button, const ControlEntry& entry, QWidget& parent,
+ButtonBinding::ButtonBinding(CommandButton& button, const ControlEntry& entry, QWidget& parent,
                              const Surroundings& around)
-    : CarrierOf(button, entry, around), widget_(new QPushButton(&parent))
+    : BindingOf(button, entry, around), widget_(new QPushButton(&parent))
 {
     widget_->setAutoDefault(false);
     QObject::connect(widget_, &QPushButton::clicked, widget_, [this] { raise(EventKind::Click); });
 }
 
-void ButtonCarrier::apply()
+void ButtonBinding::apply()
 {
     place(*widget_);
     if (changed(&CommandButton::Caption))
@@ -28,9 +28,9 @@ void ButtonCarrier::apply()
     appear(*widget_);
 }
 
-ScrollBarCarrier::ScrollBarCarrier(ScrollBar& bar, const ControlEntry& entry, QWidget& parent,
+ScrollBarBinding::ScrollBarBinding(ScrollBar& bar, const ControlEntry& entry, QWidget& parent,
                                    const Surroundings& around)
-    : CarrierOf(bar, entry, around), widget_(new SliderWidget(&parent))
+    : BindingOf(bar, entry, around), widget_(new SliderWidget(&parent))
 {
     widget_->setFocusPolicy(Qt::StrongFocus);
     widget_->setContextMenuPolicy(Qt::NoContextMenu);
@@ -41,21 +41,21 @@ ScrollBarCarrier::ScrollBarCarrier(ScrollBar& bar, const ControlEntry& entry, QW
     QObject::connect(widget_, &QScrollBar::sliderReleased, widget_, [this] { user_let_go(); });
 }
 
-void ScrollBarCarrier::user_moved(int value)
+void ScrollBarBinding::user_moved(int value)
 {
-    if (around_.gate.carrying())
+    if (around_.gate.syncing())
         return;
     take(&ScrollBar::Value, value);
     raise(widget_->isSliderDown() ? EventKind::Scroll : EventKind::Change);
 }
 
-void ScrollBarCarrier::user_let_go()
+void ScrollBarBinding::user_let_go()
 {
     if (control_.Value != value_when_grabbed_)
         raise(EventKind::Change);
 }
 
-void ScrollBarCarrier::apply()
+void ScrollBarBinding::apply()
 {
     place(*widget_);
     if (changed(&ScrollBar::Min, &ScrollBar::Max))
@@ -73,21 +73,21 @@ void ScrollBarCarrier::apply()
     appear(*widget_);
 }
 
-CheckBoxCarrier::CheckBoxCarrier(CheckBox& box, const ControlEntry& entry, QWidget& parent,
+CheckBoxBinding::CheckBoxBinding(CheckBox& box, const ControlEntry& entry, QWidget& parent,
                                  const Surroundings& around)
-    : CarrierOf(box, entry, around), widget_(new QCheckBox(&parent))
+    : BindingOf(box, entry, around), widget_(new QCheckBox(&parent))
 {
     widget_->setPalette(box_palette(widget_->palette()));
     // Not the click: a screen reader ticks the box without one.
     QObject::connect(widget_, &QCheckBox::toggled, widget_, [this](bool ticked) {
-        if (around_.gate.carrying())
+        if (around_.gate.syncing())
             return;
         take(&CheckBox::Value, ticked ? 1 : 0);
         raise(EventKind::Click);
     });
 }
 
-void CheckBoxCarrier::apply()
+void CheckBoxBinding::apply()
 {
     place(*widget_);
     if (changed(&CheckBox::Caption))
@@ -101,9 +101,9 @@ void CheckBoxCarrier::apply()
     appear(*widget_);
 }
 
-ComboBoxCarrier::ComboBoxCarrier(ComboBox& box, const ControlEntry& entry, QWidget& parent,
+ComboBoxBinding::ComboBoxBinding(ComboBox& box, const ControlEntry& entry, QWidget& parent,
                                  const Surroundings& around)
-    : CarrierOf(box, entry, around), widget_(new QComboBox(&parent))
+    : BindingOf(box, entry, around), widget_(new QComboBox(&parent))
 {
     // Comes only from the user, and also when the entry was chosen before.
     QObject::connect(widget_, &QComboBox::activated, widget_, [this](int index) {
@@ -112,7 +112,7 @@ ComboBoxCarrier::ComboBoxCarrier(ComboBox& box, const ControlEntry& entry, QWidg
     });
 }
 
-void ComboBoxCarrier::apply()
+void ComboBoxBinding::apply()
 {
     place(*widget_);
     if (changed(&ComboBox::Font))

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/qt/Carrier.h"
+#include "platform/qt/ControlBinding.h"
 
 namespace ostrelum {
 
@@ -17,9 +17,9 @@ private:
     Line line_;
 };
 
-class LineCarrier : public CarrierOf<Line> {
+class LineBinding : public BindingOf<Line> {
 public:
-    LineCarrier(Line& line, const ControlEntry& entry, QWidget& parent, const Surroundings& around);
+    LineBinding(Line& line, const ControlEntry& entry, QWidget& parent, const Surroundings& around);
     QWidget* widget() const override { return widget_; }
 
 private:

@@ -1,4 +1,4 @@
-#include "platform/qt/LineCarrier.h"
+#include "platform/qt/LineBinding.h"
 
 #include "platform/qt/Colours.h"
 
@@ -36,13 +36,13 @@ void LineWidget::paintEvent(QPaintEvent*)
     painter.drawLine(line_.X1 - x(), line_.Y1 - y(), line_.X2 - x(), line_.Y2 - y());
 }
 
-LineCarrier::LineCarrier(Line& line, const ControlEntry& entry, QWidget& parent,
+LineBinding::LineBinding(Line& line, const ControlEntry& entry, QWidget& parent,
                          const Surroundings& around)
-    : CarrierOf(line, entry, around), widget_(new LineWidget(&parent))
+    : BindingOf(line, entry, around), widget_(new LineWidget(&parent))
 {
 }
 
-void LineCarrier::apply()
+void LineBinding::apply()
 {
     if (changed(&Line::X1, &Line::Y1, &Line::X2, &Line::Y2, &Line::BorderColor))
         widget_->set_line(control_);

@@ -1,4 +1,4 @@
-#include "platform/qt/TimerCarrier.h"
+#include "platform/qt/TimerBinding.h"
 
 #include <algorithm>
 
@@ -10,8 +10,8 @@ constexpr int FrameTime = 15;
 
 } // namespace
 
-TimerCarrier::TimerCarrier(Timer& timer, const ControlEntry& entry, const Surroundings& around)
-    : CarrierOf(timer, entry, around)
+TimerBinding::TimerBinding(Timer& timer, const ControlEntry& entry, const Surroundings& around)
+    : BindingOf(timer, entry, around)
 {
     clock_.setTimerType(Qt::PreciseTimer);
     QObject::connect(&clock_, &QTimer::timeout, &clock_, [this] {
@@ -21,7 +21,7 @@ TimerCarrier::TimerCarrier(Timer& timer, const ControlEntry& entry, const Surrou
     });
 }
 
-void TimerCarrier::apply()
+void TimerBinding::apply()
 {
     if (control_.Enabled && control_.Interval > 0)
         clock_.start(std::max(control_.Interval, FrameTime));

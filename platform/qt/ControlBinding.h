@@ -19,16 +19,17 @@ struct Surroundings {
     const Cursors& cursors;
 };
 
-/// Carries one control over to its widget, and what the user does with the widget back.
-class Carrier {
+/// Keeps one control and its widget the same: the widget shows what the control says, and what the
+/// user does with it comes back.
+class ControlBinding {
 public:
-    Carrier() = default;
-    Carrier(const Carrier&) = delete;
-    Carrier& operator=(const Carrier&) = delete;
-    virtual ~Carrier() = default;
+    ControlBinding() = default;
+    ControlBinding(const ControlBinding&) = delete;
+    ControlBinding& operator=(const ControlBinding&) = delete;
+    virtual ~ControlBinding() = default;
 
     /// Makes the widget show what the control says.
-    virtual void carry() = 0;
+    virtual void sync() = 0;
     /// The control's widget; nullptr for what has none.
     virtual QWidget* widget() const = 0;
     /// Presses the control in its middle as a mouse button would. False for a control that knows no
@@ -38,19 +39,20 @@ public:
     virtual void stop() = 0;
 };
 
-/// The carrier of a control, as a child of `parent`; nullptr for a menu and its entries.
-std::unique_ptr<Carrier> make_carrier(const ControlEntry& entry, QWidget& parent,
-                                      const Surroundings& around);
+/// The binding of a control to a widget, as a child of `parent`; nullptr for a menu and its
+/// entries.
+std::unique_ptr<ControlBinding> make_binding(const ControlEntry& entry, QWidget& parent,
+                                             const Surroundings& around);
 
 /// Keeps a copy of the control that is on show.
 template <class ControlType>
-class CarrierOf : public Carrier {
+class BindingOf : public ControlBinding {
 public:
-    CarrierOf(ControlType& control, const ControlEntry& entry, const Surroundings& around)
+    BindingOf(ControlType& control, const ControlEntry& entry, const Surroundings& around)
         : control_(control), entry_(entry), around_(around)
     {
     }
-    void carry() final
+    void sync() final
     {
         if (shown_ == control_)
             return;
@@ -61,7 +63,7 @@ public:
     void stop() override {}
 
 protected:
-    /// Carries over each field that differs: see changed().
+    /// Hands the widget each field that differs: see changed().
     virtual void apply() = 0;
 
     /// One of the fields differs from what is on show.

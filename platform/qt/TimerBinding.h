@@ -1,14 +1,14 @@
 #pragma once
 
-#include "platform/qt/Carrier.h"
+#include "platform/qt/ControlBinding.h"
 
 #include <QTimer>
 
 namespace ostrelum {
 
-class TimerCarrier : public CarrierOf<Timer> {
+class TimerBinding : public BindingOf<Timer> {
 public:
-    TimerCarrier(Timer& timer, const ControlEntry& entry, const Surroundings& around);
+    TimerBinding(Timer& timer, const ControlEntry& entry, const Surroundings& around);
     QWidget* widget() const override { return nullptr; }
     void stop() override { clock_.stop(); }
 

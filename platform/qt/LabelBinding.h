@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/qt/Carrier.h"
+#include "platform/qt/ControlBinding.h"
 #include "platform/qt/MouseFeed.h"
 
 #include <QLabel>
@@ -15,9 +15,9 @@ public:
     std::function<void()> press;
 };
 
-class LabelCarrier : public CarrierOf<Label> {
+class LabelBinding : public BindingOf<Label> {
 public:
-    LabelCarrier(Label& label, const ControlEntry& entry, QWidget& parent,
+    LabelBinding(Label& label, const ControlEntry& entry, QWidget& parent,
                  const Surroundings& around);
     QWidget* widget() const override { return widget_; }
     bool press(int button) override;

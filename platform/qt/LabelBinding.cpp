@@ -1,4 +1,4 @@
-#include "platform/qt/LabelCarrier.h"
+#include "platform/qt/LabelBinding.h"
 
 #include "platform/qt/Colours.h"
 #include "platform/qt/Fonts.h"
@@ -19,9 +19,9 @@ Qt::Alignment alignment_of(Align align)
 
 } // namespace
 
-LabelCarrier::LabelCarrier(Label& label, const ControlEntry& entry, QWidget& parent,
+LabelBinding::LabelBinding(Label& label, const ControlEntry& entry, QWidget& parent,
                            const Surroundings& around)
-    : CarrierOf(label, entry, around), widget_(new LabelWidget(&parent)),
+    : BindingOf(label, entry, around), widget_(new LabelWidget(&parent)),
       feed_(new MouseFeed(*widget_, &entry, around))
 {
     widget_->setTextFormat(Qt::PlainText);
@@ -29,13 +29,13 @@ LabelCarrier::LabelCarrier(Label& label, const ControlEntry& entry, QWidget& par
     widget_->press = [this] { press(LeftButton); };
 }
 
-bool LabelCarrier::press(int button)
+bool LabelBinding::press(int button)
 {
     feed_->press(button);
     return true;
 }
 
-void LabelCarrier::apply()
+void LabelBinding::apply()
 {
     apply_text();
     place_text();
@@ -51,7 +51,7 @@ void LabelCarrier::apply()
 }
 
 /// A slanted letter may lean out of the text on the left, where the widget would cut it.
-void LabelCarrier::place_text()
+void LabelBinding::place_text()
 {
     if (!changed(&Label::Left, &Label::Top, &Label::Width, &Label::Height, &Label::Caption,
                  &Label::Font))
@@ -63,7 +63,7 @@ void LabelCarrier::place_text()
                          control_.Height);
 }
 
-void LabelCarrier::apply_text()
+void LabelBinding::apply_text()
 {
     if (sizes_itself() &&
         changed(&Label::Caption, &Label::Font, &Label::AutoSize, &Label::WordWrap))

@@ -12,14 +12,14 @@
 namespace ostrelum::desk {
 namespace {
 
-class CarryTest : public Desk {};
+class SyncTest : public Desk {};
 
 QColor colour_at(QWidget& widget, int x, int y)
 {
     return widget.grab().toImage().pixelColor(x, y);
 }
 
-TEST_F(CarryTest, RefreshShowsWhatTheDataSays)
+TEST_F(SyncTest, RefreshShowsWhatTheDataSays)
 {
     form.Caption = "Other";
     form.Free.Caption = "a <b>device</b> & more";
@@ -58,7 +58,7 @@ TEST_F(CarryTest, RefreshShowsWhatTheDataSays)
     EXPECT_TRUE(label.wordWrap());
 }
 
-TEST_F(CarryTest, PicturesArePixelExact)
+TEST_F(SyncTest, PicturesArePixelExact)
 {
     EXPECT_EQ(colour_at(widget("Column"), 0, 0), QColor(250, 120, 0));
     EXPECT_EQ(colour_at(widget("Column"), 99, 199), QColor(40, 40, 40));
@@ -80,7 +80,7 @@ TEST_F(CarryTest, PicturesArePixelExact)
     EXPECT_EQ(colour_at(window(), 1, 45), QColor(40, 40, 40)) << "the column under the bar";
 }
 
-TEST_F(CarryTest, LaterControlsLieOverEarlierOnes)
+TEST_F(SyncTest, LaterControlsLieOverEarlierOnes)
 {
     EXPECT_EQ(window().childAt(20, 55), &widget("Silent"));
     EXPECT_EQ(window().childAt(80, 60), &widget("Bar"));
@@ -89,7 +89,7 @@ TEST_F(CarryTest, LaterControlsLieOverEarlierOnes)
     EXPECT_EQ(colour_at(window(), 180, 40), QColor(255, 255, 255)) << "the end is not drawn";
 }
 
-TEST_F(CarryTest, ALabelIsAsWideAsItsInk)
+TEST_F(SyncTest, ALabelIsAsWideAsItsInk)
 {
     for (const char* text : {"Value f", "Wolff", "M/", "K", "A", "f"}) {
         form.Free.Font = {.Name = "Liberation Serif", .Size = 24, .Italic = true};
@@ -109,7 +109,7 @@ TEST_F(CarryTest, ALabelIsAsWideAsItsInk)
     }
 }
 
-TEST_F(CarryTest, NoStandInIsMuchWiderThanTheLayoutAllows)
+TEST_F(SyncTest, NoStandInIsMuchWiderThanTheLayoutAllows)
 {
     if (!QFontDatabase::families().contains("Liberation Sans"))
         GTEST_SKIP() << "nothing near the width of the fonts asked for is installed";

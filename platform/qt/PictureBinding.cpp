@@ -1,24 +1,24 @@
-#include "platform/qt/PictureCarrier.h"
+#include "platform/qt/PictureBinding.h"
 
 #include "platform/qt/Text.h"
 
 namespace ostrelum {
 
-PictureCarrier::PictureCarrier(PictureBox& box, const ControlEntry& entry, QWidget& parent,
+PictureBinding::PictureBinding(PictureBox& box, const ControlEntry& entry, QWidget& parent,
                                const Surroundings& around)
-    : CarrierOf(box, entry, around), widget_(new PictureWidget(&parent)),
+    : BindingOf(box, entry, around), widget_(new PictureWidget(&parent)),
       feed_(new MouseFeed(*widget_, &entry, around))
 {
     widget_->press = [this] { press(LeftButton); };
 }
 
-bool PictureCarrier::press(int button)
+bool PictureBinding::press(int button)
 {
     feed_->press(button);
     return true;
 }
 
-void PictureCarrier::apply()
+void PictureBinding::apply()
 {
     place(*widget_);
     if (changed(&PictureBox::Transparent, &PictureBox::BackColor))
