@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/qt/Cursors.h"
-#include "platform/qt/Gate.h"
+#include "platform/qt/EventDispatcher.h"
 #include "platform/toolkit/Toolkit.h"
 
 #include <QWidget>
@@ -15,7 +15,7 @@ namespace ostrelum {
 struct Surroundings {
     const Form& form;
     const Toolkit& toolkit;
-    Gate& gate;
+    EventDispatcher& dispatcher;
     const Cursors& cursors;
 };
 
@@ -80,7 +80,7 @@ protected:
         if (shown_)
             *shown_.*field = value;
     }
-    void raise(EventKind kind) { around_.gate.raise(around_.form, &entry_, {.kind = kind}); }
+    void raise(EventKind kind) { around_.dispatcher.raise(around_.form, &entry_, {.kind = kind}); }
     void place(QWidget& widget) const
     {
         if (changed(&ControlType::Left, &ControlType::Top, &ControlType::Width,

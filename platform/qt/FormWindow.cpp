@@ -129,7 +129,7 @@ bool FormWindow::focusNextPrevChild(bool next)
 {
     const bool moved = QWidget::focusNextPrevChild(next);
     // Not where a control that goes gives its focus away.
-    if (!around_.gate.syncing())
+    if (!around_.dispatcher.syncing())
         keyboard_.set_in_use(true);
     return moved;
 }

@@ -43,7 +43,7 @@ ScrollBarBinding::ScrollBarBinding(ScrollBar& bar, const ControlEntry& entry, QW
 
 void ScrollBarBinding::user_moved(int value)
 {
-    if (around_.gate.syncing())
+    if (around_.dispatcher.syncing())
         return;
     take(&ScrollBar::Value, value);
     raise(widget_->isSliderDown() ? EventKind::Scroll : EventKind::Change);
@@ -80,7 +80,7 @@ CheckBoxBinding::CheckBoxBinding(CheckBox& box, const ControlEntry& entry, QWidg
     widget_->setPalette(box_palette(widget_->palette()));
     // Not the click: a screen reader ticks the box without one.
     QObject::connect(widget_, &QCheckBox::toggled, widget_, [this](bool ticked) {
-        if (around_.gate.syncing())
+        if (around_.dispatcher.syncing())
             return;
         take(&CheckBox::Value, ticked ? 1 : 0);
         raise(EventKind::Click);

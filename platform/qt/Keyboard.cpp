@@ -75,7 +75,7 @@ bool Keyboard::press_focused(int button)
         return false;
     set_in_use(true);
     const bool pressed = bindings_[static_cast<std::size_t>(place)]->press(button);
-    around_.gate.keyboard_point.reset();
+    around_.dispatcher.keyboard_point.reset();
     return pressed;
 }
 
@@ -96,14 +96,14 @@ bool Keyboard::press_button(bool CommandButton::*mark) const
 bool Keyboard::menu_key()
 {
     const int place = focused();
-    std::optional<QPoint>& point = around_.gate.keyboard_point;
+    std::optional<QPoint>& point = around_.dispatcher.keyboard_point;
     const bool pressed =
         place >= 0 && bindings_[static_cast<std::size_t>(place)]->press(RightButton);
     if (pressed && !point)
         return true;
     const QPoint middle = window_.rect().center();
     point = window_.mapToGlobal(middle);
-    around_.gate.raise(
+    around_.dispatcher.raise(
         around_.form, nullptr,
         {.kind = EventKind::MouseDown, .button = RightButton, .x = middle.x(), .y = middle.y()});
     point.reset();

@@ -61,12 +61,12 @@ void MouseFeed::raise(EventKind kind, int button, Qt::KeyboardModifiers modifier
 {
     // An earlier event of the same press may have taken the window away.
     if (target_widget_->window()->isVisible())
-        around_.gate.raise(around_.form, target_,
-                           {.kind = kind,
-                            .button = button,
-                            .shift = number_of(modifiers),
-                            .x = at.x(),
-                            .y = at.y()});
+        around_.dispatcher.raise(around_.form, target_,
+                                 {.kind = kind,
+                                  .button = button,
+                                  .shift = number_of(modifiers),
+                                  .x = at.x(),
+                                  .y = at.y()});
 }
 
 bool MouseFeed::eventFilter(QObject*, QEvent* event)
@@ -111,7 +111,7 @@ bool MouseFeed::moved(const QMouseEvent& mouse)
 void MouseFeed::press(int button)
 {
     const QPoint at = widget_.mapTo(target_widget_, widget_.rect().center());
-    around_.gate.keyboard_point = target_widget_->mapToGlobal(at);
+    around_.dispatcher.keyboard_point = target_widget_->mapToGlobal(at);
     raise(EventKind::MouseDown, button, {}, at);
     raise(EventKind::MouseUp, button, {}, at);
     if (button == LeftButton)

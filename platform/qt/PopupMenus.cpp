@@ -27,7 +27,8 @@ void embolden(QMenu& shown, QAction& action)
 
 } // namespace
 
-void pop_up(FormWindow& window, Gate& gate, const PopupMenu& menu, QPoint at, const MenuItem* bold)
+void pop_up(FormWindow& window, EventDispatcher& dispatcher, const PopupMenu& menu, QPoint at,
+            const MenuItem* bold)
 {
     const Form& form = window.form();
     const auto holder = &form.entry_of(&menu) - form.controls.data();
@@ -43,9 +44,9 @@ void pop_up(FormWindow& window, Gate& gate, const PopupMenu& menu, QPoint at, co
         // Queued on the window: should it go meanwhile, the choice goes with it.
         QObject::connect(
             action, &QAction::triggered, &window,
-            [&window, &gate, &entry] {
+            [&window, &dispatcher, &entry] {
                 if (window.isVisible())
-                    gate.raise(window.form(), &entry, {.kind = EventKind::Click});
+                    dispatcher.raise(window.form(), &entry, {.kind = EventKind::Click});
             },
             Qt::QueuedConnection);
     }

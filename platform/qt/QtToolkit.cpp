@@ -47,7 +47,7 @@ std::unique_ptr<Toolkit> make_qt_toolkit(int& argc, char** argv, const QtLook& l
 }
 
 QtToolkit::QtToolkit(int& argc, char** argv, const QtLook& look)
-    : application_(argc, argv), cursors_(look.hand, look.hot_spot), gate_([this] {
+    : application_(argc, argv), cursors_(look.hand, look.hot_spot), dispatcher_([this] {
           for (const auto& [form, window] : windows_)
               window->sync();
       })
@@ -86,7 +86,7 @@ FormWindow& QtToolkit::make_window(Form& form, Qt::WindowType kind)
 {
     if (FormWindow* window = window_of(form))
         return *window;
-    const Surroundings around{form, *this, gate_, cursors_};
+    const Surroundings around{form, *this, dispatcher_, cursors_};
     auto* window = new FormWindow(around, kind, [this, &form] { user_closes(form); });
     windows_[&form] = window;
     // The native window is there before it shows, so that it comes up with its opacity.
@@ -98,13 +98,13 @@ FormWindow& QtToolkit::make_window(Form& form, Qt::WindowType kind)
 void QtToolkit::user_closes(Form& form)
 {
     Unload(*this, form);
-    gate_.sync_all();
+    dispatcher_.sync_all();
 }
 
 void QtToolkit::Show(Form& form)
 {
     FormWindow& window = make_window(form, Qt::Window);
-    gate_.sync_all();
+    dispatcher_.sync_all();
     window.bring_up();
 }
 
@@ -141,14 +141,14 @@ void QtToolkit::Hide(Form& form)
 
 void QtToolkit::Refresh(Form& form)
 {
-    gate_.sync_all();
+    dispatcher_.sync_all();
     if (FormWindow* window = window_of(form))
         window->repaint();
 }
 
 void QtToolkit::DoEvents()
 {
-    gate_.sync_all();
+    dispatcher_.sync_all();
     QCoreApplication::processEvents();
 }
 
@@ -157,11 +157,11 @@ void QtToolkit::popup(Form& form, PopupMenu& menu, std::optional<Point> at, cons
     FormWindow* window = window_of(form);
     if (!window)
         return;
-    QPoint place = gate_.keyboard_point.value_or(QCursor::pos());
+    QPoint place = dispatcher_.keyboard_point.value_or(QCursor::pos());
     if (at)
         place = window->mapToGlobal(QPoint(at->x, at->y));
-    gate_.keyboard_point.reset();
-    pop_up(*window, gate_, menu, place, bold);
+    dispatcher_.keyboard_point.reset();
+    pop_up(*window, dispatcher_, menu, place, bold);
 }
 
 void QtToolkit::set_screen_cursor(MouseCursor cursor)

@@ -46,7 +46,7 @@ private:
 
     QApplication application_;
     Cursors cursors_;
-    Gate gate_;
+    EventDispatcher dispatcher_;
     std::map<const Form*, FormWindow*> windows_;
     std::map<const Form*, Layer> layers_;
 };

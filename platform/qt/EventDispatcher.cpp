@@ -1,8 +1,8 @@
-#include "platform/qt/Gate.h"
+#include "platform/qt/EventDispatcher.h"
 
 namespace ostrelum {
 
-void Gate::raise(const Form& form, const ControlEntry* entry, const Event& event)
+void EventDispatcher::raise(const Form& form, const ControlEntry* entry, const Event& event)
 {
     if (syncing_)
         return;
@@ -13,7 +13,7 @@ void Gate::raise(const Form& form, const ControlEntry* entry, const Event& event
     sync_all();
 }
 
-void Gate::sync_all()
+void EventDispatcher::sync_all()
 {
     if (syncing_)
         return;

@@ -11,9 +11,9 @@ namespace ostrelum {
 
 /// The one way in which what happens on the screen reaches the program: event by event, each
 /// followed by a walk over the forms that shows what it changed.
-class Gate {
+class EventDispatcher {
 public:
-    explicit Gate(std::function<void()> walk) : walk_(std::move(walk)) {}
+    explicit EventDispatcher(std::function<void()> walk) : walk_(std::move(walk)) {}
 
     /// Raises an event of a control, or of the form itself without an entry. Nothing is raised
     /// during a walk: what widgets report then is the program's own doing.
