@@ -11,8 +11,8 @@
 
 namespace ostrelum {
 
-/// What the parts of a form's window need of their surroundings.
-struct Surroundings {
+/// What the parts of a form's window share.
+struct WindowContext {
     const Form& form;
     const Toolkit& toolkit;
     EventDispatcher& dispatcher;
@@ -42,14 +42,14 @@ public:
 /// The binding of a control to a widget, as a child of `parent`; nullptr for a menu and its
 /// entries.
 std::unique_ptr<ControlBinding> make_binding(const ControlEntry& entry, QWidget& parent,
-                                             const Surroundings& around);
+                                             const WindowContext& context);
 
 /// Keeps a copy of the control that is on show.
 template <class ControlType>
 class BindingOf : public ControlBinding {
 public:
-    BindingOf(ControlType& control, const ControlEntry& entry, const Surroundings& around)
-        : control_(control), entry_(entry), around_(around)
+    BindingOf(ControlType& control, const ControlEntry& entry, const WindowContext& context)
+        : control_(control), entry_(entry), context_(context)
     {
     }
     void sync() final
@@ -80,7 +80,10 @@ protected:
         if (shown_)
             *shown_.*field = value;
     }
-    void raise(EventKind kind) { around_.dispatcher.raise(around_.form, &entry_, {.kind = kind}); }
+    void raise(EventKind kind)
+    {
+        context_.dispatcher.raise(context_.form, &entry_, {.kind = kind});
+    }
     void place(QWidget& widget) const
     {
         if (changed(&ControlType::Left, &ControlType::Top, &ControlType::Width,
@@ -101,7 +104,7 @@ protected:
 
     ControlType& control_;
     const ControlEntry& entry_;
-    const Surroundings around_;
+    const WindowContext context_;
 
 private:
     std::optional<ControlType> shown_;

@@ -11,13 +11,13 @@ namespace {
 struct Maker {
     const ControlEntry& entry;
     QWidget& parent;
-    const Surroundings& around;
+    const WindowContext& context;
     using Made = std::unique_ptr<ControlBinding>;
 
     template <class BindingType>
     Made widget(auto* control) const
     {
-        return std::make_unique<BindingType>(*control, entry, parent, around);
+        return std::make_unique<BindingType>(*control, entry, parent, context);
     }
     Made operator()(Label* control) const { return widget<LabelBinding>(control); }
     Made operator()(PictureBox* control) const { return widget<PictureBinding>(control); }
@@ -30,16 +30,16 @@ struct Maker {
     Made operator()(MenuItem*) const { return nullptr; }
     Made operator()(Timer* control) const
     {
-        return std::make_unique<TimerBinding>(*control, entry, around);
+        return std::make_unique<TimerBinding>(*control, entry, context);
     }
 };
 
 } // namespace
 
 std::unique_ptr<ControlBinding> make_binding(const ControlEntry& entry, QWidget& parent,
-                                             const Surroundings& around)
+                                             const WindowContext& context)
 {
-    return std::visit(Maker{entry, parent, around}, entry.control);
+    return std::visit(Maker{entry, parent, context}, entry.control);
 }
 
 } // namespace ostrelum

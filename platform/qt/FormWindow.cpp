@@ -24,28 +24,28 @@ Qt::WindowFlags frame_of(const Form& form, Qt::WindowType kind)
 
 } // namespace
 
-FormWindow::FormWindow(const Surroundings& around, Qt::WindowType kind,
+FormWindow::FormWindow(const WindowContext& context, Qt::WindowType kind,
                        std::function<void()> asked_to_close)
-    : QWidget(nullptr, frame_of(around.form, kind)), around_(around),
-      asked_to_close_(std::move(asked_to_close)), keyboard_(*this, bindings_, around_)
+    : QWidget(nullptr, frame_of(context.form, kind)), context_(context),
+      asked_to_close_(std::move(asked_to_close)), keyboard_(*this, bindings_, context_)
 {
     // The window itself has the focus until the user moves it, so that no control starts marked.
     setFocusPolicy(Qt::ClickFocus);
     setFocus();
-    new MouseFeed(*this, nullptr, around_);
+    new MouseFeed(*this, nullptr, context_);
     installEventFilter(this);
     make_bindings();
 }
 
 void FormWindow::make_bindings()
 {
-    for (const ControlEntry& entry : around_.form.controls) {
+    for (const ControlEntry& entry : context_.form.controls) {
         QWidget* parent = this;
         if (entry.container >= 0) {
             const auto& holder = bindings_.at(static_cast<std::size_t>(entry.container));
             parent = holder && holder->widget() ? holder->widget() : this;
         }
-        bindings_.push_back(make_binding(entry, *parent, around_));
+        bindings_.push_back(make_binding(entry, *parent, context_));
         if (const auto& made = bindings_.back(); made && made->widget())
             made->widget()->installEventFilter(this);
     }
@@ -63,7 +63,7 @@ void FormWindow::sync()
 
 void FormWindow::sync_frame()
 {
-    const Form& form = around_.form;
+    const Form& form = context_.form;
     const Frame wanted{form.Caption,
                        {form.ClientWidth, form.ClientHeight},
                        form.BackColor,
@@ -74,7 +74,7 @@ void FormWindow::sync_frame()
     setWindowTitle(qt_text(form.Caption));
     setFixedSize(form.ClientWidth, form.ClientHeight);
     setPalette(window_palette(form.BackColor));
-    around_.cursors.set(*this, form.MousePointer);
+    context_.cursors.set(*this, form.MousePointer);
     QIcon icon;
     for (const Picture& picture : form.Icon) {
         icon.addPixmap(pixmap_of(picture.bitmap()));
@@ -129,7 +129,7 @@ bool FormWindow::focusNextPrevChild(bool next)
 {
     const bool moved = QWidget::focusNextPrevChild(next);
     // Not where a control that goes gives its focus away.
-    if (!around_.dispatcher.syncing())
+    if (!context_.dispatcher.syncing())
         keyboard_.set_in_use(true);
     return moved;
 }

@@ -9,10 +9,10 @@ class FormWindow : public QWidget {
 public:
     /// `kind` is a window of its own or a dialog, which a desktop keeps over the window it came
     /// from. `asked_to_close` runs when the user closes the window by its frame.
-    FormWindow(const Surroundings& around, Qt::WindowType kind,
+    FormWindow(const WindowContext& context, Qt::WindowType kind,
                std::function<void()> asked_to_close);
 
-    const Form& form() const { return around_.form; }
+    const Form& form() const { return context_.form; }
     const ControlBindings& bindings() const { return bindings_; }
     /// Hands on what differs.
     void sync();
@@ -34,7 +34,7 @@ private:
     void make_bindings();
     void sync_frame();
 
-    const Surroundings around_;
+    const WindowContext context_;
     std::function<void()> asked_to_close_;
     ControlBindings bindings_;
     Keyboard keyboard_;

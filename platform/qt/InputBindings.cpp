@@ -7,8 +7,8 @@
 namespace ostrelum {
 
 ButtonBinding::ButtonBinding(CommandButton& button, const ControlEntry& entry, QWidget& parent,
-                             const Surroundings& around)
-    : BindingOf(button, entry, around), widget_(new QPushButton(&parent))
+                             const WindowContext& context)
+    : BindingOf(button, entry, context), widget_(new QPushButton(&parent))
 {
     widget_->setAutoDefault(false);
     QObject::connect(widget_, &QPushButton::clicked, widget_, [this] { raise(EventKind::Click); });
@@ -29,8 +29,8 @@ void ButtonBinding::apply()
 }
 
 ScrollBarBinding::ScrollBarBinding(ScrollBar& bar, const ControlEntry& entry, QWidget& parent,
-                                   const Surroundings& around)
-    : BindingOf(bar, entry, around), widget_(new SliderWidget(&parent))
+                                   const WindowContext& context)
+    : BindingOf(bar, entry, context), widget_(new SliderWidget(&parent))
 {
     widget_->setFocusPolicy(Qt::StrongFocus);
     widget_->setContextMenuPolicy(Qt::NoContextMenu);
@@ -43,7 +43,7 @@ ScrollBarBinding::ScrollBarBinding(ScrollBar& bar, const ControlEntry& entry, QW
 
 void ScrollBarBinding::user_moved(int value)
 {
-    if (around_.dispatcher.syncing())
+    if (context_.dispatcher.syncing())
         return;
     take(&ScrollBar::Value, value);
     raise(widget_->isSliderDown() ? EventKind::Scroll : EventKind::Change);
@@ -74,13 +74,13 @@ void ScrollBarBinding::apply()
 }
 
 CheckBoxBinding::CheckBoxBinding(CheckBox& box, const ControlEntry& entry, QWidget& parent,
-                                 const Surroundings& around)
-    : BindingOf(box, entry, around), widget_(new QCheckBox(&parent))
+                                 const WindowContext& context)
+    : BindingOf(box, entry, context), widget_(new QCheckBox(&parent))
 {
     widget_->setPalette(box_palette(widget_->palette()));
     // Not the click: a screen reader ticks the box without one.
     QObject::connect(widget_, &QCheckBox::toggled, widget_, [this](bool ticked) {
-        if (around_.dispatcher.syncing())
+        if (context_.dispatcher.syncing())
             return;
         take(&CheckBox::Value, ticked ? 1 : 0);
         raise(EventKind::Click);
@@ -102,8 +102,8 @@ void CheckBoxBinding::apply()
 }
 
 ComboBoxBinding::ComboBoxBinding(ComboBox& box, const ControlEntry& entry, QWidget& parent,
-                                 const Surroundings& around)
-    : BindingOf(box, entry, around), widget_(new QComboBox(&parent))
+                                 const WindowContext& context)
+    : BindingOf(box, entry, context), widget_(new QComboBox(&parent))
 {
     // Comes only from the user, and also when the entry was chosen before.
     QObject::connect(widget_, &QComboBox::activated, widget_, [this](int index) {

@@ -13,7 +13,7 @@ namespace ostrelum {
 class ButtonBinding : public BindingOf<CommandButton> {
 public:
     ButtonBinding(CommandButton& button, const ControlEntry& entry, QWidget& parent,
-                  const Surroundings& around);
+                  const WindowContext& context);
     QWidget* widget() const override { return widget_; }
 
 private:
@@ -25,7 +25,7 @@ private:
 class ScrollBarBinding : public BindingOf<ScrollBar> {
 public:
     ScrollBarBinding(ScrollBar& bar, const ControlEntry& entry, QWidget& parent,
-                     const Surroundings& around);
+                     const WindowContext& context);
     QWidget* widget() const override { return widget_; }
 
 private:
@@ -40,7 +40,7 @@ private:
 class CheckBoxBinding : public BindingOf<CheckBox> {
 public:
     CheckBoxBinding(CheckBox& box, const ControlEntry& entry, QWidget& parent,
-                    const Surroundings& around);
+                    const WindowContext& context);
     QWidget* widget() const override { return widget_; }
 
 private:
@@ -52,7 +52,7 @@ private:
 class ComboBoxBinding : public BindingOf<ComboBox> {
 public:
     ComboBoxBinding(ComboBox& box, const ControlEntry& entry, QWidget& parent,
-                    const Surroundings& around);
+                    const WindowContext& context);
     QWidget* widget() const override { return widget_; }
 
 private:

@@ -3,8 +3,8 @@
 #include <QPushButton>
 
 namespace ostrelum {
-Keyboard::Keyboard(QWidget& window, const ControlBindings& bindings, const Surroundings& around)
-    : window_(window), bindings_(bindings), around_(around), frame_(window)
+Keyboard::Keyboard(QWidget& window, const ControlBindings& bindings, const WindowContext& context)
+    : window_(window), bindings_(bindings), context_(context), frame_(window)
 {
 }
 
@@ -16,7 +16,7 @@ QWidget* Keyboard::widget(int place) const
 
 const ControlEntry& Keyboard::entry(int place) const
 {
-    return around_.form.controls.at(static_cast<std::size_t>(place));
+    return context_.form.controls.at(static_cast<std::size_t>(place));
 }
 
 int Keyboard::focused() const
@@ -75,7 +75,7 @@ bool Keyboard::press_focused(int button)
         return false;
     set_in_use(true);
     const bool pressed = bindings_[static_cast<std::size_t>(place)]->press(button);
-    around_.dispatcher.keyboard_point.reset();
+    context_.dispatcher.keyboard_point.reset();
     return pressed;
 }
 
@@ -96,15 +96,15 @@ bool Keyboard::press_button(bool CommandButton::*mark) const
 bool Keyboard::menu_key()
 {
     const int place = focused();
-    std::optional<QPoint>& point = around_.dispatcher.keyboard_point;
+    std::optional<QPoint>& point = context_.dispatcher.keyboard_point;
     const bool pressed =
         place >= 0 && bindings_[static_cast<std::size_t>(place)]->press(RightButton);
     if (pressed && !point)
         return true;
     const QPoint middle = window_.rect().center();
     point = window_.mapToGlobal(middle);
-    around_.dispatcher.raise(
-        around_.form, nullptr,
+    context_.dispatcher.raise(
+        context_.form, nullptr,
         {.kind = EventKind::MouseDown, .button = RightButton, .x = middle.x(), .y = middle.y()});
     point.reset();
     return true;

@@ -15,7 +15,7 @@ using ControlBindings = std::vector<std::unique_ptr<ControlBinding>>;
 /// What keys do in a form's window beyond what its widgets do with them.
 class Keyboard {
 public:
-    Keyboard(QWidget& window, const ControlBindings& bindings, const Surroundings& around);
+    Keyboard(QWidget& window, const ControlBindings& bindings, const WindowContext& context);
 
     /// A key that no widget wanted. False if it means nothing here either.
     bool key(const QKeyEvent& key);
@@ -40,7 +40,7 @@ private:
 
     QWidget& window_;
     const ControlBindings& bindings_;
-    const Surroundings around_;
+    const WindowContext context_;
     FocusFrame frame_;
     bool in_use_ = false;
 };

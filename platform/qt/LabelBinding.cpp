@@ -20,9 +20,9 @@ Qt::Alignment alignment_of(Align align)
 } // namespace
 
 LabelBinding::LabelBinding(Label& label, const ControlEntry& entry, QWidget& parent,
-                           const Surroundings& around)
-    : BindingOf(label, entry, around), widget_(new LabelWidget(&parent)),
-      feed_(new MouseFeed(*widget_, &entry, around))
+                           const WindowContext& context)
+    : BindingOf(label, entry, context), widget_(new LabelWidget(&parent)),
+      feed_(new MouseFeed(*widget_, &entry, context))
 {
     widget_->setTextFormat(Qt::PlainText);
     widget_->setIndent(0);
@@ -44,7 +44,7 @@ void LabelBinding::apply()
     if (changed(&Label::ToolTipText))
         widget_->setToolTip(qt_text(control_.ToolTipText));
     if (changed(&Label::MousePointer))
-        around_.cursors.set(*widget_, control_.MousePointer);
+        context_.cursors.set(*widget_, control_.MousePointer);
     if (changed(&Label::TabStop))
         widget_->setFocusPolicy(control_.TabStop ? Qt::StrongFocus : Qt::NoFocus);
     appear(*widget_);
@@ -67,7 +67,7 @@ void LabelBinding::apply_text()
 {
     if (sizes_itself() &&
         changed(&Label::Caption, &Label::Font, &Label::AutoSize, &Label::WordWrap))
-        fit(around_.toolkit, control_);
+        fit(context_.toolkit, control_);
     if (changed(&Label::Font))
         widget_->setFont(font_of(control_.Font));
     if (changed(&Label::Alignment))

@@ -18,7 +18,7 @@ public:
 class LabelBinding : public BindingOf<Label> {
 public:
     LabelBinding(Label& label, const ControlEntry& entry, QWidget& parent,
-                 const Surroundings& around);
+                 const WindowContext& context);
     QWidget* widget() const override { return widget_; }
     bool press(int button) override;
 

@@ -37,8 +37,8 @@ void LineWidget::paintEvent(QPaintEvent*)
 }
 
 LineBinding::LineBinding(Line& line, const ControlEntry& entry, QWidget& parent,
-                         const Surroundings& around)
-    : BindingOf(line, entry, around), widget_(new LineWidget(&parent))
+                         const WindowContext& context)
+    : BindingOf(line, entry, context), widget_(new LineWidget(&parent))
 {
 }
 

@@ -19,7 +19,8 @@ private:
 
 class LineBinding : public BindingOf<Line> {
 public:
-    LineBinding(Line& line, const ControlEntry& entry, QWidget& parent, const Surroundings& around);
+    LineBinding(Line& line, const ControlEntry& entry, QWidget& parent,
+                const WindowContext& context);
     QWidget* widget() const override { return widget_; }
 
 private:

@@ -33,11 +33,11 @@ bool has_listener(const Form& form, const ControlEntry& entry)
 
 } // namespace
 
-MouseFeed::MouseFeed(QWidget& widget, const ControlEntry* entry, const Surroundings& around)
-    : QObject(&widget), widget_(widget), around_(around), target_(entry), target_widget_(&widget)
+MouseFeed::MouseFeed(QWidget& widget, const ControlEntry* entry, const WindowContext& context)
+    : QObject(&widget), widget_(widget), context_(context), target_(entry), target_widget_(&widget)
 {
-    const auto& controls = around.form.controls;
-    while (target_ && !has_listener(around.form, *target_)) {
+    const auto& controls = context.form.controls;
+    while (target_ && !has_listener(context.form, *target_)) {
         target_ = target_->container < 0
                       ? nullptr
                       : &controls.at(static_cast<std::size_t>(target_->container));
@@ -49,7 +49,7 @@ MouseFeed::MouseFeed(QWidget& widget, const ControlEntry* entry, const Surroundi
 
 bool MouseFeed::listens(EventKind kind) const
 {
-    return around_.form.listens(target_ ? target_->name : "Form", kind);
+    return context_.form.listens(target_ ? target_->name : "Form", kind);
 }
 
 QPoint MouseFeed::in_target(const QMouseEvent& mouse) const
@@ -61,12 +61,12 @@ void MouseFeed::raise(EventKind kind, int button, Qt::KeyboardModifiers modifier
 {
     // An earlier event of the same press may have taken the window away.
     if (target_widget_->window()->isVisible())
-        around_.dispatcher.raise(around_.form, target_,
-                                 {.kind = kind,
-                                  .button = button,
-                                  .shift = number_of(modifiers),
-                                  .x = at.x(),
-                                  .y = at.y()});
+        context_.dispatcher.raise(context_.form, target_,
+                                  {.kind = kind,
+                                   .button = button,
+                                   .shift = number_of(modifiers),
+                                   .x = at.x(),
+                                   .y = at.y()});
 }
 
 bool MouseFeed::eventFilter(QObject*, QEvent* event)
@@ -111,7 +111,7 @@ bool MouseFeed::moved(const QMouseEvent& mouse)
 void MouseFeed::press(int button)
 {
     const QPoint at = widget_.mapTo(target_widget_, widget_.rect().center());
-    around_.dispatcher.keyboard_point = target_widget_->mapToGlobal(at);
+    context_.dispatcher.keyboard_point = target_widget_->mapToGlobal(at);
     raise(EventKind::MouseDown, button, {}, at);
     raise(EventKind::MouseUp, button, {}, at);
     if (button == LeftButton)

@@ -11,7 +11,7 @@ namespace ostrelum {
 class MouseFeed : public QObject {
 public:
     /// `entry` is nullptr for the form's own window.
-    MouseFeed(QWidget& widget, const ControlEntry* entry, const Surroundings& around);
+    MouseFeed(QWidget& widget, const ControlEntry* entry, const WindowContext& context);
 
     /// A press and a release in the middle of the widget, from the keyboard or a screen reader.
     void press(int button);
@@ -29,7 +29,7 @@ private:
     QPoint in_target(const QMouseEvent& mouse) const;
 
     QWidget& widget_;
-    const Surroundings around_;
+    const WindowContext context_;
     /// The control that gets the events, nullptr for the form; and its widget.
     const ControlEntry* target_;
     QWidget* target_widget_;

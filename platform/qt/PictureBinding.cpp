@@ -5,9 +5,9 @@
 namespace ostrelum {
 
 PictureBinding::PictureBinding(PictureBox& box, const ControlEntry& entry, QWidget& parent,
-                               const Surroundings& around)
-    : BindingOf(box, entry, around), widget_(new PictureWidget(&parent)),
-      feed_(new MouseFeed(*widget_, &entry, around))
+                               const WindowContext& context)
+    : BindingOf(box, entry, context), widget_(new PictureWidget(&parent)),
+      feed_(new MouseFeed(*widget_, &entry, context))
 {
     widget_->press = [this] { press(LeftButton); };
 }
@@ -30,7 +30,7 @@ void PictureBinding::apply()
     if (changed(&PictureBox::AccessibleName))
         widget_->setAccessibleName(qt_text(control_.AccessibleName));
     if (changed(&PictureBox::MousePointer))
-        around_.cursors.set(*widget_, control_.MousePointer);
+        context_.cursors.set(*widget_, control_.MousePointer);
     if (changed(&PictureBox::TabStop))
         widget_->setFocusPolicy(control_.TabStop ? Qt::StrongFocus : Qt::NoFocus);
     appear(*widget_);

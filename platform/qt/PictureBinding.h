@@ -9,7 +9,7 @@ namespace ostrelum {
 class PictureBinding : public BindingOf<PictureBox> {
 public:
     PictureBinding(PictureBox& box, const ControlEntry& entry, QWidget& parent,
-                   const Surroundings& around);
+                   const WindowContext& context);
     QWidget* widget() const override { return widget_; }
     bool press(int button) override;
 

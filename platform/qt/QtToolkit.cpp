@@ -86,8 +86,8 @@ FormWindow& QtToolkit::make_window(Form& form, Qt::WindowType kind)
 {
     if (FormWindow* window = window_of(form))
         return *window;
-    const Surroundings around{form, *this, dispatcher_, cursors_};
-    auto* window = new FormWindow(around, kind, [this, &form] { user_closes(form); });
+    const WindowContext context{form, *this, dispatcher_, cursors_};
+    auto* window = new FormWindow(context, kind, [this, &form] { user_closes(form); });
     windows_[&form] = window;
     // The native window is there before it shows, so that it comes up with its opacity.
     window->winId();

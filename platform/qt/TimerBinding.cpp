@@ -10,8 +10,8 @@ constexpr int FrameTime = 15;
 
 } // namespace
 
-TimerBinding::TimerBinding(Timer& timer, const ControlEntry& entry, const Surroundings& around)
-    : BindingOf(timer, entry, around)
+TimerBinding::TimerBinding(Timer& timer, const ControlEntry& entry, const WindowContext& context)
+    : BindingOf(timer, entry, context)
 {
     clock_.setTimerType(Qt::PreciseTimer);
     QObject::connect(&clock_, &QTimer::timeout, &clock_, [this] {

@@ -8,7 +8,7 @@ namespace ostrelum {
 
 class TimerBinding : public BindingOf<Timer> {
 public:
-    TimerBinding(Timer& timer, const ControlEntry& entry, const Surroundings& around);
+    TimerBinding(Timer& timer, const ControlEntry& entry, const WindowContext& context);
     QWidget* widget() const override { return nullptr; }
     void stop() override { clock_.stop(); }
 
