@@ -2,7 +2,7 @@
 
 #include "platform/qt/Colours.h"
 #include "platform/qt/Images.h"
-#include "platform/qt/MouseFeed.h"
+#include "platform/qt/MouseEventFilter.h"
 #include "platform/qt/Text.h"
 
 #include <QCloseEvent>
@@ -32,7 +32,7 @@ FormWindow::FormWindow(const WindowContext& context, Qt::WindowType kind,
     // The window itself has the focus until the user moves it, so that no control starts marked.
     setFocusPolicy(Qt::ClickFocus);
     setFocus();
-    new MouseFeed(*this, nullptr, context_);
+    new MouseEventFilter(*this, nullptr, context_);
     installEventFilter(this);
     make_bindings();
 }

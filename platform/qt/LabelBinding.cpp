@@ -22,7 +22,7 @@ Qt::Alignment alignment_of(Align align)
 LabelBinding::LabelBinding(Label& label, const ControlEntry& entry, QWidget& parent,
                            const WindowContext& context)
     : BindingOf(label, entry, context), widget_(new LabelWidget(&parent)),
-      feed_(new MouseFeed(*widget_, &entry, context))
+      mouse_(new MouseEventFilter(*widget_, &entry, context))
 {
     widget_->setTextFormat(Qt::PlainText);
     widget_->setIndent(0);
@@ -31,7 +31,7 @@ LabelBinding::LabelBinding(Label& label, const ControlEntry& entry, QWidget& par
 
 bool LabelBinding::press(int button)
 {
-    feed_->press(button);
+    mouse_->press(button);
     return true;
 }
 

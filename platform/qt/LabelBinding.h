@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/qt/ControlBinding.h"
-#include "platform/qt/MouseFeed.h"
+#include "platform/qt/MouseEventFilter.h"
 
 #include <QLabel>
 
@@ -29,7 +29,7 @@ private:
     bool sizes_itself() const { return control_.AutoSize && !control_.WordWrap; }
 
     LabelWidget* widget_;
-    MouseFeed* feed_;
+    MouseEventFilter* mouse_;
 };
 
 } // namespace ostrelum

@@ -7,14 +7,14 @@ namespace ostrelum {
 PictureBinding::PictureBinding(PictureBox& box, const ControlEntry& entry, QWidget& parent,
                                const WindowContext& context)
     : BindingOf(box, entry, context), widget_(new PictureWidget(&parent)),
-      feed_(new MouseFeed(*widget_, &entry, context))
+      mouse_(new MouseEventFilter(*widget_, &entry, context))
 {
     widget_->press = [this] { press(LeftButton); };
 }
 
 bool PictureBinding::press(int button)
 {
-    feed_->press(button);
+    mouse_->press(button);
     return true;
 }
 

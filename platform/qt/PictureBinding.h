@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/qt/ControlBinding.h"
-#include "platform/qt/MouseFeed.h"
+#include "platform/qt/MouseEventFilter.h"
 #include "platform/qt/PictureWidget.h"
 
 namespace ostrelum {
@@ -17,7 +17,7 @@ private:
     void apply() override;
 
     PictureWidget* widget_;
-    MouseFeed* feed_;
+    MouseEventFilter* mouse_;
 };
 
 } // namespace ostrelum

@@ -1,4 +1,4 @@
-#include "platform/qt/MouseFeed.h"
+#include "platform/qt/MouseEventFilter.h"
 
 #include "platform/qt/Tooltips.h"
 
@@ -33,7 +33,8 @@ bool has_listener(const Form& form, const ControlEntry& entry)
 
 } // namespace
 
-MouseFeed::MouseFeed(QWidget& widget, const ControlEntry* entry, const WindowContext& context)
+MouseEventFilter::MouseEventFilter(QWidget& widget, const ControlEntry* entry,
+                                   const WindowContext& context)
     : QObject(&widget), widget_(widget), context_(context), target_(entry), target_widget_(&widget)
 {
     const auto& controls = context.form.controls;
@@ -47,17 +48,18 @@ MouseFeed::MouseFeed(QWidget& widget, const ControlEntry* entry, const WindowCon
     widget.installEventFilter(this);
 }
 
-bool MouseFeed::listens(EventKind kind) const
+bool MouseEventFilter::listens(EventKind kind) const
 {
     return context_.form.listens(target_ ? target_->name : "Form", kind);
 }
 
-QPoint MouseFeed::in_target(const QMouseEvent& mouse) const
+QPoint MouseEventFilter::in_target(const QMouseEvent& mouse) const
 {
     return widget_.mapTo(target_widget_, mouse.position().toPoint());
 }
 
-void MouseFeed::raise(EventKind kind, int button, Qt::KeyboardModifiers modifiers, QPoint at) const
+void MouseEventFilter::raise(EventKind kind, int button, Qt::KeyboardModifiers modifiers,
+                             QPoint at) const
 {
     // An earlier event of the same press may have taken the window away.
     if (target_widget_->window()->isVisible())
@@ -69,7 +71,7 @@ void MouseFeed::raise(EventKind kind, int button, Qt::KeyboardModifiers modifier
                                    .y = at.y()});
 }
 
-bool MouseFeed::eventFilter(QObject*, QEvent* event)
+bool MouseEventFilter::eventFilter(QObject*, QEvent* event)
 {
     switch (event->type()) {
     case QEvent::MouseButtonPress:
@@ -81,14 +83,14 @@ bool MouseFeed::eventFilter(QObject*, QEvent* event)
     }
 }
 
-bool MouseFeed::button_down(const QMouseEvent& mouse)
+bool MouseEventFilter::button_down(const QMouseEvent& mouse)
 {
     pressed_ |= mouse.button();
     raise(EventKind::MouseDown, number_of(mouse.button()), mouse.modifiers(), in_target(mouse));
     return true;
 }
 
-bool MouseFeed::button_up(const QMouseEvent& mouse)
+bool MouseEventFilter::button_up(const QMouseEvent& mouse)
 {
     if (!(pressed_ & mouse.button()))
         return true;
@@ -100,7 +102,7 @@ bool MouseFeed::button_up(const QMouseEvent& mouse)
     return true;
 }
 
-bool MouseFeed::moved(const QMouseEvent& mouse)
+bool MouseEventFilter::moved(const QMouseEvent& mouse)
 {
     if (listens(EventKind::MouseMove))
         raise(EventKind::MouseMove, number_of(mouse.buttons()), mouse.modifiers(),
@@ -108,7 +110,7 @@ bool MouseFeed::moved(const QMouseEvent& mouse)
     return true;
 }
 
-void MouseFeed::press(int button)
+void MouseEventFilter::press(int button)
 {
     const QPoint at = widget_.mapTo(target_widget_, widget_.rect().center());
     context_.dispatcher.keyboard_point = target_widget_->mapToGlobal(at);

@@ -8,10 +8,10 @@ namespace ostrelum {
 
 /// Turns what the mouse does on a widget into events of its control, and shows its tooltip. A
 /// control to which nobody listens lets its mouse through to what holds it, in the end the form.
-class MouseFeed : public QObject {
+class MouseEventFilter : public QObject {
 public:
     /// `entry` is nullptr for the form's own window.
-    MouseFeed(QWidget& widget, const ControlEntry* entry, const WindowContext& context);
+    MouseEventFilter(QWidget& widget, const ControlEntry* entry, const WindowContext& context);
 
     /// A press and a release in the middle of the widget, from the keyboard or a screen reader.
     void press(int button);
