@@ -1,6 +1,6 @@
 #include "platform/qt/QtBackEnd.h"
 
-#include "platform/qt/PointerHand.h"
+#include "platform/qt/MouseHandedness.h"
 
 #include <QGuiApplication>
 #include <QScreen>

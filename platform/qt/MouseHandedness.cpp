@@ -1,4 +1,4 @@
-#include "platform/qt/PointerHand.h"
+#include "platform/qt/MouseHandedness.h"
 
 #include "platform/qt/DesktopSetting.h"
 

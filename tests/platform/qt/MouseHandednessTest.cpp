@@ -1,4 +1,4 @@
-#include "platform/qt/PointerHand.h"
+#include "platform/qt/MouseHandedness.h"
 
 #include <QFile>
 #include <QProcess>
@@ -65,7 +65,7 @@ private:
     xcb_connection_t* connection_ = nullptr;
 };
 
-TEST(PointerHand, OfAnXServerIsThatOfTheDriverOrOfTheButtons)
+TEST(MouseHandedness, OfAnXServerIsThatOfTheDriverOrOfTheButtons)
 {
     constexpr xcb_input_device_id_t mouse = 6, keyboard = 7;
     Server server;
@@ -82,7 +82,7 @@ TEST(PointerHand, OfAnXServerIsThatOfTheDriverOrOfTheButtons)
     EXPECT_EQ(left_handed_on_x11(":987"), Hand()) << "no server";
 }
 
-TEST(PointerHand, OfAWaylandSessionIsThatOfTheDesktopsSettings)
+TEST(MouseHandedness, OfAWaylandSessionIsThatOfTheDesktopsSettings)
 {
     const QTemporaryDir folder;
     write(folder.filePath("mouse.gschema.xml"),

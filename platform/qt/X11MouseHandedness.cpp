@@ -1,4 +1,4 @@
-#include "platform/qt/PointerHand.h"
+#include "platform/qt/MouseHandedness.h"
 
 #include <cstdlib>
 #include <memory>
