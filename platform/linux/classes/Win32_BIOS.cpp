@@ -1,5 +1,5 @@
 #include "platform/linux/classes/Classes.h"
-#include "platform/linux/devices/FirmwareFacts.h"
+#include "platform/linux/devices/FirmwareStrings.h"
 #include "platform/linux/formats/CimDateTime.h"
 #include "platform/linux/text/Text.h"
 
@@ -8,12 +8,12 @@
 namespace ostrelum {
 namespace {
 
-Value manufacturer(const FirmwareFacts& firmware)
+Value manufacturer(const FirmwareStrings& firmware)
 {
     return value_of(firmware.text(FirmwareText::BiosVendor));
 }
 
-Value version(const FirmwareFacts& firmware)
+Value version(const FirmwareStrings& firmware)
 {
     return value_of(firmware.text(FirmwareText::BiosVersion));
 }
@@ -33,31 +33,31 @@ std::optional<std::string> day_of(std::string_view date)
                         static_cast<int>(*month) / static_cast<int>(*day));
 }
 
-Value release_date(const FirmwareFacts& firmware)
+Value release_date(const FirmwareStrings& firmware)
 {
     const auto date = firmware.text(FirmwareText::BiosDate);
     return date ? value_of(day_of(*date)) : Value();
 }
 
-Value serial_number(const FirmwareFacts& firmware)
+Value serial_number(const FirmwareStrings& firmware)
 {
     return value_of(firmware.text(FirmwareText::SystemSerial));
 }
 
-constexpr PropertyRow<FirmwareFacts> rows[] = {
+constexpr PropertyRow<FirmwareStrings> rows[] = {
     {"Manufacturer", manufacturer}, {"Name", version},
     {"ReleaseDate", release_date},  {"SerialNumber", serial_number},
     {"SMBIOSBIOSVersion", version},
 };
 
 /// One, if the firmware tells anything of itself.
-std::vector<FirmwareFacts> firmware(const MachineView& machine)
+std::vector<FirmwareStrings> firmware(const MachineView& machine)
 {
-    const FirmwareFacts facts(machine.root);
+    const FirmwareStrings strings(machine.root);
     for (const auto text : {FirmwareText::BiosVendor, FirmwareText::BiosVersion,
                             FirmwareText::BiosDate, FirmwareText::SystemSerial}) {
-        if (facts.has(text))
-            return {facts};
+        if (strings.has(text))
+            return {strings};
     }
     return {};
 }

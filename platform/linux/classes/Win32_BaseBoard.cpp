@@ -1,32 +1,32 @@
 #include "platform/linux/classes/Classes.h"
-#include "platform/linux/devices/FirmwareFacts.h"
+#include "platform/linux/devices/FirmwareStrings.h"
 
 #include <vector>
 
 namespace ostrelum {
 namespace {
 
-Value manufacturer(const FirmwareFacts& firmware)
+Value manufacturer(const FirmwareStrings& firmware)
 {
     return value_of(firmware.text(FirmwareText::BoardVendor));
 }
 
-Value product(const FirmwareFacts& firmware)
+Value product(const FirmwareStrings& firmware)
 {
     return value_of(firmware.text(FirmwareText::BoardName));
 }
 
-constexpr PropertyRow<FirmwareFacts> rows[] = {
+constexpr PropertyRow<FirmwareStrings> rows[] = {
     {"Manufacturer", manufacturer},
     {"Product", product},
 };
 
 /// One, if the firmware tells anything of the board.
-std::vector<FirmwareFacts> board(const MachineView& machine)
+std::vector<FirmwareStrings> board(const MachineView& machine)
 {
-    const FirmwareFacts facts(machine.root);
-    if (facts.has(FirmwareText::BoardVendor) || facts.has(FirmwareText::BoardName))
-        return {facts};
+    const FirmwareStrings strings(machine.root);
+    if (strings.has(FirmwareText::BoardVendor) || strings.has(FirmwareText::BoardName))
+        return {strings};
     return {};
 }
 

@@ -1,5 +1,5 @@
 #include "platform/linux/classes/Classes.h"
-#include "platform/linux/devices/FirmwareFacts.h"
+#include "platform/linux/devices/FirmwareStrings.h"
 #include "platform/linux/formats/ConfigText.h"
 #include "platform/linux/os/KernelFacts.h"
 #include "platform/linux/text/Text.h"
@@ -44,12 +44,12 @@ Value domain(const Computer& computer)
 
 Value manufacturer(const Computer& computer)
 {
-    return value_of(FirmwareFacts(computer.root()).text(FirmwareText::SystemVendor));
+    return value_of(FirmwareStrings(computer.root()).text(FirmwareText::SystemVendor));
 }
 
 Value model(const Computer& computer)
 {
-    return value_of(FirmwareFacts(computer.root()).text(FirmwareText::SystemName));
+    return value_of(FirmwareStrings(computer.root()).text(FirmwareText::SystemName));
 }
 
 /// What the boot loader's configuration says; the files of the folder come after the main one.
@@ -112,7 +112,7 @@ constexpr PropertyRow<Computer> rows[] = {
 std::vector<Computer> computers(const MachineView& machine)
 {
     if (machine.root.exists("/proc/sys/kernel") ||
-        FirmwareFacts(machine.root).has(FirmwareText::SystemVendor))
+        FirmwareStrings(machine.root).has(FirmwareText::SystemVendor))
         return {{machine}};
     return {};
 }

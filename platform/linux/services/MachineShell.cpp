@@ -1,6 +1,6 @@
 #include "platform/linux/services/MachineShell.h"
 
-#include "platform/linux/devices/FirmwareFacts.h"
+#include "platform/linux/devices/FirmwareStrings.h"
 #include "sources/Ascii.h"
 
 #include <utility>
@@ -15,7 +15,7 @@ bool is_board_name(const std::string& name)
 }
 
 /// Throws Failure if neither is known.
-std::string board_name(const FirmwareFacts& firmware)
+std::string board_name(const FirmwareStrings& firmware)
 {
     const auto maker = firmware.text(FirmwareText::BoardVendor);
     const auto board = firmware.text(FirmwareText::BoardName);
@@ -40,7 +40,7 @@ MachineShell::MachineShell(Sysroot root, std::unique_ptr<Shell> stored)
 
 RegValue MachineShell::RegRead(const std::string& name)
 {
-    return is_board_name(name) ? board_name(FirmwareFacts(root_)) : stored_->RegRead(name);
+    return is_board_name(name) ? board_name(FirmwareStrings(root_)) : stored_->RegRead(name);
 }
 
 void MachineShell::RegWrite(const std::string& name, const RegValue& value, const std::string& type)

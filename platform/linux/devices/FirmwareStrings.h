@@ -23,10 +23,10 @@ enum class FirmwareText {
 /// Reads them where the machine has them: the kernel's own files, what udev published, the
 /// firmware's table (readable to root alone), and on machines with other firmware the device tree
 /// or the mainframe's system information.
-class FirmwareFacts {
+class FirmwareStrings {
 public:
     /// The root must outlive the object.
-    explicit FirmwareFacts(const Sysroot& root) : root_(&root) {}
+    explicit FirmwareStrings(const Sysroot& root) : root_(&root) {}
 
     /// Nothing if no source has more than a placeholder.
     std::optional<std::string> text(FirmwareText wanted) const;

@@ -1,4 +1,4 @@
-#include "platform/linux/devices/FirmwareFacts.h"
+#include "platform/linux/devices/FirmwareStrings.h"
 
 #include "platform/linux/devices/UdevDatabase.h"
 #include "platform/linux/formats/Placeholder.h"
@@ -92,7 +92,7 @@ constexpr std::array readers = {from_id_file, from_udev, from_table, from_device
 
 } // namespace
 
-std::optional<std::string> FirmwareFacts::text(FirmwareText wanted) const
+std::optional<std::string> FirmwareStrings::text(FirmwareText wanted) const
 {
     const FirmwareSource& source = source_of(wanted);
     for (const auto reader : readers) {
@@ -103,7 +103,7 @@ std::optional<std::string> FirmwareFacts::text(FirmwareText wanted) const
     return std::nullopt;
 }
 
-bool FirmwareFacts::has(FirmwareText wanted) const
+bool FirmwareStrings::has(FirmwareText wanted) const
 {
     return root_->exists(id_path(source_of(wanted))) || text(wanted);
 }
