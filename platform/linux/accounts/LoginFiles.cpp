@@ -1,7 +1,7 @@
 #include "platform/linux/accounts/LoginFiles.h"
 
 #include "platform/linux/formats/LoginRecords.h"
-#include "platform/linux/os/KernelFacts.h"
+#include "platform/linux/os/KernelRelease.h"
 
 #include <limits>
 

@@ -1,7 +1,7 @@
 #include "platform/linux/classes/Classes.h"
 #include "platform/linux/devices/FirmwareStrings.h"
 #include "platform/linux/formats/ConfigText.h"
-#include "platform/linux/os/KernelFacts.h"
+#include "platform/linux/os/KernelRelease.h"
 #include "platform/linux/text/Text.h"
 
 #include <vector>

@@ -7,7 +7,7 @@
 #include "platform/linux/formats/MemoryInfo.h"
 #include "platform/linux/formats/Mounts.h"
 #include "platform/linux/os/Distribution.h"
-#include "platform/linux/os/KernelFacts.h"
+#include "platform/linux/os/KernelRelease.h"
 #include "platform/linux/os/Processes.h"
 #include "platform/masking/StandIns.h"
 

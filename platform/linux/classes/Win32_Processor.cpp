@@ -3,7 +3,7 @@
 #include "platform/linux/formats/CpuInfo.h"
 #include "platform/linux/formats/Placeholder.h"
 #include "platform/linux/formats/Smbios.h"
-#include "platform/linux/os/KernelFacts.h"
+#include "platform/linux/os/KernelRelease.h"
 #include "platform/linux/text/Text.h"
 
 #include <algorithm>

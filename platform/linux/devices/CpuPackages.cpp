@@ -1,6 +1,6 @@
 #include "platform/linux/devices/CpuPackages.h"
 
-#include "platform/linux/os/KernelFacts.h"
+#include "platform/linux/os/KernelRelease.h"
 #include "platform/linux/text/Text.h"
 
 #include <map>

@@ -8,7 +8,7 @@
 #include "platform/linux/formats/LocaleIds.h"
 #include "platform/linux/formats/Sha256.h"
 #include "platform/linux/os/Distribution.h"
-#include "platform/linux/os/KernelFacts.h"
+#include "platform/linux/os/KernelRelease.h"
 #include "platform/linux/os/Processes.h"
 #include "tests/Split.h"
 

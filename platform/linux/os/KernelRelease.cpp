@@ -1,4 +1,4 @@
-#include "platform/linux/os/KernelFacts.h"
+#include "platform/linux/os/KernelRelease.h"
 
 #include "platform/linux/text/Text.h"
 
