@@ -62,7 +62,7 @@ std::vector<std::string> caches_of_level(const Sysroot& root, std::uint64_t cpu,
 
 } // namespace
 
-const CpuInfo& LateCpuInfo::operator()()
+const CpuInfo& LazyCpuInfo::operator()()
 {
     if (!info_)
         info_ = std::make_unique<const CpuInfo>(root_.read("/proc/cpuinfo").value_or(""));
@@ -99,7 +99,7 @@ std::vector<CpuPackage> cpu_packages(const MachineView& machine)
         const auto number = machine.root.number(cpu_file(cpu, "topology/physical_package_id"));
         by_number[one ? 0 : number.value_or(0)].push_back(cpu);
     }
-    const auto cpuinfo = std::make_shared<LateCpuInfo>(machine.root);
+    const auto cpuinfo = std::make_shared<LazyCpuInfo>(machine.root);
     std::vector<CpuPackage> packages;
     packages.reserve(by_number.size());
     for (auto& [number, cpus] : by_number)

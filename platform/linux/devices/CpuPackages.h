@@ -12,9 +12,9 @@ namespace ostrelum {
 
 /// /proc/cpuinfo, read when it is first asked for: the kernel makes it anew each time, and on large
 /// machines that takes a while.
-class LateCpuInfo {
+class LazyCpuInfo {
 public:
-    explicit LateCpuInfo(const Sysroot& root) : root_(root) {}
+    explicit LazyCpuInfo(const Sysroot& root) : root_(root) {}
     const CpuInfo& operator()();
 
 private:
@@ -30,7 +30,7 @@ struct CpuPackage {
     std::size_t place = 0;
     std::vector<std::uint64_t> cpus;
     /// Shared by the packages.
-    std::shared_ptr<LateCpuInfo> cpuinfo;
+    std::shared_ptr<LazyCpuInfo> cpuinfo;
 };
 
 /// The machine's packages by their numbers. On machines without firmware tables the kernel's
