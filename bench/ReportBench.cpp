@@ -27,7 +27,7 @@ void AssembleDocuments(benchmark::State& state)
     MemoryProgram program;
     load_program();
     const std::string body = large_body();
-    const ReportLook look{.title = Trad[160], .red = 0, .green = 150, .blue = 255};
+    const ReportLook look{.title = Trad[Text::ReportTitle], .red = 0, .green = 150, .blue = 255};
     for (auto _ : state) {
         for (const DocumentFormat* format : document_formats)
             benchmark::DoNotOptimize(finished_document(*format, look, format->head(look), body));

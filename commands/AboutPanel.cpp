@@ -41,7 +41,7 @@ std::string version_text()
 void name_translator()
 {
     LangDutch();
-    F1.LTra1.Caption = " - " + Trad[3] + ": " + Trad[1] + " - ";
+    F1.LTra1.Caption = " - " + Trad[Text::Translator] + ": " + Trad[Text::LanguageName] + " - ";
     fill_string_table(Idioma);
 }
 
@@ -59,16 +59,16 @@ void open_address(std::string_view address)
 void Informacion_Click()
 {
     open_panel(AboutPanel);
-    F1.Titulo.Caption = Trad[8];
-    set_info(F1.LTInfo1, F1.LInfo1, Trad[107], version_text());
-    set_info(F1.LTInfo2, F1.LInfo2, Trad[183], std::string(Author));
-    set_info(F1.LTInfo3, F1.LInfo3, Trad[184], std::string(ContactAddress));
-    F1.LTra.Caption = Trad[185];
+    F1.Titulo.Caption = Trad[Text::About];
+    set_info(F1.LTInfo1, F1.LInfo1, Trad[Text::Version], version_text());
+    set_info(F1.LTInfo2, F1.LInfo2, Trad[Text::Programmer], std::string(Author));
+    set_info(F1.LTInfo3, F1.LInfo3, Trad[Text::Contact], std::string(ContactAddress));
+    F1.LTra.Caption = Trad[Text::Translators];
     name_translator();
     fit(*platform.toolkit, F1.LTra1);
     place_behind(F1.LTra1, F1.LTra2);
-    F1.LTra2.Caption = Trad[186];
-    F1.BAceptar.Caption = Trad[158];
+    F1.LTra2.Caption = Trad[Text::Website];
+    F1.BAceptar.Caption = Trad[Text::Accept];
     F1.BAceptar.Visible = F1.PicInformacion.Visible = true;
 }
 

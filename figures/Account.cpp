@@ -9,16 +9,25 @@
 namespace ostrelum {
 namespace {
 
-/// A code and the key of its text in Trad.
-using Row = CodeRow<std::size_t>;
+/// A code and the key of its text.
+using Row = CodeRow<Text>;
 
 /// DMTF CIM schema as the service extends it, Win32_UserAccount.AccountType.
-constexpr auto account_types =
-    std::to_array<Row>({{256, 39}, {512, 40}, {2048, 41}, {4096, 42}, {8192, 43}});
+constexpr auto account_types = std::to_array<Row>({
+    {256, Text::TemporaryDuplicate},
+    {512, Text::NormalAccount},
+    {2048, Text::InternalDomain},
+    {4096, Text::Workstation},
+    {8192, Text::Server},
+});
 static_assert(rising(account_types));
 
 /// DMTF CIM schema as the service extends it, Win32_NetworkLoginProfile.Privileges.
-constexpr auto privileges = std::to_array<Row>({{0, 45}, {1, 46}, {2, 47}});
+constexpr auto privileges = std::to_array<Row>({
+    {0, Text::Guest},
+    {1, Text::Limited},
+    {2, Text::Administrator},
+});
 static_assert(rising(privileges));
 
 template <std::size_t Count>
@@ -82,7 +91,7 @@ std::string privilege_level()
 std::string yes_or_no(const std::string& slot)
 {
     std::string word;
-    attempt([&] { word = Trad[Value(slot).truth() ? 49 : 50]; });
+    attempt([&] { word = Trad[Value(slot).truth() ? Text::Yes : Text::No]; });
     return word;
 }
 
@@ -94,13 +103,13 @@ std::string bad_passwords()
 std::string logon_time()
 {
     std::string time;
-    attempt([&] { time = FillMark(Trad[54], "(HHMMSS)", WmiTimeText(Datos[8])); });
+    attempt([&] { time = FillMark(Trad[Text::ClockTime], "(HHMMSS)", WmiTimeText(Datos[8])); });
     return time;
 }
 
 std::string logon_count()
 {
-    return at_least(Datos[9], 1) ? FillMark(Trad[57], "(#)", Datos[9]) : "";
+    return at_least(Datos[9], 1) ? FillMark(Trad[Text::Times], "(#)", Datos[9]) : "";
 }
 
 } // namespace ostrelum

@@ -24,13 +24,13 @@ void read_computer()
 std::string restart_option()
 {
     if (Datos[4] == Value(true).text())
-        return Trad[64];
-    return Datos[4] == Value(false).text() ? Trad[65] : "";
+        return Trad[Text::On];
+    return Datos[4] == Value(false).text() ? Trad[Text::Off] : "";
 }
 
 std::string startup_delay()
 {
-    return Datos[5].empty() ? "" : FillMark(Trad[167], "(#)", Datos[5]);
+    return Datos[5].empty() ? "" : FillMark(Trad[Text::Seconds], "(#)", Datos[5]);
 }
 
 } // namespace ostrelum

@@ -26,7 +26,7 @@ void read_mode(const Instance& item)
     if (!tells(item, "CurrentHorizontalResolution") || !tells(item, "CurrentVerticalResolution") ||
         !tells(item, "CurrentBitsPerPixel") || !tells(item, "CurrentRefreshRate"))
         return;
-    fill(TempStr, Trad[112], "(1)", [&] {
+    fill(TempStr, Trad[Text::DisplayMode], "(1)", [&] {
         return trimmed(item["CurrentHorizontalResolution"]) + " x " +
                trimmed(item["CurrentVerticalResolution"]);
     });
@@ -54,7 +54,7 @@ double rate(int slot)
 
 std::string hertz(const std::string& text)
 {
-    return FillMark(Trad[168], "(#)", text);
+    return FillMark(Trad[Text::Hertz], "(#)", text);
 }
 
 } // namespace
@@ -83,14 +83,15 @@ RefreshLimits refresh_limits()
             *limit = "0";
     }
     if (holds([] { return rate(4) == 0 && rate(5) != 0; }))
-        return {113, 114, hertz(Datos[5])};
+        return {Text::MaximumRefreshRate, Text::MaximumRefreshRateHint, hertz(Datos[5])};
     if (holds([] { return rate(4) != 0 && rate(5) == 0; }))
-        return {115, 116, hertz(Datos[4])};
+        return {Text::MinimumRefreshRate, Text::MinimumRefreshRateHint, hertz(Datos[4])};
     if (holds([] { return rate(4) != 0 && Datos[4] != Datos[5]; }))
-        return {117, 118, hertz(Datos[4]) + " - " + hertz(Datos[5])};
+        return {Text::RefreshRateRange, Text::RefreshRateRangeHint,
+                hertz(Datos[4]) + " - " + hertz(Datos[5])};
     if (holds([] { return rate(4) == 0; }))
-        return {117, 118, ""};
-    return {113, 114, hertz(Datos[5])};
+        return {Text::RefreshRateRange, Text::RefreshRateRangeHint, ""};
+    return {Text::MaximumRefreshRate, Text::MaximumRefreshRateHint, hertz(Datos[5])};
 }
 
 std::string graphics_memory()

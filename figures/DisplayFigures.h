@@ -1,6 +1,7 @@
 #pragma once
 
-#include <cstddef>
+#include "figures/Text.h"
+
 #include <string>
 
 /// The monitor, the graphics card and the mode they run in. An empty text is unknown.
@@ -11,11 +12,10 @@ namespace ostrelum {
 /// memory, drivers, driver version and driver date; Num1 is the card's memory in MB.
 void read_display();
 
-/// How the refresh limits are told: the key of the row's title in Trad, the key of what explains
-/// the title, and the text.
+/// How the refresh limits are told: the row's title, what explains the title, and the value.
 struct RefreshLimits {
-    std::size_t title;
-    std::size_t explanation;
+    Text title;
+    Text explanation;
     std::string text;
 };
 

@@ -29,7 +29,7 @@ void empty_slots(const DriveSlots& slots)
 void add_volume_name(std::string& list, const Instance& item)
 {
     if (holds([&] { return trimmed(item["VolumeName"]).empty(); }))
-        list += Trad[99] + " - ";
+        list += Trad[Text::LocalDisk] + " - ";
     else
         add_name(list, item, "VolumeName");
 }

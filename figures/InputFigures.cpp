@@ -6,29 +6,31 @@
 #include "figures/Slots.h"
 #include "sources/CodeTable.h"
 
+#include <optional>
+
 namespace ostrelum {
 namespace {
 
-/// The key of a text in Trad, or a text that is the same in all languages.
+/// The key of a text, or a text that is the same in all languages.
 struct Word {
-    std::size_t key = 0;
+    std::optional<Text> key;
     const char* fixed = "";
 };
 
 /// DMTF CIM schema as the service extends it, Win32_PointingDevice.DeviceInterface.
 constexpr auto interfaces = std::to_array<CodeRow<Word>>({
-    {3, {.key = 129}},
+    {3, {.key = Text::SerialPort}},
     {4, {.fixed = "PS/2"}},
-    {5, {.key = 130}},
+    {5, {.key = Text::Infrared}},
     {162, {.fixed = "USB"}},
 });
 static_assert(rising(interfaces));
 
 /// DMTF CIM schema, CIM_PointingDevice.Handedness.
 constexpr auto hands = std::to_array<CodeRow<Word>>({
-    {1, {.key = 132}},
-    {2, {.key = 133}},
-    {3, {.key = 134}},
+    {1, {.key = Text::NotApplicable}},
+    {2, {.key = Text::RightHanded}},
+    {3, {.key = Text::LeftHanded}},
 });
 static_assert(rising(hands));
 
@@ -38,7 +40,7 @@ std::string word_of(const std::array<CodeRow<Word>, Count>& rows, const std::str
     const CodeRow<Word>* row = find_code(rows, code);
     if (!row)
         return "";
-    return row->text.key != 0 ? Trad[row->text.key] : row->text.fixed;
+    return row->text.key ? Trad[*row->text.key] : row->text.fixed;
 }
 
 } // namespace

@@ -48,8 +48,8 @@ std::string memory_width()
 std::string favoured_use()
 {
     if (Datos[5] == "0")
-        return Trad[97];
-    return Datos[5] == "1" ? Trad[98] : "";
+        return Trad[Text::Applications];
+    return Datos[5] == "1" ? Trad[Text::SystemCache] : "";
 }
 
 } // namespace ostrelum

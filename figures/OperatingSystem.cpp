@@ -64,7 +64,8 @@ std::int32_t virtual_memory_in_use(const Instance& item)
 
 std::string service_pack()
 {
-    return at_least(Datos[3], 1) ? FillMark(Trad[72], "(#)", Datos[3]) : Trad[73];
+    return at_least(Datos[3], 1) ? FillMark(Trad[Text::ServicePackVersion], "(#)", Datos[3])
+                                 : Trad[Text::NoServicePack];
 }
 
 std::string process_count(const std::string& count)
@@ -76,7 +77,7 @@ std::string install_date()
 {
     std::string date;
     attempt([&] {
-        TempStr = FillMark(Trad[80], "(DDMMYYYY)", WmiDateText(Datos[10]));
+        TempStr = FillMark(Trad[Text::DateAndTime], "(DDMMYYYY)", WmiDateText(Datos[10]));
         date = FillMark(TempStr, "(HHMMSS)", WmiTimeText(Datos[10]));
     });
     return date;

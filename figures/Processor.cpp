@@ -52,11 +52,12 @@ void read_processor()
 ClockFigure clock_figure()
 {
     if (Num2 <= 0)
-        return {0, ""};
+        return {std::nullopt, ""};
     if (Num1 <= 0 || Num1 >= Num2)
-        return {83, megahertz(Num2)};
+        return {Text::Speed, megahertz(Num2)};
     const std::string share = WholeText(PercentFloor(Num1, Num2));
-    return {82, megahertz(Num1) + " (" + share + "%) / " + megahertz(Num2) + " (100%)"};
+    return {Text::CurrentAndMaximumSpeed,
+            megahertz(Num1) + " (" + share + "%) / " + megahertz(Num2) + " (100%)"};
 }
 
 std::string processor_count()

@@ -1,6 +1,8 @@
 #pragma once
 
-#include <cstddef>
+#include "figures/Text.h"
+
+#include <optional>
 #include <string>
 
 /// The processor. An empty text is unknown.
@@ -12,10 +14,9 @@ namespace ostrelum {
 /// service does not tell stays empty or 0.
 void read_processor();
 
-/// How the clock speed is told: the key of the row's title in Trad, 0 where nothing is known, and
-/// the text.
+/// How the clock speed is told: the row's title, none where nothing is known, and the value.
 struct ClockFigure {
-    std::size_t title;
+    std::optional<Text> title;
     std::string text;
 };
 

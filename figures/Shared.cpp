@@ -8,7 +8,7 @@ void reset_shared_state()
     WmiResult.clear();
     WmiItem = {};
     ShellObject = {};
-    Trad.fill({});
+    Trad = {};
     Idioma.clear();
     Datos.fill({});
     DatosCD.fill({});

@@ -1,198 +1,204 @@
-#include "figures/StringTable.h"
+#include "frame/Language.h"
+#include "frame/LanguageTable.h"
 
 namespace ostrelum {
+namespace {
 
 // One row of the table stays on one line, however long.
 // clang-format off
+constexpr TextRow table[] = {
+    {Text::LanguageName, "Nederlands (Nederland)"},
+    {Text::Language, "Taal"},
+    {Text::Translator, "Robin Terhaar"},
+    {Text::TranslatorWebsite, "https://robin-terhaar.example.org"},
+    {Text::Options, "Opties"},
+    {Text::Customize, "Aanpassen"},
+    {Text::MakeAndSaveReport, "Rapport maken en opslaan als..."},
+    {Text::About, "Over..."},
+    {Text::VisitWebsite, "Website bezoeken"},
+    {Text::Exit, "Afsluiten"},
+    {Text::Summary, "Overzicht"},
+    {Text::UserAccount, "Gebruikersaccount"},
+    {Text::Computer, "Computer"},
+    {Text::OperatingSystem, "Besturingssysteem"},
+    {Text::Processor, "Processor"},
+    {Text::Ram, "Geheugen"},
+    {Text::HardDrives, "Harde schijven"},
+    {Text::Bios, "BIOS"},
+    {Text::Display, "Beeldscherm"},
+    {Text::KeyboardAndMouse, "Toetsenbord en muis"},
+    {Text::RemovableMemory, "Verwisselbare opslag"},
+    {Text::Discs, "Cd's/dvd's"},
+    {Text::OtherHardware, "Overige hardware"},
+    {Text::Copy, "Kopiëren"},
+    {Text::CopyAll, "Alles kopiëren"},
+    {Text::MainFeatures, "Belangrijkste kenmerken"},
+    {Text::ProcessorSpeed, "Processorsnelheid:"},
+    {Text::ProcessorCount, "(#) CPU's"},
+    {Text::GraphicsCardMemory, "Geheugen videokaart:"},
+    {Text::TotalFreeSpace, "Totale vrije ruimte:"},
+    {Text::OtherFeatures, "Overige kenmerken"},
+    {Text::GraphicsCard, "Videokaart"},
+    {Text::Motherboard, "Moederbord:"},
+    {Text::GettingInformation, "Gegevens ophalen..."},
+    {Text::Done, "Gereed"},
+    {Text::Name, "Naam:"},
+    {Text::Domain, "Domein:"},
+    {Text::AccountType, "Accounttype:"},
+    {Text::TemporaryDuplicate, "Tijdelijk duplicaat"},
+    {Text::NormalAccount, "Normaal"},
+    {Text::InternalDomain, "Intern domein"},
+    {Text::Workstation, "Werkstation"},
+    {Text::Server, "Server"},
+    {Text::PrivilegeLevel, "Bevoegdheidsniveau:"},
+    {Text::Guest, "Gast"},
+    {Text::Limited, "Beperkt"},
+    {Text::Administrator, "Beheerder"},
+    {Text::PasswordChangeable, "Wachtwoord wijzigbaar:"},
+    {Text::Yes, "Ja"},
+    {Text::No, "Nee"},
+    {Text::PasswordExpires, "Wachtwoord verlopen:"},
+    {Text::BadPasswords, "Onjuist ingevoerde wachtwoorden:"},
+    {Text::LogonTime, "Starttijd:"},
+    {Text::ClockTime, "(HHMMSS) uur"},
+    {Text::UsageTime, "Gebruiksduur:"},
+    {Text::LogonCount, "Aantal aanmeldingen:"},
+    {Text::Times, "(#) keer."},
+    {Text::AccountNotice, "De gegevens in dit onderdeel horen bij het gebruikersaccount waarmee Ostrelum is gestart."},
+    {Text::Manufacturer, "Fabrikant:"},
+    {Text::Model, "Model:"},
+    {Text::Type, "Type:"},
+    {Text::AutoRestart, "Automatisch opnieuw opstarten:"},
+    {Text::AutoRestartHint, "Bij een fout wordt het systeem opnieuw opgestart."},
+    {Text::On, "Aan"},
+    {Text::Off, "Uit"},
+    {Text::StartupDelay, "Opstartvertraging OS:"},
+    {Text::StartupDelayHint, "Hoelang de lijst met besturingssystemen vóór het laden wordt getoond."},
+    {Text::MakeReport, "Rapport maken..."},
+    {Text::Workgroup, "Werkgroep:"},
+    {Text::VersionAndBuild, "Versie en build:"},
+    {Text::ServicePack, "Servicepack:"},
+    {Text::ServicePackVersion, "Versie (#)"},
+    {Text::NoServicePack, "Geen"},
+    {Text::SerialNumber, "Serienummer:"},
+    {Text::LicenseCode, "Licentiecode:"},
+    {Text::SystemLanguage, "Taal:"},
+    {Text::RegisteredBy, "Geregistreerd op naam van:"},
+    {Text::ProcessCount, "Aantal processen:"},
+    {Text::InstallDate, "Installatiedatum:"},
+    {Text::DateAndTime, "(DDMMYYYY) om (HHMMSS)."},
+    {Text::VirtualMemoryInUse, "Virtueel geheugen in gebruik:"},
+    {Text::CurrentAndMaximumSpeed, "Huidige/maximale snelheid:"},
+    {Text::Speed, "Speed:"},
+    {Text::CoreCount, "Aantal kernen:"},
+    {Text::Socket, "Socket:"},
+    {Text::Architecture, "Architectuur:"},
+    {Text::L2CacheSize, "Grootte L2-cache:"},
+    {Text::L3CacheSize, "Grootte L3-cache:"},
+    {Text::Unknown, "Onbekend"},
+    {Text::ChipType, "Chiptype:"},
+    {Text::TotalMemory, "Totaal geheugen:"},
+    {Text::MemoryInUse, "Geheugen in gebruik:"},
+    {Text::AvailableMemory, "Beschikbaar geheugen:"},
+    {Text::ModulesInstalled, "Geïnstalleerde modules:"},
+    {Text::DataBusWidth, "Gegevensbussnelheid:"},
+    {Text::FavouredUse, "Gebruik:"},
+    {Text::Applications, "Toepassingen"},
+    {Text::SystemCache, "Systeemcache"},
+    {Text::LocalDisk, "Lokale schijf"},
+    {Text::DriveLetter, "Stationsletter:"},
+    {Text::Capacity, "Capaciteit:"},
+    {Text::SpaceInUse, "Gebruikte ruimte:"},
+    {Text::FreeSpace, "Vrije ruimte:"},
+    {Text::InternalName, "Interne naam:"},
+    {Text::FileSystem, "Bestandssysteem:"},
+    {Text::TotalPartitions, "Totaal aantal partities:"},
+    {Text::Version, "Versie:"},
+    {Text::ReleaseDate, "Uitgebracht op:"},
+    {Text::DisplayName, "Naam beeldscherm:"},
+    {Text::CurrentConfiguration, "Huidige instellingen:"},
+    {Text::CurrentConfigurationHint, "Geeft de huidige resolutie, kleurkwaliteit en vernieuwingsfrequentie aan."},
+    {Text::DisplayMode, "(1) pixels, (2)-bits, (3) Hz"},
+    {Text::MaximumRefreshRate, "Maximale vernieuwingsfrequentie:"},
+    {Text::MaximumRefreshRateHint, "Geeft de maximale vernieuwingsfrequentie aan die het beeldscherm ondersteunt."},
+    {Text::MinimumRefreshRate, "Minimale vernieuwingsfrequentie:"},
+    {Text::MinimumRefreshRateHint, "Geeft de minimale vernieuwingsfrequentie aan die het beeldscherm ondersteunt."},
+    {Text::RefreshRateRange, "Minimale en maximale vernieuwingsfrequentie:"},
+    {Text::RefreshRateRangeHint, "Geeft de minimale en maximale vernieuwingsfrequentie aan die het beeldscherm ondersteunt."},
+    {Text::GraphicsCardName, "Naam videokaart:"},
+    {Text::MemorySize, "Geheugengrootte:"},
+    {Text::MemoryType, "Geheugentype:"},
+    {Text::DriverName, "Naam stuurprogramma:"},
+    {Text::DriverVersion, "Versie stuurprogramma:"},
+    {Text::DriverDate, "Datum stuurprogramma:"},
+    {Text::KeyboardName, "Naam toetsenbord:"},
+    {Text::MouseName, "Naam muis:"},
+    {Text::ButtonCount, "Aantal knoppen:"},
+    {Text::Connection, "Aansluiting:"},
+    {Text::SerialPort, "Seriële poort"},
+    {Text::Infrared, "Infrarood"},
+    {Text::Handedness, "Huidig gebruik:"},
+    {Text::NotApplicable, "N.v.t."},
+    {Text::RightHanded, "Rechtshandig"},
+    {Text::LeftHanded, "Linkshandig"},
+    {Text::RemovableVolume, "Verwisselbare schijf"},
+    {Text::OneRemovableDrive, "Er is 1 verwisselbaar station aangesloten."},
+    {Text::RemovableDrives, "Er zijn (#) verwisselbare stations aangesloten."},
+    {Text::NoRemovableDrive, "Er is geen verwisselbaar station op de pc aangetroffen."},
+    {Text::ConnectRemovableDrive, "Sluit minstens één verwisselbaar station aan."},
+    {Text::Size, "Grootte:"},
+    {Text::DriveType, "Stationstype:"},
+    {Text::OneDriveLoaded, "Er is 1 station met een schijf."},
+    {Text::DrivesLoaded, "Er zijn (#) stations met een schijf."},
+    {Text::OneDriveEmpty, "Er is 1 leeg station."},
+    {Text::DrivesEmpty, "Er zijn (#) lege stations."},
+    {Text::NoDriveEmpty, "Er zijn geen lege cd/dvd-stations."},
+    {Text::NoDisc, "Er is geen cd of dvd in de stations gevonden."},
+    {Text::InsertDisc, "Plaats minstens één cd of dvd."},
+    {Text::MotherboardName, "Naam moederbord:"},
+    {Text::SoundCardName, "Naam geluidskaart:"},
+    {Text::SkinColour, "Kleur:"},
+    {Text::SkinShine, "Helderheid:"},
+    {Text::WindowTransparency, "Transparantie"},
+    {Text::AllowTransparency, "Transparantie toestaan"},
+    {Text::Accept, "OK"},
+    {Text::ReportName, "Rapport van Dervalin Ostrelum"},
+    {Text::ReportTitle, "Rapport gemaakt door Dervalin Ostrelum (1) in (2) seconden om (3) op (4)."},
+    {Text::TotalVirtualMemory, "Totaal virtueel geheugen:"},
+    {Text::Keyboard, "Toetsenbord"},
+    {Text::Mouse, "Muis"},
+    {Text::ThankYou, "Bedankt voor het gebruik van Dervalin Ostrelum!"},
+    {Text::SaveReport, "Rapport opslaan als..."},
+    {Text::Skin, "Uiterlijk"},
+    {Text::Seconds, "(#) sec"},
+    {Text::Hertz, "(#) Hz"},
+    {Text::NoRemovableDriveNotice, "Er is geen verwisselbaar station aangesloten"},
+    {Text::NoDiscNotice, "Er is geen cd of dvd geplaatst"},
+    {Text::BatteryName, "Naam batterij:"},
+    {Text::CurrentVoltage, "Huidige spanning:"},
+    {Text::Volts, "(#) V"},
+    {Text::LoadPercentage, "Laadpercentage:"},
+    {Text::RemainingTime, "Resterende gebruiksduur:"},
+    {Text::RtfFilter, "Tekst met opmaak (*.rtf)|*.rtf|"},
+    {Text::HtmlFilter, "Webpagina (*.htm)|*.htm|"},
+    {Text::BbCodeFilter, "BBCode (*.txt)|*.txt|"},
+    {Text::ReportStep, "Rapport maken, stap (#)"},
+    {Text::PlainTextFilter, "Tekst zonder opmaak (*.txt)|*.txt|"},
+    {Text::ReportWait, "Even geduld, het rapport wordt gemaakt. Dit kan enkele seconden duren."},
+    {Text::ReportMadeIn, "Rapport gemaakt in (#) sec"},
+    {Text::Programmer, "Ontwikkeld door:"},
+    {Text::Contact, "Contact:"},
+    {Text::Translators, "Vertalers"},
+    {Text::Website, "Website"},
+};
+// clang-format on
+static_assert(complete(table));
+
+} // namespace
+
 void LangDutch()
 {
-    Trad[1] = "Nederlands (Nederland)";
-    Trad[2] = "Taal";
-    Trad[3] = "Robin Terhaar";
-    Trad[4] = "https://robin-terhaar.example.org";
-    Trad[5] = "Opties";
-    Trad[6] = "Aanpassen";
-    Trad[7] = "Rapport maken en opslaan als...";
-    Trad[8] = "Over...";
-    Trad[9] = "Website bezoeken";
-    Trad[10] = "Afsluiten";
-    Trad[11] = "Overzicht";
-    Trad[12] = "Gebruikersaccount";
-    Trad[13] = "Computer";
-    Trad[14] = "Besturingssysteem";
-    Trad[15] = "Processor";
-    Trad[16] = "Geheugen";
-    Trad[17] = "Harde schijven";
-    Trad[18] = "BIOS";
-    Trad[19] = "Beeldscherm";
-    Trad[20] = "Toetsenbord en muis";
-    Trad[21] = "Verwisselbare opslag";
-    Trad[22] = "Cd's/dvd's";
-    Trad[23] = "Overige hardware";
-    Trad[24] = "Kopiëren";
-    Trad[25] = "Alles kopiëren";
-    Trad[26] = "Belangrijkste kenmerken";
-    Trad[27] = "Processorsnelheid:";
-    Trad[28] = "(#) CPU's";
-    Trad[29] = "Geheugen videokaart:";
-    Trad[30] = "Totale vrije ruimte:";
-    Trad[31] = "Overige kenmerken";
-    Trad[32] = "Videokaart";
-    Trad[33] = "Moederbord:";
-    Trad[34] = "Gegevens ophalen...";
-    Trad[35] = "Gereed";
-    Trad[36] = "Naam:";
-    Trad[37] = "Domein:";
-    Trad[38] = "Accounttype:";
-    Trad[39] = "Tijdelijk duplicaat";
-    Trad[40] = "Normaal";
-    Trad[41] = "Intern domein";
-    Trad[42] = "Werkstation";
-    Trad[43] = "Server";
-    Trad[44] = "Bevoegdheidsniveau:";
-    Trad[45] = "Gast";
-    Trad[46] = "Beperkt";
-    Trad[47] = "Beheerder";
-    Trad[48] = "Wachtwoord wijzigbaar:";
-    Trad[49] = "Ja";
-    Trad[50] = "Nee";
-    Trad[51] = "Wachtwoord verlopen:";
-    Trad[52] = "Onjuist ingevoerde wachtwoorden:";
-    Trad[53] = "Starttijd:";
-    Trad[54] = "(HHMMSS) uur";
-    Trad[55] = "Gebruiksduur:";
-    Trad[56] = "Aantal aanmeldingen:";
-    Trad[57] = "(#) keer.";
-    Trad[58] = "De gegevens in dit onderdeel horen bij het gebruikersaccount waarmee Ostrelum is gestart.";
-    Trad[59] = "Fabrikant:";
-    Trad[60] = "Model:";
-    Trad[61] = "Type:";
-    Trad[62] = "Automatisch opnieuw opstarten:";
-    Trad[63] = "Bij een fout wordt het systeem opnieuw opgestart.";
-    Trad[64] = "Aan";
-    Trad[65] = "Uit";
-    Trad[66] = "Opstartvertraging OS:";
-    Trad[67] = "Hoelang de lijst met besturingssystemen vóór het laden wordt getoond.";
-    Trad[68] = "Rapport maken...";
-    Trad[69] = "Werkgroep:";
-    Trad[70] = "Versie en build:";
-    Trad[71] = "Servicepack:";
-    Trad[72] = "Versie (#)";
-    Trad[73] = "Geen";
-    Trad[74] = "Serienummer:";
-    Trad[75] = "Licentiecode:";
-    Trad[76] = "Taal:";
-    Trad[77] = "Geregistreerd op naam van:";
-    Trad[78] = "Aantal processen:";
-    Trad[79] = "Installatiedatum:";
-    Trad[80] = "(DDMMYYYY) om (HHMMSS).";
-    Trad[81] = "Virtueel geheugen in gebruik:";
-    Trad[82] = "Huidige/maximale snelheid:";
-    Trad[83] = "Speed:";
-    Trad[84] = "Aantal kernen:";
-    Trad[85] = "Socket:";
-    Trad[86] = "Architectuur:";
-    Trad[87] = "Grootte L2-cache:";
-    Trad[88] = "Grootte L3-cache:";
-    Trad[89] = "Onbekend";
-    Trad[90] = "Chiptype:";
-    Trad[91] = "Totaal geheugen:";
-    Trad[92] = "Geheugen in gebruik:";
-    Trad[93] = "Beschikbaar geheugen:";
-    Trad[94] = "Geïnstalleerde modules:";
-    Trad[95] = "Gegevensbussnelheid:";
-    Trad[96] = "Gebruik:";
-    Trad[97] = "Toepassingen";
-    Trad[98] = "Systeemcache";
-    Trad[99] = "Lokale schijf";
-    Trad[100] = "Stationsletter:";
-    Trad[101] = "Capaciteit:";
-    Trad[102] = "Gebruikte ruimte:";
-    Trad[103] = "Vrije ruimte:";
-    Trad[104] = "Interne naam:";
-    Trad[105] = "Bestandssysteem:";
-    Trad[106] = "Totaal aantal partities:";
-    Trad[107] = "Versie:";
-    Trad[108] = "Uitgebracht op:";
-    Trad[109] = "Naam beeldscherm:";
-    Trad[110] = "Huidige instellingen:";
-    Trad[111] = "Geeft de huidige resolutie, kleurkwaliteit en vernieuwingsfrequentie aan.";
-    Trad[112] = "(1) pixels, (2)-bits, (3) Hz";
-    Trad[113] = "Maximale vernieuwingsfrequentie:";
-    Trad[114] = "Geeft de maximale vernieuwingsfrequentie aan die het beeldscherm ondersteunt.";
-    Trad[115] = "Minimale vernieuwingsfrequentie:";
-    Trad[116] = "Geeft de minimale vernieuwingsfrequentie aan die het beeldscherm ondersteunt.";
-    Trad[117] = "Minimale en maximale vernieuwingsfrequentie:";
-    Trad[118] = "Geeft de minimale en maximale vernieuwingsfrequentie aan die het beeldscherm ondersteunt.";
-    Trad[119] = "Naam videokaart:";
-    Trad[120] = "Geheugengrootte:";
-    Trad[121] = "Geheugentype:";
-    Trad[122] = "Naam stuurprogramma:";
-    Trad[123] = "Versie stuurprogramma:";
-    Trad[124] = "Datum stuurprogramma:";
-    Trad[125] = "Naam toetsenbord:";
-    Trad[126] = "Naam muis:";
-    Trad[127] = "Aantal knoppen:";
-    Trad[128] = "Aansluiting:";
-    Trad[129] = "Seriële poort";
-    Trad[130] = "Infrarood";
-    Trad[131] = "Huidig gebruik:";
-    Trad[132] = "N.v.t.";
-    Trad[133] = "Rechtshandig";
-    Trad[134] = "Linkshandig";
-    Trad[135] = "Verwisselbare schijf";
-    Trad[136] = "Er is 1 verwisselbaar station aangesloten.";
-    Trad[137] = "Er zijn (#) verwisselbare stations aangesloten.";
-    Trad[138] = "Er is geen verwisselbaar station op de pc aangetroffen.";
-    Trad[139] = "Sluit minstens één verwisselbaar station aan.";
-    Trad[140] = "Grootte:";
-    Trad[141] = "Stationstype:";
-    Trad[142] = "";
-    Trad[143] = "Er is 1 station met een schijf.";
-    Trad[144] = "Er zijn (#) stations met een schijf.";
-    Trad[145] = "Er is 1 leeg station.";
-    Trad[146] = "Er zijn (#) lege stations.";
-    Trad[147] = "Er zijn geen lege cd/dvd-stations.";
-    Trad[148] = "Er is geen cd of dvd in de stations gevonden.";
-    Trad[149] = "Plaats minstens één cd of dvd.";
-    Trad[150] = "Naam moederbord:";
-    Trad[151] = "Naam geluidskaart:";
-    Trad[152] = "Kleur:";
-    Trad[153] = "Helderheid:";
-    Trad[154] = "Transparantie";
-    Trad[155] = "Transparantie toestaan";
-    Trad[156] = "";
-    Trad[157] = "";
-    Trad[158] = "OK";
-    Trad[159] = "Rapport van Dervalin Ostrelum";
-    Trad[160] = "Rapport gemaakt door Dervalin Ostrelum (1) in (2) seconden om (3) op (4).";
-    Trad[161] = "Totaal virtueel geheugen:";
-    Trad[162] = "Toetsenbord";
-    Trad[163] = "Muis";
-    Trad[164] = "Bedankt voor het gebruik van Dervalin Ostrelum!";
-    Trad[165] = "Rapport opslaan als...";
-    Trad[166] = "Uiterlijk";
-    Trad[167] = "(#) sec";
-    Trad[168] = "(#) Hz";
-    Trad[169] = "Er is geen verwisselbaar station aangesloten";
-    Trad[170] = "Er is geen cd of dvd geplaatst";
-    Trad[171] = "Naam batterij:";
-    Trad[172] = "Huidige spanning:";
-    Trad[173] = "(#) V";
-    Trad[174] = "Laadpercentage:";
-    Trad[175] = "Resterende gebruiksduur:";
-    Trad[176] = "Tekst met opmaak (*.rtf)|*.rtf|";
-    Trad[177] = "Webpagina (*.htm)|*.htm|";
-    Trad[178] = "BBCode (*.txt)|*.txt|";
-    Trad[179] = "Rapport maken, stap (#)";
-    Trad[180] = "Tekst zonder opmaak (*.txt)|*.txt|";
-    Trad[181] = "Even geduld, het rapport wordt gemaakt. Dit kan enkele seconden duren.";
-    Trad[182] = "Rapport gemaakt in (#) sec";
-    Trad[183] = "Ontwikkeld door:";
-    Trad[184] = "Contact:";
-    Trad[185] = "Vertalers";
-    Trad[186] = "Website";
+    set_texts(table);
 }
-// clang-format on
 
 } // namespace ostrelum

@@ -1,198 +1,204 @@
-#include "figures/StringTable.h"
+#include "frame/Language.h"
+#include "frame/LanguageTable.h"
 
 namespace ostrelum {
+namespace {
 
 // One row of the table stays on one line, however long.
 // clang-format off
+constexpr TextRow table[] = {
+    {Text::LanguageName, "English (UK, Great Britain)"},
+    {Text::Language, "Language"},
+    {Text::Translator, "Alex Marenco"},
+    {Text::TranslatorWebsite, "https://dervalin.example.org/ostrelum"},
+    {Text::Options, "Options"},
+    {Text::Customize, "Customize"},
+    {Text::MakeAndSaveReport, "Make and save report as..."},
+    {Text::About, "About..."},
+    {Text::VisitWebsite, "Visit the website"},
+    {Text::Exit, "Exit"},
+    {Text::Summary, "Summary"},
+    {Text::UserAccount, "User account"},
+    {Text::Computer, "Computer"},
+    {Text::OperatingSystem, "Operating system"},
+    {Text::Processor, "Processor"},
+    {Text::Ram, "RAM"},
+    {Text::HardDrives, "Hard drives"},
+    {Text::Bios, "Bios"},
+    {Text::Display, "Display"},
+    {Text::KeyboardAndMouse, "Keyboard and mouse"},
+    {Text::RemovableMemory, "Removable memory"},
+    {Text::Discs, "CDs/DVDs"},
+    {Text::OtherHardware, "Others hardware"},
+    {Text::Copy, "Copy"},
+    {Text::CopyAll, "Copy all"},
+    {Text::MainFeatures, "Main features"},
+    {Text::ProcessorSpeed, "Processor speed:"},
+    {Text::ProcessorCount, "(#) CPUs"},
+    {Text::GraphicsCardMemory, "Graphics card memory:"},
+    {Text::TotalFreeSpace, "Total free space:"},
+    {Text::OtherFeatures, "Others features"},
+    {Text::GraphicsCard, "Graphics card"},
+    {Text::Motherboard, "Motherboard:"},
+    {Text::GettingInformation, "Getting information..."},
+    {Text::Done, "Done"},
+    {Text::Name, "Name:"},
+    {Text::Domain, "Domain:"},
+    {Text::AccountType, "Account type:"},
+    {Text::TemporaryDuplicate, "Temp duplicate"},
+    {Text::NormalAccount, "Normal"},
+    {Text::InternalDomain, "Internal domain"},
+    {Text::Workstation, "Workstation"},
+    {Text::Server, "Server"},
+    {Text::PrivilegeLevel, "Level of privilege:"},
+    {Text::Guest, "Guest"},
+    {Text::Limited, "Limited"},
+    {Text::Administrator, "Administrator"},
+    {Text::PasswordChangeable, "Password changeable:"},
+    {Text::Yes, "Yes"},
+    {Text::No, "No"},
+    {Text::PasswordExpires, "Password expired:"},
+    {Text::BadPasswords, "Number of bad passwords entered:"},
+    {Text::LogonTime, "Start time:"},
+    {Text::ClockTime, "(HHMMSS) hs."},
+    {Text::UsageTime, "Usage time:"},
+    {Text::LogonCount, "Logon's number:"},
+    {Text::Times, "(#) time/s."},
+    {Text::AccountNotice, "The information obtained in this section belong to the user account that executed Ostrelum."},
+    {Text::Manufacturer, "Manufacturer:"},
+    {Text::Model, "Model:"},
+    {Text::Type, "Type:"},
+    {Text::AutoRestart, "Auto restart option:"},
+    {Text::AutoRestartHint, "In case of an error, the system will reboot."},
+    {Text::On, "On"},
+    {Text::Off, "Off"},
+    {Text::StartupDelay, "OS startup delay:"},
+    {Text::StartupDelayHint, "Timeout list of operating systems before loading."},
+    {Text::MakeReport, "Make a report..."},
+    {Text::Workgroup, "Workgroup:"},
+    {Text::VersionAndBuild, "Version and build:"},
+    {Text::ServicePack, "Service pack:"},
+    {Text::ServicePackVersion, "Version (#)"},
+    {Text::NoServicePack, "None"},
+    {Text::SerialNumber, "Serial number:"},
+    {Text::LicenseCode, "License code:"},
+    {Text::SystemLanguage, "Language:"},
+    {Text::RegisteredBy, "Registered by:"},
+    {Text::ProcessCount, "Number of processes:"},
+    {Text::InstallDate, "Date of installation:"},
+    {Text::DateAndTime, "(DDMMYYYY) a las (HHMMSS) hs."},
+    {Text::VirtualMemoryInUse, "Virtual memory in use:"},
+    {Text::CurrentAndMaximumSpeed, "Current/Maximum speed:"},
+    {Text::Speed, "Speed:"},
+    {Text::CoreCount, "Number of cores:"},
+    {Text::Socket, "Socket:"},
+    {Text::Architecture, "Architecture:"},
+    {Text::L2CacheSize, "L2 cache size:"},
+    {Text::L3CacheSize, "L3 cache size:"},
+    {Text::Unknown, "Unknown"},
+    {Text::ChipType, "Chip type:"},
+    {Text::TotalMemory, "Total memory:"},
+    {Text::MemoryInUse, "Memory in use:"},
+    {Text::AvailableMemory, "Available memory:"},
+    {Text::ModulesInstalled, "Modules installed:"},
+    {Text::DataBusWidth, "Data bus width:"},
+    {Text::FavouredUse, "Use:"},
+    {Text::Applications, "Applications"},
+    {Text::SystemCache, "System cache"},
+    {Text::LocalDisk, "Local disk"},
+    {Text::DriveLetter, "Drive letter:"},
+    {Text::Capacity, "Capacity:"},
+    {Text::SpaceInUse, "Space in use:"},
+    {Text::FreeSpace, "Free space:"},
+    {Text::InternalName, "Internal name:"},
+    {Text::FileSystem, "File system:"},
+    {Text::TotalPartitions, "Total partitions:"},
+    {Text::Version, "Version:"},
+    {Text::ReleaseDate, "Released:"},
+    {Text::DisplayName, "Display name:"},
+    {Text::CurrentConfiguration, "Current configuration:"},
+    {Text::CurrentConfigurationHint, "Specify the current resolution, color quality and refresh rate."},
+    {Text::DisplayMode, "(1) pixels, (2) bits, (3) Hz"},
+    {Text::MaximumRefreshRate, "Maximum update rate:"},
+    {Text::MaximumRefreshRateHint, "Specify the maximum update rate supported by the display."},
+    {Text::MinimumRefreshRate, "Minimum update rate:"},
+    {Text::MinimumRefreshRateHint, "Specify the minimum update rate supported by the display."},
+    {Text::RefreshRateRange, "Update rate minimum and maximum:"},
+    {Text::RefreshRateRangeHint, "Specify the minimum and maximum update rate supported by the display."},
+    {Text::GraphicsCardName, "Graphics card name:"},
+    {Text::MemorySize, "Memory size:"},
+    {Text::MemoryType, "Memory type:"},
+    {Text::DriverName, "Driver name:"},
+    {Text::DriverVersion, "Driver version:"},
+    {Text::DriverDate, "Driver date:"},
+    {Text::KeyboardName, "Keyboard name:"},
+    {Text::MouseName, "Mouse name:"},
+    {Text::ButtonCount, "Number of buttons:"},
+    {Text::Connection, "Connexion:"},
+    {Text::SerialPort, "Serial port"},
+    {Text::Infrared, "Infrared"},
+    {Text::Handedness, "Current use:"},
+    {Text::NotApplicable, "Not applicable"},
+    {Text::RightHanded, "Right-handed"},
+    {Text::LeftHanded, "Left-handed"},
+    {Text::RemovableVolume, "Removable memory"},
+    {Text::OneRemovableDrive, "1 removable drive is conected."},
+    {Text::RemovableDrives, "(#) removable drives are conected."},
+    {Text::NoRemovableDrive, "Couldn't detect any removable drive connected to the PC."},
+    {Text::ConnectRemovableDrive, "Please, connect at least a removable drive."},
+    {Text::Size, "Size:"},
+    {Text::DriveType, "Drive type:"},
+    {Text::OneDriveLoaded, "1 drive is loaded."},
+    {Text::DrivesLoaded, "(#) drives are loaded."},
+    {Text::OneDriveEmpty, "1 drive is empty."},
+    {Text::DrivesEmpty, "(#) drives are empties."},
+    {Text::NoDriveEmpty, "None CD/DVD drive is empty."},
+    {Text::NoDisc, "Couldn't find any CD/DVD in the drives."},
+    {Text::InsertDisc, "Please, insert at least a CD/DVD."},
+    {Text::MotherboardName, "Motherboard name:"},
+    {Text::SoundCardName, "Sound card name:"},
+    {Text::SkinColour, "Color:"},
+    {Text::SkinShine, "Shine:"},
+    {Text::WindowTransparency, "Transparency"},
+    {Text::AllowTransparency, "Allow transparency"},
+    {Text::Accept, "Accept"},
+    {Text::ReportName, "Dervalin Ostrelum report"},
+    {Text::ReportTitle, "Report made by Dervalin Ostrelum (1) in (2) sec. at (3) on the date (4)."},
+    {Text::TotalVirtualMemory, "Total virtual memory:"},
+    {Text::Keyboard, "Keyboard"},
+    {Text::Mouse, "Mouse"},
+    {Text::ThankYou, "Thank you for use Dervalin Ostrelum!"},
+    {Text::SaveReport, "Save report as..."},
+    {Text::Skin, "Skin"},
+    {Text::Seconds, "(#) second/s"},
+    {Text::Hertz, "(#) Hz"},
+    {Text::NoRemovableDriveNotice, "None removable drive has been conected"},
+    {Text::NoDiscNotice, "None CD/DVD has been inserted"},
+    {Text::BatteryName, "Battery name:"},
+    {Text::CurrentVoltage, "Current voltage:"},
+    {Text::Volts, "(#) V"},
+    {Text::LoadPercentage, "Load percentage:"},
+    {Text::RemainingTime, "Remaining usage time:"},
+    {Text::RtfFilter, "Rich text format (*.rtf)|*.rtf|"},
+    {Text::HtmlFilter, "Web page (*.htm)|*.htm|"},
+    {Text::BbCodeFilter, "BBCode (*.txt)|*.txt|"},
+    {Text::ReportStep, "Making report, step (#)"},
+    {Text::PlainTextFilter, "Plain text (*.txt)|*.txt|"},
+    {Text::ReportWait, "Please wait while the report is making, the process can take some seconds."},
+    {Text::ReportMadeIn, "Report made at (#) second/s"},
+    {Text::Programmer, "Programmer:"},
+    {Text::Contact, "Contact:"},
+    {Text::Translators, "Translators"},
+    {Text::Website, "Website"},
+};
+// clang-format on
+static_assert(complete(table));
+
+} // namespace
+
 void LangEnglish()
 {
-    Trad[1] = "English (UK, Great Britain)";
-    Trad[2] = "Language";
-    Trad[3] = "Alex Marenco";
-    Trad[4] = "https://dervalin.example.org/ostrelum";
-    Trad[5] = "Options";
-    Trad[6] = "Customize";
-    Trad[7] = "Make and save report as...";
-    Trad[8] = "About...";
-    Trad[9] = "Visit the website";
-    Trad[10] = "Exit";
-    Trad[11] = "Summary";
-    Trad[12] = "User account";
-    Trad[13] = "Computer";
-    Trad[14] = "Operating system";
-    Trad[15] = "Processor";
-    Trad[16] = "RAM";
-    Trad[17] = "Hard drives";
-    Trad[18] = "Bios";
-    Trad[19] = "Display";
-    Trad[20] = "Keyboard and mouse";
-    Trad[21] = "Removable memory";
-    Trad[22] = "CDs/DVDs";
-    Trad[23] = "Others hardware";
-    Trad[24] = "Copy";
-    Trad[25] = "Copy all";
-    Trad[26] = "Main features";
-    Trad[27] = "Processor speed:";
-    Trad[28] = "(#) CPUs";
-    Trad[29] = "Graphics card memory:";
-    Trad[30] = "Total free space:";
-    Trad[31] = "Others features";
-    Trad[32] = "Graphics card";
-    Trad[33] = "Motherboard:";
-    Trad[34] = "Getting information...";
-    Trad[35] = "Done";
-    Trad[36] = "Name:";
-    Trad[37] = "Domain:";
-    Trad[38] = "Account type:";
-    Trad[39] = "Temp duplicate";
-    Trad[40] = "Normal";
-    Trad[41] = "Internal domain";
-    Trad[42] = "Workstation";
-    Trad[43] = "Server";
-    Trad[44] = "Level of privilege:";
-    Trad[45] = "Guest";
-    Trad[46] = "Limited";
-    Trad[47] = "Administrator";
-    Trad[48] = "Password changeable:";
-    Trad[49] = "Yes";
-    Trad[50] = "No";
-    Trad[51] = "Password expired:";
-    Trad[52] = "Number of bad passwords entered:";
-    Trad[53] = "Start time:";
-    Trad[54] = "(HHMMSS) hs.";
-    Trad[55] = "Usage time:";
-    Trad[56] = "Logon's number:";
-    Trad[57] = "(#) time/s.";
-    Trad[58] = "The information obtained in this section belong to the user account that executed Ostrelum.";
-    Trad[59] = "Manufacturer:";
-    Trad[60] = "Model:";
-    Trad[61] = "Type:";
-    Trad[62] = "Auto restart option:";
-    Trad[63] = "In case of an error, the system will reboot.";
-    Trad[64] = "On";
-    Trad[65] = "Off";
-    Trad[66] = "OS startup delay:";
-    Trad[67] = "Timeout list of operating systems before loading.";
-    Trad[68] = "Make a report...";
-    Trad[69] = "Workgroup:";
-    Trad[70] = "Version and build:";
-    Trad[71] = "Service pack:";
-    Trad[72] = "Version (#)";
-    Trad[73] = "None";
-    Trad[74] = "Serial number:";
-    Trad[75] = "License code:";
-    Trad[76] = "Language:";
-    Trad[77] = "Registered by:";
-    Trad[78] = "Number of processes:";
-    Trad[79] = "Date of installation:";
-    Trad[80] = "(DDMMYYYY) a las (HHMMSS) hs.";
-    Trad[81] = "Virtual memory in use:";
-    Trad[82] = "Current/Maximum speed:";
-    Trad[83] = "Speed:";
-    Trad[84] = "Number of cores:";
-    Trad[85] = "Socket:";
-    Trad[86] = "Architecture:";
-    Trad[87] = "L2 cache size:";
-    Trad[88] = "L3 cache size:";
-    Trad[89] = "Unknown";
-    Trad[90] = "Chip type:";
-    Trad[91] = "Total memory:";
-    Trad[92] = "Memory in use:";
-    Trad[93] = "Available memory:";
-    Trad[94] = "Modules installed:";
-    Trad[95] = "Data bus width:";
-    Trad[96] = "Use:";
-    Trad[97] = "Applications";
-    Trad[98] = "System cache";
-    Trad[99] = "Local disk";
-    Trad[100] = "Drive letter:";
-    Trad[101] = "Capacity:";
-    Trad[102] = "Space in use:";
-    Trad[103] = "Free space:";
-    Trad[104] = "Internal name:";
-    Trad[105] = "File system:";
-    Trad[106] = "Total partitions:";
-    Trad[107] = "Version:";
-    Trad[108] = "Released:";
-    Trad[109] = "Display name:";
-    Trad[110] = "Current configuration:";
-    Trad[111] = "Specify the current resolution, color quality and refresh rate.";
-    Trad[112] = "(1) pixels, (2) bits, (3) Hz";
-    Trad[113] = "Maximum update rate:";
-    Trad[114] = "Specify the maximum update rate supported by the display.";
-    Trad[115] = "Minimum update rate:";
-    Trad[116] = "Specify the minimum update rate supported by the display.";
-    Trad[117] = "Update rate minimum and maximum:";
-    Trad[118] = "Specify the minimum and maximum update rate supported by the display.";
-    Trad[119] = "Graphics card name:";
-    Trad[120] = "Memory size:";
-    Trad[121] = "Memory type:";
-    Trad[122] = "Driver name:";
-    Trad[123] = "Driver version:";
-    Trad[124] = "Driver date:";
-    Trad[125] = "Keyboard name:";
-    Trad[126] = "Mouse name:";
-    Trad[127] = "Number of buttons:";
-    Trad[128] = "Connexion:";
-    Trad[129] = "Serial port";
-    Trad[130] = "Infrared";
-    Trad[131] = "Current use:";
-    Trad[132] = "Not applicable";
-    Trad[133] = "Right-handed";
-    Trad[134] = "Left-handed";
-    Trad[135] = "Removable memory";
-    Trad[136] = "1 removable drive is conected.";
-    Trad[137] = "(#) removable drives are conected.";
-    Trad[138] = "Couldn't detect any removable drive connected to the PC.";
-    Trad[139] = "Please, connect at least a removable drive.";
-    Trad[140] = "Size:";
-    Trad[141] = "Drive type:";
-    Trad[142] = "";
-    Trad[143] = "1 drive is loaded.";
-    Trad[144] = "(#) drives are loaded.";
-    Trad[145] = "1 drive is empty.";
-    Trad[146] = "(#) drives are empties.";
-    Trad[147] = "None CD/DVD drive is empty.";
-    Trad[148] = "Couldn't find any CD/DVD in the drives.";
-    Trad[149] = "Please, insert at least a CD/DVD.";
-    Trad[150] = "Motherboard name:";
-    Trad[151] = "Sound card name:";
-    Trad[152] = "Color:";
-    Trad[153] = "Shine:";
-    Trad[154] = "Transparency";
-    Trad[155] = "Allow transparency";
-    Trad[156] = "";
-    Trad[157] = "";
-    Trad[158] = "Accept";
-    Trad[159] = "Dervalin Ostrelum report";
-    Trad[160] = "Report made by Dervalin Ostrelum (1) in (2) sec. at (3) on the date (4).";
-    Trad[161] = "Total virtual memory:";
-    Trad[162] = "Keyboard";
-    Trad[163] = "Mouse";
-    Trad[164] = "Thank you for use Dervalin Ostrelum!";
-    Trad[165] = "Save report as...";
-    Trad[166] = "Skin";
-    Trad[167] = "(#) second/s";
-    Trad[168] = "(#) Hz";
-    Trad[169] = "None removable drive has been conected";
-    Trad[170] = "None CD/DVD has been inserted";
-    Trad[171] = "Battery name:";
-    Trad[172] = "Current voltage:";
-    Trad[173] = "(#) V";
-    Trad[174] = "Load percentage:";
-    Trad[175] = "Remaining usage time:";
-    Trad[176] = "Rich text format (*.rtf)|*.rtf|";
-    Trad[177] = "Web page (*.htm)|*.htm|";
-    Trad[178] = "BBCode (*.txt)|*.txt|";
-    Trad[179] = "Making report, step (#)";
-    Trad[180] = "Plain text (*.txt)|*.txt|";
-    Trad[181] = "Please wait while the report is making, the process can take some seconds.";
-    Trad[182] = "Report made at (#) second/s";
-    Trad[183] = "Programmer:";
-    Trad[184] = "Contact:";
-    Trad[185] = "Translators";
-    Trad[186] = "Website";
+    set_texts(table);
 }
-// clang-format on
 
 } // namespace ostrelum

@@ -1,198 +1,204 @@
-#include "figures/StringTable.h"
+#include "frame/Language.h"
+#include "frame/LanguageTable.h"
 
 namespace ostrelum {
+namespace {
 
 // One row of the table stays on one line, however long.
 // clang-format off
+constexpr TextRow table[] = {
+    {Text::LanguageName, "Español (Argentina)"},
+    {Text::Language, "Idioma"},
+    {Text::Translator, "Alex Marenco"},
+    {Text::TranslatorWebsite, "https://dervalin.example.org/ostrelum/es"},
+    {Text::Options, "Opciones"},
+    {Text::Customize, "Personalizar"},
+    {Text::MakeAndSaveReport, "Crear y guardar informe como..."},
+    {Text::About, "Acerca de..."},
+    {Text::VisitWebsite, "Visitar el sitio web"},
+    {Text::Exit, "Salir"},
+    {Text::Summary, "Resumen"},
+    {Text::UserAccount, "Usuario"},
+    {Text::Computer, "Computadora"},
+    {Text::OperatingSystem, "Sistema operativo"},
+    {Text::Processor, "Procesador"},
+    {Text::Ram, "Memoria RAM"},
+    {Text::HardDrives, "Discos rígidos"},
+    {Text::Bios, "BIOS"},
+    {Text::Display, "Pantalla"},
+    {Text::KeyboardAndMouse, "Teclado y mouse"},
+    {Text::RemovableMemory, "Memoria extraíble"},
+    {Text::Discs, "CD/DVD"},
+    {Text::OtherHardware, "Otros componentes"},
+    {Text::Copy, "Copiar"},
+    {Text::CopyAll, "Copiar todo"},
+    {Text::MainFeatures, "Características principales"},
+    {Text::ProcessorSpeed, "Velocidad del procesador:"},
+    {Text::ProcessorCount, "(#) CPU"},
+    {Text::GraphicsCardMemory, "Memoria de la placa de video:"},
+    {Text::TotalFreeSpace, "Espacio libre total:"},
+    {Text::OtherFeatures, "Otras características"},
+    {Text::GraphicsCard, "Placa de video"},
+    {Text::Motherboard, "Placa madre:"},
+    {Text::GettingInformation, "Obteniendo información..."},
+    {Text::Done, "Listo"},
+    {Text::Name, "Nombre:"},
+    {Text::Domain, "Dominio:"},
+    {Text::AccountType, "Tipo de cuenta:"},
+    {Text::TemporaryDuplicate, "Duplicado temporal"},
+    {Text::NormalAccount, "Normal"},
+    {Text::InternalDomain, "Dominio interno"},
+    {Text::Workstation, "Estación de trabajo"},
+    {Text::Server, "Servidor"},
+    {Text::PrivilegeLevel, "Nivel de privilegios:"},
+    {Text::Guest, "Invitado"},
+    {Text::Limited, "Limitado"},
+    {Text::Administrator, "Administrador"},
+    {Text::PasswordChangeable, "Contraseña modificable:"},
+    {Text::Yes, "Sí"},
+    {Text::No, "No"},
+    {Text::PasswordExpires, "Contraseña caducable:"},
+    {Text::BadPasswords, "Contraseñas incorrectas ingresadas:"},
+    {Text::LogonTime, "Hora de inicio:"},
+    {Text::ClockTime, "(HHMMSS) hs."},
+    {Text::UsageTime, "Tiempo de uso:"},
+    {Text::LogonCount, "Cantidad de inicios de sesión:"},
+    {Text::Times, "(#) vez/veces."},
+    {Text::AccountNotice, "La información de esta sección corresponde a la cuenta de usuario que ejecutó Ostrelum."},
+    {Text::Manufacturer, "Fabricante:"},
+    {Text::Model, "Modelo:"},
+    {Text::Type, "Tipo:"},
+    {Text::AutoRestart, "Reinicio automático:"},
+    {Text::AutoRestartHint, "Si se produce un error, el sistema se reinicia."},
+    {Text::On, "Activado"},
+    {Text::Off, "Desactivado"},
+    {Text::StartupDelay, "Demora de inicio del SO:"},
+    {Text::StartupDelayHint, "Tiempo de espera en la lista de sistemas operativos antes de la carga."},
+    {Text::MakeReport, "Crear un informe..."},
+    {Text::Workgroup, "Grupo de trabajo:"},
+    {Text::VersionAndBuild, "Versión y compilación:"},
+    {Text::ServicePack, "Service Pack:"},
+    {Text::ServicePackVersion, "Versión (#)"},
+    {Text::NoServicePack, "Ninguno"},
+    {Text::SerialNumber, "Número de serie:"},
+    {Text::LicenseCode, "Código de licencia:"},
+    {Text::SystemLanguage, "Idioma:"},
+    {Text::RegisteredBy, "Registrado a nombre de:"},
+    {Text::ProcessCount, "Cantidad de procesos:"},
+    {Text::InstallDate, "Fecha de instalación:"},
+    {Text::DateAndTime, "(DDMMYYYY) a las (HHMMSS) hs."},
+    {Text::VirtualMemoryInUse, "Memoria virtual en uso:"},
+    {Text::CurrentAndMaximumSpeed, "Velocidad actual/máxima:"},
+    {Text::Speed, "Velocidad:"},
+    {Text::CoreCount, "Cantidad de núcleos:"},
+    {Text::Socket, "Zócalo:"},
+    {Text::Architecture, "Arquitectura:"},
+    {Text::L2CacheSize, "Tamaño de la caché L2:"},
+    {Text::L3CacheSize, "Tamaño de la caché L3:"},
+    {Text::Unknown, "Desconocido"},
+    {Text::ChipType, "Tipo de chip:"},
+    {Text::TotalMemory, "Memoria total:"},
+    {Text::MemoryInUse, "Memoria en uso:"},
+    {Text::AvailableMemory, "Memoria disponible:"},
+    {Text::ModulesInstalled, "Módulos instalados:"},
+    {Text::DataBusWidth, "Ancho del bus de datos:"},
+    {Text::FavouredUse, "Uso:"},
+    {Text::Applications, "Aplicaciones"},
+    {Text::SystemCache, "Caché del sistema"},
+    {Text::LocalDisk, "Disco local"},
+    {Text::DriveLetter, "Letra de unidad:"},
+    {Text::Capacity, "Capacidad:"},
+    {Text::SpaceInUse, "Espacio en uso:"},
+    {Text::FreeSpace, "Espacio libre:"},
+    {Text::InternalName, "Nombre interno:"},
+    {Text::FileSystem, "Sistema de archivos:"},
+    {Text::TotalPartitions, "Total de particiones:"},
+    {Text::Version, "Versión:"},
+    {Text::ReleaseDate, "Fecha de publicación:"},
+    {Text::DisplayName, "Nombre de la pantalla:"},
+    {Text::CurrentConfiguration, "Configuración actual:"},
+    {Text::CurrentConfigurationHint, "Indica la resolución, la calidad del color y la frecuencia de actualización actuales."},
+    {Text::DisplayMode, "(1) píxeles, (2) bits, (3) Hz"},
+    {Text::MaximumRefreshRate, "Frecuencia máxima de actualización:"},
+    {Text::MaximumRefreshRateHint, "Indica la frecuencia máxima de actualización que admite la pantalla."},
+    {Text::MinimumRefreshRate, "Frecuencia mínima de actualización:"},
+    {Text::MinimumRefreshRateHint, "Indica la frecuencia mínima de actualización que admite la pantalla."},
+    {Text::RefreshRateRange, "Frecuencia mínima y máxima de actualización:"},
+    {Text::RefreshRateRangeHint, "Indica las frecuencias mínima y máxima de actualización que admite la pantalla."},
+    {Text::GraphicsCardName, "Nombre de la placa de video:"},
+    {Text::MemorySize, "Tamaño de la memoria:"},
+    {Text::MemoryType, "Tipo de memoria:"},
+    {Text::DriverName, "Nombre del controlador:"},
+    {Text::DriverVersion, "Versión del controlador:"},
+    {Text::DriverDate, "Fecha del controlador:"},
+    {Text::KeyboardName, "Nombre del teclado:"},
+    {Text::MouseName, "Nombre del mouse:"},
+    {Text::ButtonCount, "Cantidad de botones:"},
+    {Text::Connection, "Conexión:"},
+    {Text::SerialPort, "Puerto serie"},
+    {Text::Infrared, "Infrarrojo"},
+    {Text::Handedness, "Uso actual:"},
+    {Text::NotApplicable, "Configuración no establecida"},
+    {Text::RightHanded, "Diestro"},
+    {Text::LeftHanded, "Zurdo"},
+    {Text::RemovableVolume, "Memoria extraíble"},
+    {Text::OneRemovableDrive, "Hay 1 unidad extraíble conectada."},
+    {Text::RemovableDrives, "Hay (#) unidades extraíbles conectadas."},
+    {Text::NoRemovableDrive, "No se detectó ninguna unidad extraíble en la PC."},
+    {Text::ConnectRemovableDrive, "Por favor, conectá al menos una unidad extraíble."},
+    {Text::Size, "Tamaño:"},
+    {Text::DriveType, "Tipo de unidad:"},
+    {Text::OneDriveLoaded, "Hay 1 unidad con disco."},
+    {Text::DrivesLoaded, "Hay (#) unidades con disco."},
+    {Text::OneDriveEmpty, "Hay 1 unidad vacía."},
+    {Text::DrivesEmpty, "Hay (#) unidades vacías."},
+    {Text::NoDriveEmpty, "No hay ninguna unidad de CD/DVD vacía."},
+    {Text::NoDisc, "No se encontró ningún CD/DVD en las unidades."},
+    {Text::InsertDisc, "Por favor, insertá al menos un CD/DVD."},
+    {Text::MotherboardName, "Nombre de la placa madre:"},
+    {Text::SoundCardName, "Nombre de la placa de sonido:"},
+    {Text::SkinColour, "Color:"},
+    {Text::SkinShine, "Brillo:"},
+    {Text::WindowTransparency, "Transparencia"},
+    {Text::AllowTransparency, "Permitir transparencia"},
+    {Text::Accept, "Aceptar"},
+    {Text::ReportName, "Informe de Dervalin Ostrelum"},
+    {Text::ReportTitle, "Informe creado por Dervalin Ostrelum (1) en (2) seg. a las (3) del día (4)."},
+    {Text::TotalVirtualMemory, "Memoria virtual total:"},
+    {Text::Keyboard, "Teclado"},
+    {Text::Mouse, "Mouse"},
+    {Text::ThankYou, "¡Gracias por usar Dervalin Ostrelum!"},
+    {Text::SaveReport, "Guardar informe como..."},
+    {Text::Skin, "Apariencia"},
+    {Text::Seconds, "(#) segundo/s"},
+    {Text::Hertz, "(#) Hz"},
+    {Text::NoRemovableDriveNotice, "No se conectó ninguna unidad extraíble"},
+    {Text::NoDiscNotice, "No se insertó ningún CD/DVD"},
+    {Text::BatteryName, "Nombre de la batería:"},
+    {Text::CurrentVoltage, "Voltaje actual:"},
+    {Text::Volts, "(#) V"},
+    {Text::LoadPercentage, "Porcentaje de carga:"},
+    {Text::RemainingTime, "Tiempo de uso restante:"},
+    {Text::RtfFilter, "Texto enriquecido (*.rtf)|*.rtf|"},
+    {Text::HtmlFilter, "Página web (*.htm)|*.htm|"},
+    {Text::BbCodeFilter, "BBCode (*.txt)|*.txt|"},
+    {Text::ReportStep, "Creando informe, paso (#)"},
+    {Text::PlainTextFilter, "Texto sin formato (*.txt)|*.txt|"},
+    {Text::ReportWait, "Por favor, esperá mientras se crea el informe; el proceso puede demorar unos segundos."},
+    {Text::ReportMadeIn, "Informe creado en (#) segundo/s"},
+    {Text::Programmer, "Autor:"},
+    {Text::Contact, "Contacto:"},
+    {Text::Translators, "Traductores"},
+    {Text::Website, "Sitio web"},
+};
+// clang-format on
+static_assert(complete(table));
+
+} // namespace
+
 void LangSpanish()
 {
-    Trad[1] = "Español (Argentina)";
-    Trad[2] = "Idioma";
-    Trad[3] = "Alex Marenco";
-    Trad[4] = "https://dervalin.example.org/ostrelum/es";
-    Trad[5] = "Opciones";
-    Trad[6] = "Personalizar";
-    Trad[7] = "Crear y guardar informe como...";
-    Trad[8] = "Acerca de...";
-    Trad[9] = "Visitar el sitio web";
-    Trad[10] = "Salir";
-    Trad[11] = "Resumen";
-    Trad[12] = "Usuario";
-    Trad[13] = "Computadora";
-    Trad[14] = "Sistema operativo";
-    Trad[15] = "Procesador";
-    Trad[16] = "Memoria RAM";
-    Trad[17] = "Discos rígidos";
-    Trad[18] = "BIOS";
-    Trad[19] = "Pantalla";
-    Trad[20] = "Teclado y mouse";
-    Trad[21] = "Memoria extraíble";
-    Trad[22] = "CD/DVD";
-    Trad[23] = "Otros componentes";
-    Trad[24] = "Copiar";
-    Trad[25] = "Copiar todo";
-    Trad[26] = "Características principales";
-    Trad[27] = "Velocidad del procesador:";
-    Trad[28] = "(#) CPU";
-    Trad[29] = "Memoria de la placa de video:";
-    Trad[30] = "Espacio libre total:";
-    Trad[31] = "Otras características";
-    Trad[32] = "Placa de video";
-    Trad[33] = "Placa madre:";
-    Trad[34] = "Obteniendo información...";
-    Trad[35] = "Listo";
-    Trad[36] = "Nombre:";
-    Trad[37] = "Dominio:";
-    Trad[38] = "Tipo de cuenta:";
-    Trad[39] = "Duplicado temporal";
-    Trad[40] = "Normal";
-    Trad[41] = "Dominio interno";
-    Trad[42] = "Estación de trabajo";
-    Trad[43] = "Servidor";
-    Trad[44] = "Nivel de privilegios:";
-    Trad[45] = "Invitado";
-    Trad[46] = "Limitado";
-    Trad[47] = "Administrador";
-    Trad[48] = "Contraseña modificable:";
-    Trad[49] = "Sí";
-    Trad[50] = "No";
-    Trad[51] = "Contraseña caducable:";
-    Trad[52] = "Contraseñas incorrectas ingresadas:";
-    Trad[53] = "Hora de inicio:";
-    Trad[54] = "(HHMMSS) hs.";
-    Trad[55] = "Tiempo de uso:";
-    Trad[56] = "Cantidad de inicios de sesión:";
-    Trad[57] = "(#) vez/veces.";
-    Trad[58] = "La información de esta sección corresponde a la cuenta de usuario que ejecutó Ostrelum.";
-    Trad[59] = "Fabricante:";
-    Trad[60] = "Modelo:";
-    Trad[61] = "Tipo:";
-    Trad[62] = "Reinicio automático:";
-    Trad[63] = "Si se produce un error, el sistema se reinicia.";
-    Trad[64] = "Activado";
-    Trad[65] = "Desactivado";
-    Trad[66] = "Demora de inicio del SO:";
-    Trad[67] = "Tiempo de espera en la lista de sistemas operativos antes de la carga.";
-    Trad[68] = "Crear un informe...";
-    Trad[69] = "Grupo de trabajo:";
-    Trad[70] = "Versión y compilación:";
-    Trad[71] = "Service Pack:";
-    Trad[72] = "Versión (#)";
-    Trad[73] = "Ninguno";
-    Trad[74] = "Número de serie:";
-    Trad[75] = "Código de licencia:";
-    Trad[76] = "Idioma:";
-    Trad[77] = "Registrado a nombre de:";
-    Trad[78] = "Cantidad de procesos:";
-    Trad[79] = "Fecha de instalación:";
-    Trad[80] = "(DDMMYYYY) a las (HHMMSS) hs.";
-    Trad[81] = "Memoria virtual en uso:";
-    Trad[82] = "Velocidad actual/máxima:";
-    Trad[83] = "Velocidad:";
-    Trad[84] = "Cantidad de núcleos:";
-    Trad[85] = "Zócalo:";
-    Trad[86] = "Arquitectura:";
-    Trad[87] = "Tamaño de la caché L2:";
-    Trad[88] = "Tamaño de la caché L3:";
-    Trad[89] = "Desconocido";
-    Trad[90] = "Tipo de chip:";
-    Trad[91] = "Memoria total:";
-    Trad[92] = "Memoria en uso:";
-    Trad[93] = "Memoria disponible:";
-    Trad[94] = "Módulos instalados:";
-    Trad[95] = "Ancho del bus de datos:";
-    Trad[96] = "Uso:";
-    Trad[97] = "Aplicaciones";
-    Trad[98] = "Caché del sistema";
-    Trad[99] = "Disco local";
-    Trad[100] = "Letra de unidad:";
-    Trad[101] = "Capacidad:";
-    Trad[102] = "Espacio en uso:";
-    Trad[103] = "Espacio libre:";
-    Trad[104] = "Nombre interno:";
-    Trad[105] = "Sistema de archivos:";
-    Trad[106] = "Total de particiones:";
-    Trad[107] = "Versión:";
-    Trad[108] = "Fecha de publicación:";
-    Trad[109] = "Nombre de la pantalla:";
-    Trad[110] = "Configuración actual:";
-    Trad[111] = "Indica la resolución, la calidad del color y la frecuencia de actualización actuales.";
-    Trad[112] = "(1) píxeles, (2) bits, (3) Hz";
-    Trad[113] = "Frecuencia máxima de actualización:";
-    Trad[114] = "Indica la frecuencia máxima de actualización que admite la pantalla.";
-    Trad[115] = "Frecuencia mínima de actualización:";
-    Trad[116] = "Indica la frecuencia mínima de actualización que admite la pantalla.";
-    Trad[117] = "Frecuencia mínima y máxima de actualización:";
-    Trad[118] = "Indica las frecuencias mínima y máxima de actualización que admite la pantalla.";
-    Trad[119] = "Nombre de la placa de video:";
-    Trad[120] = "Tamaño de la memoria:";
-    Trad[121] = "Tipo de memoria:";
-    Trad[122] = "Nombre del controlador:";
-    Trad[123] = "Versión del controlador:";
-    Trad[124] = "Fecha del controlador:";
-    Trad[125] = "Nombre del teclado:";
-    Trad[126] = "Nombre del mouse:";
-    Trad[127] = "Cantidad de botones:";
-    Trad[128] = "Conexión:";
-    Trad[129] = "Puerto serie";
-    Trad[130] = "Infrarrojo";
-    Trad[131] = "Uso actual:";
-    Trad[132] = "Configuración no establecida";
-    Trad[133] = "Diestro";
-    Trad[134] = "Zurdo";
-    Trad[135] = "Memoria extraíble";
-    Trad[136] = "Hay 1 unidad extraíble conectada.";
-    Trad[137] = "Hay (#) unidades extraíbles conectadas.";
-    Trad[138] = "No se detectó ninguna unidad extraíble en la PC.";
-    Trad[139] = "Por favor, conectá al menos una unidad extraíble.";
-    Trad[140] = "Tamaño:";
-    Trad[141] = "Tipo de unidad:";
-    Trad[142] = "";
-    Trad[143] = "Hay 1 unidad con disco.";
-    Trad[144] = "Hay (#) unidades con disco.";
-    Trad[145] = "Hay 1 unidad vacía.";
-    Trad[146] = "Hay (#) unidades vacías.";
-    Trad[147] = "No hay ninguna unidad de CD/DVD vacía.";
-    Trad[148] = "No se encontró ningún CD/DVD en las unidades.";
-    Trad[149] = "Por favor, insertá al menos un CD/DVD.";
-    Trad[150] = "Nombre de la placa madre:";
-    Trad[151] = "Nombre de la placa de sonido:";
-    Trad[152] = "Color:";
-    Trad[153] = "Brillo:";
-    Trad[154] = "Transparencia";
-    Trad[155] = "Permitir transparencia";
-    Trad[156] = "";
-    Trad[157] = "";
-    Trad[158] = "Aceptar";
-    Trad[159] = "Informe de Dervalin Ostrelum";
-    Trad[160] = "Informe creado por Dervalin Ostrelum (1) en (2) seg. a las (3) del día (4).";
-    Trad[161] = "Memoria virtual total:";
-    Trad[162] = "Teclado";
-    Trad[163] = "Mouse";
-    Trad[164] = "¡Gracias por usar Dervalin Ostrelum!";
-    Trad[165] = "Guardar informe como...";
-    Trad[166] = "Apariencia";
-    Trad[167] = "(#) segundo/s";
-    Trad[168] = "(#) Hz";
-    Trad[169] = "No se conectó ninguna unidad extraíble";
-    Trad[170] = "No se insertó ningún CD/DVD";
-    Trad[171] = "Nombre de la batería:";
-    Trad[172] = "Voltaje actual:";
-    Trad[173] = "(#) V";
-    Trad[174] = "Porcentaje de carga:";
-    Trad[175] = "Tiempo de uso restante:";
-    Trad[176] = "Texto enriquecido (*.rtf)|*.rtf|";
-    Trad[177] = "Página web (*.htm)|*.htm|";
-    Trad[178] = "BBCode (*.txt)|*.txt|";
-    Trad[179] = "Creando informe, paso (#)";
-    Trad[180] = "Texto sin formato (*.txt)|*.txt|";
-    Trad[181] = "Por favor, esperá mientras se crea el informe; el proceso puede demorar unos segundos.";
-    Trad[182] = "Informe creado en (#) segundo/s";
-    Trad[183] = "Autor:";
-    Trad[184] = "Contacto:";
-    Trad[185] = "Traductores";
-    Trad[186] = "Sitio web";
+    set_texts(table);
 }
-// clang-format on
 
 } // namespace ostrelum

@@ -2,6 +2,7 @@
 
 #include "figures/Shared.h"
 #include "frame/F1Events.h"
+#include "frame/LanguageTable.h"
 #include "frame/MainForm.h"
 
 #include <array>
@@ -20,28 +21,28 @@ constexpr std::array<LanguageRow, 3> languages{
 
 void translate_customise_panel()
 {
-    F1.LTPers1.Caption = Trad[2];
-    F1.LTPers2.Caption = Trad[166];
-    F1.LPers1.Caption = Trad[152];
-    F1.LPers2.Caption = Trad[153];
-    F1.LTPers3.Caption = Trad[154];
-    F1.CheckTrans.Caption = " " + Trad[155];
-    F1.BAceptar.Caption = Trad[158];
-    F1.LangList.AccessibleName = Trad[2];
-    F1.Scroll1.AccessibleName = Trad[152];
-    F1.Scroll2.AccessibleName = Trad[153];
-    F1.Scroll3.AccessibleName = Trad[154];
+    F1.LTPers1.Caption = Trad[Text::Language];
+    F1.LTPers2.Caption = Trad[Text::Skin];
+    F1.LPers1.Caption = Trad[Text::SkinColour];
+    F1.LPers2.Caption = Trad[Text::SkinShine];
+    F1.LTPers3.Caption = Trad[Text::WindowTransparency];
+    F1.CheckTrans.Caption = " " + Trad[Text::AllowTransparency];
+    F1.BAceptar.Caption = Trad[Text::Accept];
+    F1.LangList.AccessibleName = Trad[Text::Language];
+    F1.Scroll1.AccessibleName = Trad[Text::SkinColour];
+    F1.Scroll2.AccessibleName = Trad[Text::SkinShine];
+    F1.Scroll3.AccessibleName = Trad[Text::WindowTransparency];
 }
 
 void translate_options_menu()
 {
-    F1.LOpc.Caption = Trad[5];
-    F1.MenuLogo.AccessibleName = Trad[5];
-    F1.Personalizar.Caption = Trad[6];
-    F1.CrearInforme.Caption = Trad[68];
-    F1.Informacion.Caption = Trad[8];
-    F1.VisitWeb.Caption = Trad[9];
-    F1.Quit.Caption = Trad[10];
+    F1.LOpc.Caption = Trad[Text::Options];
+    F1.MenuLogo.AccessibleName = Trad[Text::Options];
+    F1.Personalizar.Caption = Trad[Text::Customize];
+    F1.CrearInforme.Caption = Trad[Text::MakeReport];
+    F1.Informacion.Caption = Trad[Text::About];
+    F1.VisitWeb.Caption = Trad[Text::VisitWebsite];
+    F1.Quit.Caption = Trad[Text::Exit];
 }
 
 void LangList_Click()
@@ -51,7 +52,7 @@ void LangList_Click()
         Idioma = languages[chosen].name;
         languages[chosen].fill();
     }
-    F1.Titulo.Caption = Trad[6];
+    F1.Titulo.Caption = Trad[Text::Customize];
     TraduPrincipal();
     F1.PicPersonalizar.Cls();
 }
@@ -61,6 +62,19 @@ constexpr Handler table[] = {OSTRELUM_ON(LangList_Click)};
 } // namespace
 
 const HandlerTable language_handlers{table};
+
+void set_texts(std::span<const TextRow> table)
+{
+    for (std::size_t key = 1; key <= StringTable::last_key; ++key)
+        Trad[static_cast<Text>(key)].clear();
+    for (const TextRow& row : table)
+        Trad[row.key] = row.text;
+}
+
+Text section_name(int section)
+{
+    return static_cast<Text>(static_cast<int>(Text::Summary) + section - 1);
+}
 
 bool fill_string_table(const std::string& language)
 {
@@ -81,7 +95,7 @@ void list_languages(const std::string& language)
         row.fill();
         if (row.name == language)
             chosen = static_cast<int>(F1.LangList.List.size());
-        F1.LangList.List.push_back(Trad[1]);
+        F1.LangList.List.push_back(Trad[Text::LanguageName]);
     }
     choose(F1, F1.LangList, chosen);
 }
@@ -92,12 +106,12 @@ void TraduPrincipal()
         translate_customise_panel();
     translate_options_menu();
     for (int n = 1; n <= F1.LMenu.count; ++n) {
-        F1.LMenu(n).Caption = Trad[static_cast<std::size_t>(n) + 10];
+        F1.LMenu(n).Caption = Trad[section_name(n)];
         if (n == F1.SeccionPrev)
             F1.LMenu2.Caption = F1.LMenu(n).Caption;
     }
-    F1.Copy.Caption = Trad[24];
-    F1.CopyAll.Caption = Trad[25];
+    F1.Copy.Caption = Trad[Text::Copy];
+    F1.CopyAll.Caption = Trad[Text::CopyAll];
 }
 
 } // namespace ostrelum

@@ -1,8 +1,19 @@
 #pragma once
 
+#include "figures/Text.h"
+
 #include <string>
 
 namespace ostrelum {
+
+/// Each fills the keys 1 to 186 of Trad and changes nothing else: neither Idioma nor what stands on
+/// the screen.
+void LangEnglish();
+void LangSpanish();
+void LangDutch();
+
+/// The key of a section's name, 1 to 13.
+Text section_name(int section);
 
 /// Fills Trad by the routine of a language: "English", "Spanish" or "Dutch". False for any other
 /// name, which changes nothing.

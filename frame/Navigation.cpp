@@ -2,6 +2,7 @@
 
 #include "figures/Platform.h"
 #include "frame/F1Events.h"
+#include "frame/Language.h"
 #include "frame/MainForm.h"
 #include "frame/Page.h"
 #include "sections/Sections.h"
@@ -40,7 +41,7 @@ bool in_tab(int x, int y)
 void collect(int index)
 {
     F1.BM.Top = FirstRowTop + RowHeight * (index - 1);
-    F1.LMenu2.Caption = Trad[static_cast<std::size_t>(index) + 10];
+    F1.LMenu2.Caption = Trad[section_name(index)];
     F1.BM.Visible = true;
     collectors[static_cast<std::size_t>(index - 1)]();
 }
@@ -121,7 +122,7 @@ void LMenu_MouseDown(int index, int button, int, int, int)
     if (index >= 1 && index <= SectionCount)
         collect(index);
     platform.toolkit->set_screen_cursor(MouseCursor::Default);
-    F1.Labelmi.Caption = Trad[35];
+    F1.Labelmi.Caption = Trad[Text::Done];
     platform.toolkit->Refresh(F1);
     start_cross_fade();
 }

@@ -8,7 +8,7 @@ namespace {
 /// What a row shows for a value that could not be had.
 const std::string& unknown()
 {
-    return Trad[89];
+    return Trad[Text::Unknown];
 }
 
 void write(Label& label, const std::string& text)
@@ -33,7 +33,7 @@ void enter_section(std::uint8_t section)
 
 void announce_section(std::uint8_t section)
 {
-    write(F1.Labelmi, Trad[34]);
+    write(F1.Labelmi, Trad[Text::GettingInformation]);
     F1.Seccion = section;
     F1.Line2.Visible = false;
 }

@@ -43,8 +43,7 @@ void place_value(int row);
 /// Writes a row's value as it is, also an empty one, and puts the same text into its tooltip.
 void set_bare_value(int row, const std::string& value);
 
-/// Writes a row's value, Trad 89 "Unknown" for an empty one, and puts the same text into its
-/// tooltip.
+/// Writes a row's value, "Unknown" for an empty one, and puts the same text into its tooltip.
 void set_value(int row, const std::string& value);
 
 /// The same for a value that may fail to be made: the row then keeps the value it had, and its

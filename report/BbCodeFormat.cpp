@@ -45,9 +45,9 @@ Expansions expansions(const ReportLook& look)
 std::string foot(const ReportLook& look)
 {
     return "\r\n"
-           "[center][color=#" + SkinHex(look) + "][size=13pt]" + Trad[164] + "[/size][/color]\r\n" +
+           "[center][color=#" + SkinHex(look) + "][size=13pt]" + Trad[Text::ThankYou] + "[/size][/color]\r\n" +
            hyphens(54) + "\r\n"
-           "[url=" + std::string(WebAddress) + "]" + Trad[186] + "[/url][/center]";
+           "[url=" + std::string(WebAddress) + "]" + Trad[Text::Website] + "[/url][/center]";
 }
 // clang-format on
 

@@ -20,7 +20,7 @@ void write_rows(std::initializer_list<ReportRow> rows)
 
 std::string known(const std::string& value)
 {
-    return value.empty() ? Trad[89] : value;
+    return value.empty() ? Trad[Text::Unknown] : value;
 }
 
 } // namespace ostrelum

@@ -21,7 +21,7 @@ void write_heading(const std::string& title);
 /// Writes the rows of a section, at least one, and closes it.
 void write_rows(std::initializer_list<ReportRow> rows);
 
-/// A value as a row shows it: Trad 89 "Unknown" for an empty one.
+/// A value as a row shows it: "Unknown" for an empty one.
 std::string known(const std::string& value);
 
 /// The same for a value that may fail to be made.

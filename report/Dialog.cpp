@@ -43,10 +43,10 @@ void use_other_fonts()
 void write_captions()
 {
     F2.Desc1.ForeColor = RGB(0, 51, 153);
-    F2.Desc1.Caption = Trad[7];
-    F2.Desc2.Caption = Trad[181];
-    F2.BSave.Caption = Trad[165];
-    F2.BClose.Caption = Trad[158];
+    F2.Desc1.Caption = Trad[Text::MakeAndSaveReport];
+    F2.Desc2.Caption = Trad[Text::ReportWait];
+    F2.BSave.Caption = Trad[Text::SaveReport];
+    F2.BClose.Caption = Trad[Text::Accept];
 }
 
 void Form_Load()

@@ -17,7 +17,7 @@ std::string head(const ReportLook& look)
 {
     return "<html>\r\n"
            "\t<head>\r\n"
-           "\t\t<title>" + Trad[159] + "</title>\r\n"
+           "\t\t<title>" + Trad[Text::ReportName] + "</title>\r\n"
            "\t\t<style type='text/css'>\r\n"
            "\t\t\tbody{margin-top:0px; margin-left:15px}\r\n"
            "\t\t\tlabel{font-family:'Segoe UI', Arial; cursor:auto}\r\n"
@@ -56,9 +56,9 @@ std::string foot(const ReportLook& look)
 {
     return "\r\n"
            "\t\t<br><br>\r\n"
-           "\t\t<center><label style='color:" + rgb(look) + "; font-size:20px'>" + Trad[164] + "</label></center>\r\n"
+           "\t\t<center><label style='color:" + rgb(look) + "; font-size:20px'>" + Trad[Text::ThankYou] + "</label></center>\r\n"
            "\t\t<hr width='600' size='1'>\r\n"
-           "\t\t<center><label style='font-size:12px'><a href='" + std::string(WebAddress) + "' target='_blank'>" + Trad[186] + "</a></label></center>\r\n"
+           "\t\t<center><label style='font-size:12px'><a href='" + std::string(WebAddress) + "' target='_blank'>" + Trad[Text::Website] + "</a></label></center>\r\n"
            "\t\t<br>\r\n"
            "\t</body>\r\n"
            "</html>";

@@ -10,11 +10,11 @@ void InfBIOS()
     read_firmware();
 
     write_rows({
-        {Trad[36], known(Datos[1])},
-        {Trad[59], known(Datos[2])},
-        {Trad[107], known(Datos[3])},
-        {Trad[108], known(release_date)},
-        {Trad[74], known(Datos[5])},
+        {Trad[Text::Name], known(Datos[1])},
+        {Trad[Text::Manufacturer], known(Datos[2])},
+        {Trad[Text::Version], known(Datos[3])},
+        {Trad[Text::ReleaseDate], known(release_date)},
+        {Trad[Text::SerialNumber], known(Datos[5])},
     });
 }
 

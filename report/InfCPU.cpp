@@ -9,7 +9,7 @@ namespace {
 ReportRow speed_row()
 {
     const ClockFigure clock = clock_figure();
-    return {Trad[clock.title == 0 ? 83 : clock.title], known(clock.text)};
+    return {Trad[clock.title.value_or(Text::Speed)], known(clock.text)};
 }
 
 } // namespace
@@ -19,15 +19,15 @@ void InfCPU()
     read_processor();
 
     write_rows({
-        {Trad[36], known(Datos[1])},
+        {Trad[Text::Name], known(Datos[1])},
         speed_row(),
-        {Trad[84], known(processor_count())},
-        {Trad[59], known(Datos[3])},
-        {Trad[61], known(Datos[4])},
-        {Trad[85], known(Datos[5])},
-        {Trad[86], known(architecture())},
-        {Trad[87], known(cache_size(Datos[7]))},
-        {Trad[88], known(cache_size(Datos[8]))},
+        {Trad[Text::CoreCount], known(processor_count())},
+        {Trad[Text::Manufacturer], known(Datos[3])},
+        {Trad[Text::Type], known(Datos[4])},
+        {Trad[Text::Socket], known(Datos[5])},
+        {Trad[Text::Architecture], known(architecture())},
+        {Trad[Text::L2CacheSize], known(cache_size(Datos[7]))},
+        {Trad[Text::L3CacheSize], known(cache_size(Datos[8]))},
     });
 }
 

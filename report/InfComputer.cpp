@@ -11,12 +11,12 @@ void InfComputer()
     read_computer();
 
     write_rows({
-        {Trad[59], known(Datos[1])},
-        {Trad[60], known(Datos[2])},
-        {Trad[61], known(Datos[3])},
-        {Trad[62], known(restart_option())},
-        {Trad[66], known(startup_delay())},
-        {Trad[69], known(CapitalText(Datos[6]))},
+        {Trad[Text::Manufacturer], known(Datos[1])},
+        {Trad[Text::Model], known(Datos[2])},
+        {Trad[Text::Type], known(Datos[3])},
+        {Trad[Text::AutoRestart], known(restart_option())},
+        {Trad[Text::StartupDelay], known(startup_delay())},
+        {Trad[Text::Workgroup], known(CapitalText(Datos[6]))},
     });
 }
 

@@ -29,14 +29,14 @@ void InfDisks()
                       .partitions = 8});
 
     write_rows({
-        {Trad[36], list(1, NameTail)},
-        {Trad[100], list(2, NameTail)},
-        {Trad[101], list(3, SizeTail)},
-        {Trad[102], list(4, SizeTail)},
-        {Trad[104], list(5, NameTail)},
-        {Trad[105], list(6, NameTail)},
-        {Trad[74], list(7, NameTail)},
-        {Trad[106], at_least(Datos[8], 1) ? Datos[8] : Trad[89]},
+        {Trad[Text::Name], list(1, NameTail)},
+        {Trad[Text::DriveLetter], list(2, NameTail)},
+        {Trad[Text::Capacity], list(3, SizeTail)},
+        {Trad[Text::SpaceInUse], list(4, SizeTail)},
+        {Trad[Text::InternalName], list(5, NameTail)},
+        {Trad[Text::FileSystem], list(6, NameTail)},
+        {Trad[Text::SerialNumber], list(7, NameTail)},
+        {Trad[Text::TotalPartitions], at_least(Datos[8], 1) ? Datos[8] : Trad[Text::Unknown]},
     });
 }
 

@@ -11,9 +11,9 @@ void InfDisplay()
     const RefreshLimits limits = refresh_limits();
 
     write_rows({
-        {Trad[109], known(Datos[1])},
-        {Trad[59], known(Datos[2])},
-        {Trad[110], known(Datos[3])},
+        {Trad[Text::DisplayName], known(Datos[1])},
+        {Trad[Text::Manufacturer], known(Datos[2])},
+        {Trad[Text::CurrentConfiguration], known(Datos[3])},
         {Trad[limits.title], known(limits.text)},
     });
 }
@@ -21,12 +21,12 @@ void InfDisplay()
 void InfGraphics()
 {
     write_rows({
-        {Trad[119], known(Datos[6])},
-        {Trad[120], known(graphics_memory())},
-        {Trad[121], known(Datos[7])},
-        {Trad[122], known(Datos[8])},
-        {Trad[123], known(Datos[9])},
-        {Trad[124], known(driver_date)},
+        {Trad[Text::GraphicsCardName], known(Datos[6])},
+        {Trad[Text::MemorySize], known(graphics_memory())},
+        {Trad[Text::MemoryType], known(Datos[7])},
+        {Trad[Text::DriverName], known(Datos[8])},
+        {Trad[Text::DriverVersion], known(Datos[9])},
+        {Trad[Text::DriverDate], known(driver_date)},
     });
 }
 

@@ -10,19 +10,19 @@ void InfKeyboard()
     read_input();
 
     write_rows({
-        {Trad[125], known(Datos[1])},
-        {Trad[61], known(Datos[2])},
+        {Trad[Text::KeyboardName], known(Datos[1])},
+        {Trad[Text::Type], known(Datos[2])},
     });
 }
 
 void InfMouse()
 {
     write_rows({
-        {Trad[126], known(Datos[3])},
-        {Trad[59], known(Datos[4])},
-        {Trad[127], known(mouse_buttons())},
-        {Trad[128], known(pointer_interface())},
-        {Trad[131], known(handedness())},
+        {Trad[Text::MouseName], known(Datos[3])},
+        {Trad[Text::Manufacturer], known(Datos[4])},
+        {Trad[Text::ButtonCount], known(mouse_buttons())},
+        {Trad[Text::Connection], known(pointer_interface())},
+        {Trad[Text::Handedness], known(handedness())},
     });
 }
 

@@ -11,17 +11,18 @@ void InfOS()
     read_operating_system(MemoryFigures::Total);
 
     write_rows({
-        {Trad[36], known(Datos[1])},
-        {Trad[70], Datos[2]},
-        {Trad[71], service_pack()},
-        {Trad[61], known(Datos[4])},
-        {Trad[74], known(Datos[5])},
-        {Trad[75], known(Datos[6])},
-        {Trad[76], known(language_name(Datos[7]))},
-        {Trad[77], known(Datos[8])},
-        {Trad[78], known(process_count(Datos[9]))},
-        {Trad[79], known(install_date())},
-        {Trad[161], Num1 >= 1 ? std::to_string(Num1) + " MB" : Trad[89]},
+        {Trad[Text::Name], known(Datos[1])},
+        {Trad[Text::VersionAndBuild], Datos[2]},
+        {Trad[Text::ServicePack], service_pack()},
+        {Trad[Text::Type], known(Datos[4])},
+        {Trad[Text::SerialNumber], known(Datos[5])},
+        {Trad[Text::LicenseCode], known(Datos[6])},
+        {Trad[Text::SystemLanguage], known(language_name(Datos[7]))},
+        {Trad[Text::RegisteredBy], known(Datos[8])},
+        {Trad[Text::ProcessCount], known(process_count(Datos[9]))},
+        {Trad[Text::InstallDate], known(install_date())},
+        {Trad[Text::TotalVirtualMemory],
+         Num1 >= 1 ? std::to_string(Num1) + " MB" : Trad[Text::Unknown]},
     });
 }
 

@@ -10,13 +10,13 @@ void InfOther()
     read_other_hardware();
 
     write_rows({
-        {Trad[150], known(Datos[1])},
-        {Trad[59], known(Datos[2])},
-        {Trad[104], known(Datos[3])},
-        {Trad[151], known(Datos[4])},
-        {Trad[59], known(Datos[5])},
-        {Trad[171], known(Datos[6])},
-        {Trad[74], known(Datos[7])},
+        {Trad[Text::MotherboardName], known(Datos[1])},
+        {Trad[Text::Manufacturer], known(Datos[2])},
+        {Trad[Text::InternalName], known(Datos[3])},
+        {Trad[Text::SoundCardName], known(Datos[4])},
+        {Trad[Text::Manufacturer], known(Datos[5])},
+        {Trad[Text::BatteryName], known(Datos[6])},
+        {Trad[Text::SerialNumber], known(Datos[7])},
     });
 }
 

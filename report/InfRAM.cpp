@@ -15,12 +15,12 @@ void InfRAM()
     });
 
     write_rows({
-        {Trad[61], known(memory_type_text(Datos[1]))},
-        {Trad[90], known(form_factor_text(Datos[2]))},
-        {Trad[91], known(total_memory())},
-        {Trad[94], known(modules_installed())},
-        {Trad[95], known(memory_width())},
-        {Trad[96], known(favoured_use())},
+        {Trad[Text::Type], known(memory_type_text(Datos[1]))},
+        {Trad[Text::ChipType], known(form_factor_text(Datos[2]))},
+        {Trad[Text::TotalMemory], known(total_memory())},
+        {Trad[Text::ModulesInstalled], known(modules_installed())},
+        {Trad[Text::DataBusWidth], known(memory_width())},
+        {Trad[Text::FavouredUse], known(favoured_use())},
     });
 }
 

@@ -11,15 +11,15 @@ void InfUser()
     read_account();
 
     write_rows({
-        {Trad[36], known(Datos[1])},
-        {Trad[37], known(CapitalText(Datos[2]))},
-        {Trad[38], known(account_type())},
-        {Trad[44], known(privilege_level())},
-        {Trad[48], known(yes_or_no(Datos[5]))},
-        {Trad[51], known(yes_or_no(Datos[6]))},
-        {Trad[52], known(bad_passwords())},
-        {Trad[53], known(logon_time())},
-        {Trad[56], known(logon_count())},
+        {Trad[Text::Name], known(Datos[1])},
+        {Trad[Text::Domain], known(CapitalText(Datos[2]))},
+        {Trad[Text::AccountType], known(account_type())},
+        {Trad[Text::PrivilegeLevel], known(privilege_level())},
+        {Trad[Text::PasswordChangeable], known(yes_or_no(Datos[5]))},
+        {Trad[Text::PasswordExpires], known(yes_or_no(Datos[6]))},
+        {Trad[Text::BadPasswords], known(bad_passwords())},
+        {Trad[Text::LogonTime], known(logon_time())},
+        {Trad[Text::LogonCount], known(logon_count())},
     });
 }
 

@@ -13,31 +13,31 @@ namespace ostrelum {
 namespace {
 
 struct Stage {
-    /// Key of the section's title.
-    std::size_t title;
+    /// Of the section.
+    Text title;
     void (*run)();
 };
 
 constexpr std::array<Stage, 12> stages{{
-    {12, InfUser},
-    {13, InfComputer},
-    {14, InfOS},
-    {15, InfCPU},
-    {16, InfRAM},
-    {17, InfDisks},
-    {18, InfBIOS},
-    {19, InfDisplay},
-    {32, InfGraphics},
-    {162, InfKeyboard},
-    {163, InfMouse},
-    {23, InfOther},
+    {Text::UserAccount, InfUser},
+    {Text::Computer, InfComputer},
+    {Text::OperatingSystem, InfOS},
+    {Text::Processor, InfCPU},
+    {Text::Ram, InfRAM},
+    {Text::HardDrives, InfDisks},
+    {Text::Bios, InfBIOS},
+    {Text::Display, InfDisplay},
+    {Text::GraphicsCard, InfGraphics},
+    {Text::Keyboard, InfKeyboard},
+    {Text::Mouse, InfMouse},
+    {Text::OtherHardware, InfOther},
 }};
 
 /// Puts the number of the step on the screen before its queries begin.
 void show_step(std::size_t number)
 {
     const std::string step = std::to_string(number) + "/" + std::to_string(stages.size());
-    F2.LStatus.Caption = FillMark(Trad[179], "(#)", step);
+    F2.LStatus.Caption = FillMark(Trad[Text::ReportStep], "(#)", step);
     platform.toolkit->Refresh(F2);
 }
 
@@ -72,7 +72,7 @@ std::string time_text()
 /// "(2)" stays until the seconds are known.
 void make_title()
 {
-    TempStr = FillMark(Trad[160], "(1)", ProgramVersion);
+    TempStr = FillMark(Trad[Text::ReportTitle], "(1)", ProgramVersion);
     attempt([] { TempStr = FillMark(TempStr, "(3)", time_text()); });
     attempt([] {
         TempStr = FillMark(TempStr, "(4)", platform.regional->short_date(platform.clock->date()));
@@ -102,7 +102,7 @@ void InfEnd()
     TempStr = seconds_text();
     for (std::string* document : report_documents())
         *document = FillMark(*document, "(2)", TempStr);
-    F2.LStatus.Caption = FillMark(Trad[182], "(#)", TempStr);
+    F2.LStatus.Caption = FillMark(Trad[Text::ReportMadeIn], "(#)", TempStr);
 }
 
 } // namespace

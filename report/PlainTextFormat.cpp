@@ -35,7 +35,7 @@ Expansions expansions(const ReportLook&)
 std::string foot(const ReportLook&)
 {
     return "\r\n" +
-           Trad[164] + "\r\n" +
+           Trad[Text::ThankYou] + "\r\n" +
            hyphens(54) + "\r\n" +
            std::string(WebAddress) + "\r\n";
 }

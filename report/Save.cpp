@@ -74,8 +74,9 @@ std::string ShowSaveDialog(const std::string& title, std::string& filter, const 
 
 void save()
 {
-    std::string filter = Trad[176] + Trad[177] + Trad[178] + Trad[180];
-    const std::string path = ShowSaveDialog(Trad[165], filter, Trad[159]);
+    std::string filter = Trad[Text::RtfFilter] + Trad[Text::HtmlFilter] + Trad[Text::BbCodeFilter] +
+                         Trad[Text::PlainTextFilter];
+    const std::string path = ShowSaveDialog(Trad[Text::SaveReport], filter, Trad[Text::ReportName]);
     const auto documents = report_documents();
     if (path.empty() || ChosenFormat < 1 || ChosenFormat > documents.size())
         return;

@@ -18,7 +18,7 @@ std::string voltage_text(const std::string& millivolts)
     if (number != std::nearbyint(number))
         throw Failure("not a whole number of millivolts");
     const double tenths = std::nearbyint(number / 100);
-    return "~ " + FillMark(Trad[173], "(#)", RealText(tenths / 10));
+    return "~ " + FillMark(Trad[Text::Volts], "(#)", RealText(tenths / 10));
 }
 
 std::string percent_text(const std::string& percent)
@@ -30,7 +30,7 @@ std::string time_left(const std::string& minutes)
 {
     if (minutes.empty())
         return "";
-    return FillMark(Trad[54], "(HHMMSS)", MinutesText(Value(minutes).whole()));
+    return FillMark(Trad[Text::ClockTime], "(HHMMSS)", MinutesText(Value(minutes).whole()));
 }
 
 } // namespace

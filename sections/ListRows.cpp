@@ -15,14 +15,14 @@ void set_volume_rows()
 {
     plain_title(1);
     plain_title(8);
-    set_list_row(1, Trad[36], Datos[1], NameTail);
-    set_list_row(2, Trad[100], Datos[2], NameTail);
-    set_list_row(3, Trad[101], Datos[3], SizeTail);
-    set_list_row(4, Trad[102], Datos[4], SizeTail);
-    set_list_row(5, Trad[103], Datos[5], SizeTail);
-    set_list_row(6, Trad[104], Datos[6], NameTail);
-    set_list_row(7, Trad[105], Datos[7], NameTail);
-    set_list_row(8, Trad[74], Datos[8], NameTail);
+    set_list_row(1, Trad[Text::Name], Datos[1], NameTail);
+    set_list_row(2, Trad[Text::DriveLetter], Datos[2], NameTail);
+    set_list_row(3, Trad[Text::Capacity], Datos[3], SizeTail);
+    set_list_row(4, Trad[Text::SpaceInUse], Datos[4], SizeTail);
+    set_list_row(5, Trad[Text::FreeSpace], Datos[5], SizeTail);
+    set_list_row(6, Trad[Text::InternalName], Datos[6], NameTail);
+    set_list_row(7, Trad[Text::FileSystem], Datos[7], NameTail);
+    set_list_row(8, Trad[Text::SerialNumber], Datos[8], NameTail);
 }
 
 } // namespace ostrelum

@@ -38,7 +38,7 @@ void refresh_system()
     });
     place_value(9);
     set_value(9, process_count(TempStr));
-    set_title(11, Trad[81] + " ");
+    set_title(11, Trad[Text::VirtualMemoryInUse] + " ");
     set_virtual_memory_row();
 }
 

@@ -5,7 +5,7 @@
 
 namespace ostrelum {
 
-void show_notice(std::size_t key, int top, int height)
+void show_notice(Text key, int top, int height)
 {
     empty_rows(1, 8);
     clear_title_tooltips(1, 8);

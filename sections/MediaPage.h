@@ -1,9 +1,9 @@
 #pragma once
 
+#include "figures/Text.h"
 #include "frame/MainForm.h"
 #include "sources/Value.h"
 
-#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -15,9 +15,9 @@ namespace ostrelum {
 inline constexpr Colour NothingFound = RGB(75, 75, 75);
 inline constexpr Colour MediaFound = RGB(0, 145, 0);
 
-/// Empties the page's rows 1 to 8 and shows the text of a key of Trad over them, at a top and with
+/// Empties the page's rows 1 to 8 and shows a text over them, at a top and with
 /// a height in pixels.
-void show_notice(std::size_t key, int top, int height);
+void show_notice(Text key, int top, int height);
 
 /// Writes the text at the foot of the page and shows it with its picture.
 void show_alert(Colour colour, const std::string& text);

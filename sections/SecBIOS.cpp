@@ -9,14 +9,14 @@ void SecBIOS()
     enter_section(8);
     read_firmware();
 
-    F1.Titulo.Caption = Trad[18];
+    F1.Titulo.Caption = Trad[Text::Bios];
     hide(F1.LNoDrive, F1.Line1, F1.Iaviso, F1.Laviso);
     plain_title(1);
-    set_row(1, Trad[36], Datos[1]);
-    set_row(2, Trad[59], Datos[2]);
-    set_row(3, Trad[107], Datos[3]);
-    set_row(4, Trad[108], release_date);
-    set_row(5, Trad[74], Datos[5]);
+    set_row(1, Trad[Text::Name], Datos[1]);
+    set_row(2, Trad[Text::Manufacturer], Datos[2]);
+    set_row(3, Trad[Text::Version], Datos[3]);
+    set_row(4, Trad[Text::ReleaseDate], release_date);
+    set_row(5, Trad[Text::SerialNumber], Datos[5]);
     clear_title_tooltips(3, 5);
     empty_rows(6, 12);
 }

@@ -10,18 +10,18 @@ void SecComputer()
     enter_section(3);
     read_computer();
 
-    F1.Titulo.Caption = Trad[13];
+    F1.Titulo.Caption = Trad[Text::Computer];
     hide(F1.LNoDrive, F1.Line1, F1.Iaviso, F1.Laviso);
     plain_title(1);
-    set_row(1, Trad[59], Datos[1]);
-    set_row(2, Trad[60], Datos[2]);
-    set_row(3, Trad[61], Datos[3]);
+    set_row(1, Trad[Text::Manufacturer], Datos[1]);
+    set_row(2, Trad[Text::Model], Datos[2]);
+    set_row(3, Trad[Text::Type], Datos[3]);
     F1.LT(3).ToolTipText.clear();
-    set_row(4, Trad[62], restart_option());
-    F1.LT(4).ToolTipText = Trad[63];
-    set_row(5, Trad[66], startup_delay());
-    F1.LT(5).ToolTipText = Trad[67];
-    set_row(6, Trad[69], CapitalText(Datos[6]));
+    set_row(4, Trad[Text::AutoRestart], restart_option());
+    F1.LT(4).ToolTipText = Trad[Text::AutoRestartHint];
+    set_row(5, Trad[Text::StartupDelay], startup_delay());
+    F1.LT(5).ToolTipText = Trad[Text::StartupDelayHint];
+    set_row(6, Trad[Text::Workgroup], CapitalText(Datos[6]));
     empty_rows(7, 12);
 }
 

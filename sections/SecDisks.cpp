@@ -20,10 +20,10 @@ void SecDisks()
                       .serials = 8,
                       .partitions = 9});
 
-    F1.Titulo.Caption = Trad[17];
+    F1.Titulo.Caption = Trad[Text::HardDrives];
     hide(F1.Line1, F1.Iaviso, F1.Laviso);
     set_volume_rows();
-    set_row(9, Trad[106], at_least(Datos[9], 1) ? Datos[9] : "");
+    set_row(9, Trad[Text::TotalPartitions], at_least(Datos[9], 1) ? Datos[9] : "");
     clear_title_tooltips(3, 5);
     empty_rows(10, 12);
 }

@@ -19,24 +19,24 @@ void SecDisplay()
     enter_section(9);
     read_display();
 
-    F1.Titulo.Caption = Trad[19];
+    F1.Titulo.Caption = Trad[Text::Display];
     hide(F1.LNoDrive, F1.Line1, F1.Iaviso, F1.Laviso);
     plain_title(1);
     plain_title(8);
-    set_row(1, Trad[109], Datos[1]);
-    set_row(2, Trad[59], Datos[2]);
-    set_row(3, Trad[110], Datos[3]);
-    F1.LT(3).ToolTipText = Trad[111];
+    set_row(1, Trad[Text::DisplayName], Datos[1]);
+    set_row(2, Trad[Text::Manufacturer], Datos[2]);
+    set_row(3, Trad[Text::CurrentConfiguration], Datos[3]);
+    F1.LT(3).ToolTipText = Trad[Text::CurrentConfigurationHint];
     set_refresh_row();
     empty_rows(5, 5);
     clear_title_tooltips(5, 5);
     place_line(F1.Line1, 5, 10);
-    set_row(6, Trad[119], Datos[6]);
-    set_row(7, Trad[120], graphics_memory());
-    set_row(8, Trad[121], Datos[7]);
-    set_row(9, Trad[122], Datos[8]);
-    set_row(10, Trad[123], Datos[9]);
-    set_row(11, Trad[124], driver_date);
+    set_row(6, Trad[Text::GraphicsCardName], Datos[6]);
+    set_row(7, Trad[Text::MemorySize], graphics_memory());
+    set_row(8, Trad[Text::MemoryType], Datos[7]);
+    set_row(9, Trad[Text::DriverName], Datos[8]);
+    set_row(10, Trad[Text::DriverVersion], Datos[9]);
+    set_row(11, Trad[Text::DriverDate], driver_date);
     empty_rows(12, 12);
 }
 

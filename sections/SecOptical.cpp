@@ -76,36 +76,38 @@ int notice_top()
 
 void show_no_disc()
 {
-    F1.Titulo.Caption = Trad[22];
-    show_notice(170, notice_top(), 180);
-    show_alert(NothingFound, Trad[148] + "\r\n" + Trad[149]);
+    F1.Titulo.Caption = Trad[Text::Discs];
+    show_notice(Text::NoDiscNotice, notice_top(), 180);
+    show_alert(NothingFound, Trad[Text::NoDisc] + "\r\n" + Trad[Text::InsertDisc]);
     F1.Line1.Visible = false;
 }
 
 /// A count in words: the text of `one` for 1, else the text of `many` with the number filled in.
-std::string counted(std::uint8_t count, std::size_t one, std::size_t many)
+std::string counted(std::uint8_t count, Text one, Text many)
 {
     return count == 1 ? Trad[one] : FillMark(Trad[many], "(#)", WholeText(count));
 }
 
 std::string count_text()
 {
-    const std::string empty = F1.EmptyDrives == 0 ? Trad[147] : counted(F1.EmptyDrives, 145, 146);
-    return counted(F1.MediaCount, 143, 144) + "\r\n" + empty;
+    const std::string empty = F1.EmptyDrives == 0
+                                  ? Trad[Text::NoDriveEmpty]
+                                  : counted(F1.EmptyDrives, Text::OneDriveEmpty, Text::DrivesEmpty);
+    return counted(F1.MediaCount, Text::OneDriveLoaded, Text::DrivesLoaded) + "\r\n" + empty;
 }
 
 void show_discs()
 {
-    F1.Titulo.Caption = Trad[22];
+    F1.Titulo.Caption = Trad[Text::Discs];
     hide(F1.LNoDrive);
     plain_title(1);
-    set_list_row(1, Trad[36], DatosCD[1], NameTail);
-    set_list_row(2, Trad[100], DatosCD[2], NameTail);
-    set_list_row(3, Trad[140], DatosCD[3], SizeTail);
-    set_list_row(4, Trad[104], DatosCD[4], NameTail);
-    set_list_row(5, Trad[141], DatosCD[5], NameTail);
-    set_list_row(6, Trad[105], DatosCD[6], NameTail);
-    set_list_row(7, Trad[74], DatosCD[7], NameTail);
+    set_list_row(1, Trad[Text::Name], DatosCD[1], NameTail);
+    set_list_row(2, Trad[Text::DriveLetter], DatosCD[2], NameTail);
+    set_list_row(3, Trad[Text::Size], DatosCD[3], SizeTail);
+    set_list_row(4, Trad[Text::InternalName], DatosCD[4], NameTail);
+    set_list_row(5, Trad[Text::DriveType], DatosCD[5], NameTail);
+    set_list_row(6, Trad[Text::FileSystem], DatosCD[6], NameTail);
+    set_list_row(7, Trad[Text::SerialNumber], DatosCD[7], NameTail);
     clear_title_tooltips(3, 5);
     show_alert(MediaFound, count_text());
     place_line(F1.Line1, 8, 4);

@@ -30,18 +30,18 @@ void SecRAM()
     ram_total = Num1;
     read_use_of_memory();
 
-    F1.Titulo.Caption = Trad[16];
+    F1.Titulo.Caption = Trad[Text::Ram];
     plain_title(1);
     plain_title(8);
-    set_row(1, Trad[61], memory_type_text(Datos[1]));
-    set_row(2, Trad[90], form_factor_text(Datos[2]));
-    set_row(3, Trad[91], total_memory());
-    set_title(4, Trad[92] + " ");
-    set_title(5, Trad[93] + " ");
+    set_row(1, Trad[Text::Type], memory_type_text(Datos[1]));
+    set_row(2, Trad[Text::ChipType], form_factor_text(Datos[2]));
+    set_row(3, Trad[Text::TotalMemory], total_memory());
+    set_title(4, Trad[Text::MemoryInUse] + " ");
+    set_title(5, Trad[Text::AvailableMemory] + " ");
     set_memory_values();
-    set_row(6, Trad[94], modules_installed());
-    set_row(7, Trad[95], memory_width());
-    set_row(8, Trad[96], favoured_use());
+    set_row(6, Trad[Text::ModulesInstalled], modules_installed());
+    set_row(7, Trad[Text::DataBusWidth], memory_width());
+    set_row(8, Trad[Text::FavouredUse], favoured_use());
     clear_title_tooltips(3, 5);
     empty_rows(9, 12);
     F1.Timer1.Enabled = true;

@@ -21,12 +21,14 @@ void count_media()
 
 void show_no_drive()
 {
-    F1.Titulo.Caption = Trad[21];
+    F1.Titulo.Caption = Trad[Text::RemovableMemory];
     if (Idioma == "Dutch")
-        show_notice(169, FontsOk == 32 ? 135 : 160, FontsOk == 32 ? 280 : 260);
+        show_notice(Text::NoRemovableDriveNotice, FontsOk == 32 ? 135 : 160,
+                    FontsOk == 32 ? 280 : 260);
     else
-        show_notice(169, FontsOk == 32 ? 170 : 190, 220);
-    show_alert(NothingFound, Trad[138] + "\r\n" + Trad[139]);
+        show_notice(Text::NoRemovableDriveNotice, FontsOk == 32 ? 170 : 190, 220);
+    show_alert(NothingFound,
+               Trad[Text::NoRemovableDrive] + "\r\n" + Trad[Text::ConnectRemovableDrive]);
     F1.Line1.Visible = false;
 }
 
@@ -36,7 +38,7 @@ void add_volume_name(const Instance& item)
         const Value& name = item["VolumeName"];
         if (name.is_null())
             return std::string(" - ");
-        return (name.text().empty() ? Trad[135] : name.text()) + " - ";
+        return (name.text().empty() ? Trad[Text::RemovableVolume] : name.text()) + " - ";
     });
 }
 
@@ -74,13 +76,13 @@ void read_volumes()
 std::string count_text()
 {
     if (F1.MediaCount == 1)
-        return "\r\n" + Trad[136];
-    return "\r\n" + FillMark(Trad[137], "(#)", WholeText(F1.MediaCount));
+        return "\r\n" + Trad[Text::OneRemovableDrive];
+    return "\r\n" + FillMark(Trad[Text::RemovableDrives], "(#)", WholeText(F1.MediaCount));
 }
 
 void show_drives()
 {
-    F1.Titulo.Caption = Trad[21];
+    F1.Titulo.Caption = Trad[Text::RemovableMemory];
     hide(F1.LNoDrive);
     set_volume_rows();
     clear_title_tooltips(3, 5);

@@ -29,7 +29,8 @@ std::string speed_text()
     if (Num1 <= 0)
         return "";
     if (Num2 > 1)
-        return ClockText(Num1) + " (" + FillMark(Trad[28], "(#)", WholeText(Num2)) + ")";
+        return ClockText(Num1) + " (" +
+               FillMark(Trad[Text::ProcessorCount], "(#)", WholeText(Num2)) + ")";
     const std::string megahertz = WholeText(Num1);
     return megahertz.size() == 3 ? megahertz + " Mhz" : ClockText(Num1);
 }
@@ -37,7 +38,7 @@ std::string speed_text()
 void show_speed()
 {
     Num1 = Num2 = 0;
-    set_title(3, Trad[27] + " ");
+    set_title(3, Trad[Text::ProcessorSpeed] + " ");
     query("Select MaxClockSpeed from Win32_Processor");
     first(WmiResult,
           [](const Instance& item) { attempt([&] { Num1 = item["MaxClockSpeed"].whole(); }); });
@@ -50,7 +51,7 @@ void show_speed()
 
 void show_memory()
 {
-    set_title(4, Trad[16] + ": ");
+    set_title(4, Trad[Text::Ram] + ": ");
     query("Select Capacity from Win32_PhysicalMemory");
     add_up_megabytes("Capacity");
     set_value(4, Num1 == 0 ? "" : SizeWhole(Num1));
@@ -61,7 +62,7 @@ void show_graphics_memory()
 {
     Num1 = 0;
     Datos[1].clear();
-    set_title(5, Trad[29] + " ");
+    set_title(5, Trad[Text::GraphicsCardMemory] + " ");
     query("Select AdapterRAM, Name from Win32_VideoController");
     first(WmiResult, [](const Instance& item) {
         attempt([&] { Num1 = Value(megabytes(item, "AdapterRAM")).whole(); });
@@ -80,7 +81,7 @@ std::string free_space_text()
 
 void show_free_space()
 {
-    set_title(6, Trad[30] + " ");
+    set_title(6, Trad[Text::TotalFreeSpace] + " ");
     query("Select Freespace from Win32_LogicalDisk where DriveType = 3");
     add_up_megabytes("Freespace");
     set_value(6, free_space_text);
@@ -89,7 +90,7 @@ void show_free_space()
 void show_system()
 {
     Datos[2].clear();
-    set_title(10, Trad[14] + ": ");
+    set_title(10, Trad[Text::OperatingSystem] + ": ");
     query("Select Caption from Win32_OperatingSystem");
     first(WmiResult,
           [](const Instance& item) { attempt([&] { Datos[2] = trimmed(item["Caption"]); }); });
@@ -99,7 +100,7 @@ void show_system()
 void show_mainboard()
 {
     Datos[1].clear();
-    set_title(12, Trad[33] + " ");
+    set_title(12, Trad[Text::Motherboard] + " ");
     attempt([] { Datos[1] = mainboard_name(); });
     set_value(12, Datos[1]);
 }
@@ -108,12 +109,12 @@ void show_mainboard()
 
 void SecSummary()
 {
-    F1.Titulo.Caption = Trad[11];
+    F1.Titulo.Caption = Trad[Text::Summary];
     if (F1.Seccion != 1)
         hide(F1.LNoDrive, F1.Iaviso, F1.Laviso, F1.Line1);
     enter_section(1);
 
-    set_heading(1, Trad[26]);
+    set_heading(1, Trad[Text::MainFeatures]);
     empty_rows(2, 2);
     show_speed();
     show_memory();
@@ -121,10 +122,10 @@ void SecSummary()
     show_free_space();
     clear_title_tooltips(3, 5);
     empty_rows(7, 7);
-    set_heading(8, Trad[31]);
+    set_heading(8, Trad[Text::OtherFeatures]);
     empty_rows(9, 9);
     show_system();
-    set_title(11, Trad[32] + ": ");
+    set_title(11, Trad[Text::GraphicsCard] + ": ");
     set_value(11, Datos[1]);
     show_mainboard();
 }

@@ -13,7 +13,7 @@ void show_notice()
     place_line(F1.Line1, 11, 7);
     F1.Iaviso.Visible = true;
     F1.Laviso.ForeColor = RGB(75, 75, 75);
-    F1.Laviso.Caption = Trad[58];
+    F1.Laviso.Caption = Trad[Text::AccountNotice];
     F1.Laviso.Visible = true;
 }
 
@@ -24,20 +24,20 @@ void SecUser()
     enter_section(2);
     read_account();
 
-    F1.Titulo.Caption = Trad[12];
+    F1.Titulo.Caption = Trad[Text::UserAccount];
     hide(F1.LNoDrive, F1.Line1);
     plain_title(1);
     plain_title(8);
-    set_row(1, Trad[36], Datos[1]);
-    set_row(2, Trad[37], CapitalText(Datos[2]));
-    set_row(3, Trad[38], account_type());
-    set_row(4, Trad[44], privilege_level());
-    set_row(5, Trad[48], yes_or_no(Datos[5]));
-    set_row(6, Trad[51], yes_or_no(Datos[6]));
-    set_row(7, Trad[52], bad_passwords());
-    set_row(8, Trad[53], logon_time());
-    set_row(9, Trad[55], usage_time);
-    set_row(10, Trad[56], logon_count());
+    set_row(1, Trad[Text::Name], Datos[1]);
+    set_row(2, Trad[Text::Domain], CapitalText(Datos[2]));
+    set_row(3, Trad[Text::AccountType], account_type());
+    set_row(4, Trad[Text::PrivilegeLevel], privilege_level());
+    set_row(5, Trad[Text::PasswordChangeable], yes_or_no(Datos[5]));
+    set_row(6, Trad[Text::PasswordExpires], yes_or_no(Datos[6]));
+    set_row(7, Trad[Text::BadPasswords], bad_passwords());
+    set_row(8, Trad[Text::LogonTime], logon_time());
+    set_row(9, Trad[Text::UsageTime], usage_time);
+    set_row(10, Trad[Text::LogonCount], logon_count());
     clear_title_tooltips(3, 5);
     empty_rows(11, 12);
     show_notice();

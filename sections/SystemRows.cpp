@@ -8,7 +8,7 @@ namespace ostrelum {
 std::string usage_time()
 {
     const std::string time = UptimeText();
-    return time.empty() ? "" : FillMark(Trad[54], "(HHMMSS)", time);
+    return time.empty() ? "" : FillMark(Trad[Text::ClockTime], "(HHMMSS)", time);
 }
 
 void set_virtual_memory_row()
@@ -16,9 +16,9 @@ void set_virtual_memory_row()
     if (Num1 <= 0)
         set_value(11, std::string());
     else if (Num2 > 0 && Num2 < Num1)
-        set_row(11, Trad[81], [] { return UsedOfTotal(Num2, Num1); });
+        set_row(11, Trad[Text::VirtualMemoryInUse], [] { return UsedOfTotal(Num2, Num1); });
     else
-        set_row(11, Trad[161], WholeText(Num1) + " MB");
+        set_row(11, Trad[Text::TotalVirtualMemory], WholeText(Num1) + " MB");
 }
 
 } // namespace ostrelum

@@ -32,7 +32,7 @@ TEST_F(AboutPanelOpen, TellsOfTheProgramInTheRunsLanguageAndOfTheDutchTranslator
         EXPECT_EQ(F1.LTra2.Left, F1.LTra1.Left + F1.LTra1.Width);
         EXPECT_EQ(F1.LTra2.Caption, row.link);
         EXPECT_EQ(Idioma, row.language);
-        EXPECT_EQ(Trad[8], row.title) << "the Dutch table was only borrowed";
+        EXPECT_EQ(Trad[Text::About], row.title) << "the Dutch table was only borrowed";
     }
 }
 

@@ -1,4 +1,5 @@
 #include "figures/StringTable.h"
+#include "frame/Language.h"
 
 #include <gtest/gtest.h>
 
@@ -11,11 +12,10 @@
 namespace ostrelum {
 namespace {
 
-using Keys = std::set<std::size_t>;
-using Table = decltype(Trad);
+using Keys = std::set<Text>;
 
 constexpr std::string_view sentinel = "left over from the language before";
-const Keys reserved = {142, 156, 157};
+const Keys reserved = {Text{142}, Text{156}, Text{157}};
 
 struct Language {
     const char* name;
@@ -24,10 +24,20 @@ struct Language {
 constexpr Language languages[] = {
     {"English", LangEnglish}, {"Spanish", LangSpanish}, {"Dutch", LangDutch}};
 
-/// The table as one language leaves it when every slot held something else before.
-Table table_of(const Language& language)
+Keys all_keys()
 {
-    Trad.fill(std::string(sentinel));
+    Keys keys;
+    for (std::size_t key = 1; key <= StringTable::last_key; ++key)
+        keys.insert(static_cast<Text>(key));
+    return keys;
+}
+
+/// The table as one language leaves it when every slot held something else before.
+StringTable table_of(const Language& language)
+{
+    Trad[Text{0}] = sentinel;
+    for (const Text key : all_keys())
+        Trad[key] = sentinel;
     language.fill();
     return Trad;
 }
@@ -55,10 +65,10 @@ bool is_printable_latin(const std::string& text)
 
 /// The keys whose rows still differ when each is seen through `view`.
 template <class View>
-Keys differing(const Table& one, const Table& other, View view)
+Keys differing(const StringTable& one, const StringTable& other, View view)
 {
     Keys keys;
-    for (std::size_t key = 1; key < one.size(); ++key)
+    for (const Text key : all_keys())
         if (view(one[key]) != view(other[key]))
             keys.insert(key);
     return keys;
@@ -67,10 +77,10 @@ Keys differing(const Table& one, const Table& other, View view)
 TEST(StringTable, EachLanguageFillsAllKeysButTheFirstAndTheReservedOnes)
 {
     for (const Language& language : languages) {
-        const Table table = table_of(language);
-        EXPECT_EQ(table[0], sentinel) << language.name;
-        for (std::size_t key = 1; key < table.size(); ++key) {
-            SCOPED_TRACE(testing::Message() << language.name << " " << key << ": " << table[key]);
+        const StringTable table = table_of(language);
+        EXPECT_EQ(table[Text{0}], sentinel) << language.name;
+        for (const Text key : all_keys()) {
+            SCOPED_TRACE(testing::Message() << language.name << ": " << table[key]);
             EXPECT_NE(table[key], sentinel);
             EXPECT_EQ(table[key].empty(), reserved.contains(key));
             EXPECT_TRUE(is_printable_latin(table[key]));
@@ -82,35 +92,40 @@ TEST(StringTable, EachLanguageFillsAllKeysButTheFirstAndTheReservedOnes)
 TEST(StringTable, TranslationsKeepMarksAndEndingsOfTheEnglishRowAndNothingElse)
 {
     // The Dutch hour takes no full stop, and its "not applicable" is an abbreviation.
-    const Keys other_ending[] = {{}, {}, {54, 132}};
-    // Names, units, words that two languages share, and 80 and 83, which never were translated.
-    const Keys shared[] = {{},
-                           {3, 40, 50, 54, 80, 142, 152, 156, 157, 163, 168, 173, 178},
-                           {13, 15, 43, 60, 61, 83, 85, 142, 156, 157, 168, 173, 178, 184, 186}};
-    const Table english = table_of(languages[0]);
+    const Keys other_ending[] = {{}, {}, {Text::ClockTime, Text::NotApplicable}};
+    // Names, units, words that two languages share, and two rows that never were translated.
+    const Keys shared[] = {
+        {},
+        {Text::Translator, Text::NormalAccount, Text::No, Text::ClockTime, Text::DateAndTime,
+         Text::SkinColour, Text::Mouse, Text::Hertz, Text::Volts, Text::BbCodeFilter},
+        {Text::Computer, Text::Processor, Text::Server, Text::Model, Text::Type, Text::Speed,
+         Text::Socket, Text::Hertz, Text::Volts, Text::BbCodeFilter, Text::Contact, Text::Website}};
+    const StringTable english = table_of(languages[0]);
     for (std::size_t i = 0; i < std::size(languages); ++i) {
-        const Table table = table_of(languages[i]);
+        const StringTable table = table_of(languages[i]);
         EXPECT_EQ(differing(english, table, marks), Keys{}) << languages[i].name;
         EXPECT_EQ(differing(english, table, ending), other_ending[i]) << languages[i].name;
-        for (std::size_t key = 1; i > 0 && key < table.size(); ++key)
-            EXPECT_EQ(table[key] == english[key], shared[i].contains(key))
-                << key << " " << table[key];
+        for (const Text key : all_keys())
+            EXPECT_EQ(table[key] == english[key],
+                      i == 0 || shared[i].contains(key) || reserved.contains(key))
+                << table[key];
     }
 }
 
 TEST(StringTable, RowsThatNoPageShowsStayAsUsersKnowThem)
 {
     const struct {
-        std::size_t key;
+        Text key;
         const char* texts[3];
     } rows[] = {
-        {83, {"Speed:", "Velocidad:", "Speed:"}},
-        {95, {"Data bus width:", "Ancho del bus de datos:", "Gegevensbussnelheid:"}},
-        {132, {"Not applicable", "Configuración no establecida", "N.v.t."}},
-        {183, {"Programmer:", "Autor:", "Ontwikkeld door:"}},
+        {Text::Speed, {"Speed:", "Velocidad:", "Speed:"}},
+        {Text::DataBusWidth,
+         {"Data bus width:", "Ancho del bus de datos:", "Gegevensbussnelheid:"}},
+        {Text::NotApplicable, {"Not applicable", "Configuración no establecida", "N.v.t."}},
+        {Text::Programmer, {"Programmer:", "Autor:", "Ontwikkeld door:"}},
     };
     for (std::size_t i = 0; i < std::size(languages); ++i) {
-        const Table table = table_of(languages[i]);
+        const StringTable table = table_of(languages[i]);
         for (const auto& row : rows)
             EXPECT_EQ(table[row.key], row.texts[i]) << languages[i].name;
     }

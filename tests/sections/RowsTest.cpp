@@ -123,13 +123,15 @@ TEST_F(Rows, TellOneValueAtATime)
 TEST_F(Rows, ChooseTheirTitlesByTheirValues)
 {
     expect(titles_and_values, shown_row);
-    EXPECT_EQ(F1.LT(3).ToolTipText, Trad[111]);
-    EXPECT_EQ(F1.LT(4).ToolTipText, Trad[118]);
-    for (const auto& [minimum, key] : {std::pair(Value(), 114), {56, 116}}) {
+    EXPECT_EQ(F1.LT(3).ToolTipText, Trad[Text::CurrentConfigurationHint]);
+    EXPECT_EQ(F1.LT(4).ToolTipText, Trad[Text::RefreshRateRangeHint]);
+    const std::tuple<Value, Value, Text> halves[] = {{Value(), 75, Text::MaximumRefreshRateHint},
+                                                     {56, Value(), Text::MinimumRefreshRateHint}};
+    for (const auto& [minimum, maximum, hint] : halves) {
         change(has["Win32_VideoController"],
-               {{"MinRefreshRate", minimum}, {"MaxRefreshRate", key == 114 ? Value(75) : Value()}});
+               {{"MinRefreshRate", minimum}, {"MaxRefreshRate", maximum}});
         open(9);
-        EXPECT_EQ(F1.LT(4).ToolTipText, Trad[static_cast<std::size_t>(key)]);
+        EXPECT_EQ(F1.LT(4).ToolTipText, Trad[hint]);
     }
 }
 

@@ -51,7 +51,7 @@ TEST_F(CustomisePanelOpen, ShowsTheSettingsOfTheRunAndTouchesNeitherSkinNorStore
     EXPECT_EQ(F1.LangList.List, (Names{"English (UK, Great Britain)", "Español (Argentina)",
                                        "Nederlands (Nederland)"}));
     EXPECT_EQ(F1.LangList.ListIndex, 2);
-    EXPECT_EQ(F1.Titulo.Caption, Trad[6]);
+    EXPECT_EQ(F1.Titulo.Caption, Trad[Text::Customize]);
     EXPECT_EQ(F1.CheckTrans.Caption, " Transparantie toestaan");
     EXPECT_EQ(F1.Scroll1.Value, 210);
     EXPECT_EQ(F1.Arrow.Left, 17 - 4 + 210);
@@ -69,7 +69,7 @@ TEST_F(CustomisePanelOpen, ShowsTheSettingsOfTheRunAndTouchesNeitherSkinNorStore
     click("BAceptar");
     EXPECT_EQ(written(), Names{}) << "nothing differs";
     EXPECT_EQ(F1.Seccion, 6);
-    EXPECT_EQ(F1.Titulo.Caption, Trad[16]);
+    EXPECT_EQ(F1.Titulo.Caption, Trad[Text::Ram]);
     EXPECT_TRUE(F1.LineInf.Visible && F1.LMenu(1).TabStop);
     EXPECT_EQ(F1.LMenu(13).ForeColor, White);
     EXPECT_EQ(F1.LOpc.ForeColor, RGB(250, 250, 250));
@@ -168,7 +168,8 @@ TEST_F(CustomisePanelOpen, AcceptWritesWhatDiffersInOrder)
     EXPECT_EQ(stored("SCV"), "210");
     EXPECT_EQ(stored("ChkTrans"), "0");
     EXPECT_EQ(F1.LMenu2.Caption, "Computer");
-    EXPECT_EQ(F1.Titulo.Caption, Trad[13]) << "the page comes up in the language chosen";
+    EXPECT_EQ(F1.Titulo.Caption, Trad[Text::Computer])
+        << "the page comes up in the language chosen";
 }
 
 TEST_F(CustomisePanelOpen, AStoreThatCannotBeWrittenChangesNothingElse)
@@ -214,8 +215,8 @@ TEST_F(CustomisePanelOpen, LocksWhatLiesAroundItUntilItCloses)
 
     choose(F1, F1.LangList, 1);
     EXPECT_EQ(F1.LMenu(2).Caption + F1.LMenu2.Caption, "UsuarioComputadora");
-    EXPECT_EQ(F1.Titulo.Caption, Trad[6]);
-    EXPECT_EQ(F1.CheckTrans.Caption, " " + Trad[155]);
+    EXPECT_EQ(F1.Titulo.Caption, Trad[Text::Customize]);
+    EXPECT_EQ(F1.CheckTrans.Caption, " " + Trad[Text::AllowTransparency]);
     EXPECT_EQ(F1.CopyAll.Caption, "Copiar todo");
     EXPECT_EQ(F1.LT(1).Caption, "") << "the page stays empty";
     bool cancel = false;
