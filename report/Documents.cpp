@@ -23,8 +23,8 @@ std::string finished_document(const DocumentFormat& format, const ReportLook& lo
                               const std::string& head, const std::string& body)
 {
     std::string document = expanded(head + body, format.expansions(look));
-    if (format.mend)
-        format.mend(document);
+    if (format.postprocess)
+        format.postprocess(document);
     return document + format.foot(look);
 }
 

@@ -29,8 +29,8 @@ using Expansions = std::array<std::string, 7>;
 struct DocumentFormat {
     std::string (*head)(const ReportLook& look);
     Expansions (*expansions)(const ReportLook& look);
-    /// A last touch between expansion and foot; nullptr for none.
-    void (*mend)(std::string& document);
+    /// What is done to the expanded document before the foot; nullptr for nothing.
+    void (*postprocess)(std::string& document);
     std::string (*foot)(const ReportLook& look);
 };
 

@@ -64,7 +64,7 @@ std::string foot(const ReportLook&)
 
 /// The head leaves the size of a heading set, so the first heading does not set it again. The gap
 /// behind the last section gives way to the foot.
-void mend(std::string& document)
+void postprocess(std::string& document)
 {
     constexpr std::string_view heading = "\\cf1\\i\\fs28 ";
     constexpr std::string_view gap = "\r\n\\pard\\sl276\\slmult1\\par\r\n\\par\r\n";
@@ -76,6 +76,6 @@ void mend(std::string& document)
 
 } // namespace
 
-const DocumentFormat rtf_format{head, expansions, mend, foot};
+const DocumentFormat rtf_format{head, expansions, postprocess, foot};
 
 } // namespace ostrelum

@@ -42,6 +42,6 @@ ROWS = (
 
 
 def reason(machine, where, peer, ours, theirs):
-    """Why the difference is none of ours to mend; nothing if it is not known."""
+    """Why the difference is none of ours to fix; nothing if it is not known."""
     rows = (row[2:] for row in ROWS if row[:2] == (where, peer))
     return next((why for why, allows in rows if allows(machine, ours, theirs)), None)
