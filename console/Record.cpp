@@ -27,7 +27,7 @@ std::vector<std::string> ask_everything(const Options& options, const Sysroot& f
     // The clock of a running machine is no file, but that of its recording is one.
     files.read("/proc/uptime");
     std::vector<std::string> accounts{machine.user()};
-    files.tell("env", "UserName=" + accounts.front(), "");
+    files.report_answer("env", "UserName=" + accounts.front(), "");
     for (const Instance& account : service->ExecQuery("Select Name from Win32_UserAccount"))
         accounts.push_back(account["Name"].text());
     return accounts;

@@ -44,8 +44,8 @@ std::unique_ptr<ManagementService> make_linux_management_service(Sysroot root,
 {
     auto calls =
         root.is_live() ? live_system_calls() : recorded_system_calls(Sysroot(root, nullptr));
-    if (root.witness())
-        calls = observed_system_calls(std::move(calls), root.witness());
+    if (root.observer())
+        calls = observed_system_calls(std::move(calls), root.observer());
     return std::make_unique<LinuxManagementService>(
         MachineView{std::move(root), std::move(calls), std::move(session)});
 }

@@ -14,7 +14,7 @@ namespace ostrelum {
 /// Failure if `root` is no folder.
 std::unique_ptr<ManagementService> make_linux_management_service(const std::string& root,
                                                                  SessionFactsSource session);
-/// The same for a root that is open; a witness to it hears what no file tells, too.
+/// The same for a root that is open; its observer is called for system calls, too.
 std::unique_ptr<ManagementService> make_linux_management_service(Sysroot root,
                                                                  SessionFactsSource session);
 

@@ -42,7 +42,7 @@ std::optional<std::string> HardwareDatabase::text(const std::string& alias, cons
     }
     if (sd_hwdb_get(database_.get(), alias.c_str(), key, &value) < 0)
         return std::nullopt;
-    root_.tell("hwdb", line + "=" + value, "");
+    root_.report_answer("hwdb", line + "=" + value, "");
     return told_text(value);
 }
 

@@ -68,9 +68,10 @@ Sysroot::Sysroot(const std::string& path, Resolver resolver)
     live_ = is_live_root(*root_);
 }
 
-Sysroot::Sysroot(const Sysroot& machine, std::shared_ptr<Witness> witness) : Sysroot(machine)
+Sysroot::Sysroot(const Sysroot& machine, std::shared_ptr<AccessObserver> observer)
+    : Sysroot(machine)
 {
-    witness_ = std::move(witness);
+    observer_ = std::move(observer);
 }
 
 std::optional<Sysroot> Sysroot::find(const std::string& path)
@@ -84,8 +85,8 @@ std::optional<Sysroot> Sysroot::find(const std::string& path)
 
 bool Sysroot::exists(const std::string& path) const
 {
-    if (witness_)
-        witness_->looked_for(path);
+    if (observer_)
+        observer_->on_exists(path);
     return static_cast<bool>(resolver_(root_->number(), path, LastLink::Follow));
 }
 
@@ -97,8 +98,8 @@ std::optional<std::string> Sysroot::read(const std::string& path, std::size_t li
     if (!file)
         file = open(path);
     auto content = *file ? read_to_end(*file, limit) : std::nullopt;
-    if (witness_)
-        witness_->read(path, content);
+    if (observer_)
+        observer_->on_read(path, content);
     return content;
 }
 
@@ -110,8 +111,8 @@ std::optional<std::string> Sysroot::read_piece(const std::string& path, std::uin
     if (!file || ::pread(file.number(), bytes.data(), size, static_cast<off_t>(at)) !=
                      static_cast<ssize_t>(size))
         return std::nullopt;
-    if (witness_)
-        witness_->read_piece(path, at, bytes);
+    if (observer_)
+        observer_->on_read_piece(path, at, bytes);
     return bytes;
 }
 
@@ -149,23 +150,24 @@ std::vector<std::string> Sysroot::list(const std::string& path) const
             names.emplace_back(name);
     }
     std::ranges::sort(names, natural_less);
-    if (witness_)
-        witness_->listed(path, names);
+    if (observer_)
+        observer_->on_list(path, names);
     return names;
 }
 
 std::optional<std::string> Sysroot::link(const std::string& path) const
 {
-    if (witness_)
-        witness_->read_link(path);
+    if (observer_)
+        observer_->on_link(path);
     const Descriptor place = resolver_(root_->number(), path, LastLink::Keep);
     return place ? link_text(place) : std::nullopt;
 }
 
-void Sysroot::tell(const std::string& list, const std::string& key, const std::string& value) const
+void Sysroot::report_answer(const std::string& list, const std::string& key,
+                            const std::string& value) const
 {
-    if (witness_)
-        witness_->told(list, key, value);
+    if (observer_)
+        observer_->on_answer(list, key, value);
 }
 
 } // namespace ostrelum

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "platform/linux/files/AccessObserver.h"
 #include "platform/linux/files/Descriptor.h"
 #include "platform/linux/files/Resolve.h"
-#include "platform/linux/files/Witness.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -26,8 +26,8 @@ public:
     /// Throws Failure if the path is no folder that can be opened.
     explicit Sysroot(const std::string& path, Resolver resolver = resolve_in_root);
 
-    /// The same machine, with a witness to whatever is asked of it from here on.
-    Sysroot(const Sysroot& machine, std::shared_ptr<Witness> witness);
+    /// The same machine; the observer is called for each access from here on.
+    Sysroot(const Sysroot& machine, std::shared_ptr<AccessObserver> observer);
 
     /// The root of that path; nothing if it is no folder.
     static std::optional<Sysroot> find(const std::string& path);
@@ -46,8 +46,8 @@ public:
     std::optional<std::string> read_piece(const std::string& path, std::uint64_t at,
                                           std::size_t size) const;
 
-    /// A regular file, open for reading, for libraries that take a file and not its bytes. A
-    /// witness does not hear of it: whoever reads the file tells what it said.
+    /// A regular file, open for reading, for libraries that take a file and not its bytes. The
+    /// observer is not called: whoever reads the file reports what it gave (report_answer).
     Descriptor open(const std::string& path) const;
 
     /// The first line of a file, or what stands before its first NUL: trimmed, valid UTF-8, not
@@ -63,9 +63,10 @@ public:
     /// The text of a symbolic link.
     std::optional<std::string> link(const std::string& path) const;
 
-    /// Tells a witness a fact that no file tells; without one nobody hears it.
-    void tell(const std::string& list, const std::string& key, const std::string& value) const;
-    const std::shared_ptr<Witness>& witness() const { return witness_; }
+    /// Passes an answer that comes from no file on to the observer, if there is one.
+    void report_answer(const std::string& list, const std::string& key,
+                       const std::string& value) const;
+    const std::shared_ptr<AccessObserver>& observer() const { return observer_; }
 
 private:
     static constexpr std::size_t default_limit = std::size_t{4} << 20;
@@ -73,7 +74,7 @@ private:
     std::shared_ptr<const Descriptor> root_;
     Resolver resolver_;
     bool live_ = false;
-    std::shared_ptr<Witness> witness_;
+    std::shared_ptr<AccessObserver> observer_;
 };
 
 } // namespace ostrelum

@@ -15,14 +15,15 @@ std::string numbers(std::initializer_list<std::int64_t> all)
 
 class ObservedSystemCalls : public SystemCalls {
 public:
-    ObservedSystemCalls(std::unique_ptr<SystemCalls> calls, std::shared_ptr<Witness> witness)
-        : calls_(std::move(calls)), witness_(std::move(witness))
+    ObservedSystemCalls(std::unique_ptr<SystemCalls> calls,
+                        std::shared_ptr<AccessObserver> observer)
+        : calls_(std::move(calls)), observer_(std::move(observer))
     {
     }
 
     std::optional<VolumeSpace> space(const std::string& path) override
     {
-        return told("statvfs", path, calls_->space(path), [](const VolumeSpace& space) {
+        return observed("statvfs", path, calls_->space(path), [](const VolumeSpace& space) {
             std::string text;
             for (const std::uint64_t each : {space.block_size, space.blocks, space.free})
                 text += std::to_string(each) + " ";
@@ -32,21 +33,21 @@ public:
 
     std::optional<std::int64_t> birth_time(const std::string& path) override
     {
-        return told("btime", path, calls_->birth_time(path), number);
+        return observed("btime", path, calls_->birth_time(path), number);
     }
 
     /// In the place that it has in `uname -a`.
     std::optional<std::string> processor_kind() override
     {
-        return told("uname", "Linux", calls_->processor_kind(),
-                    [](const std::string& kind) { return kind + " GNU/Linux"; });
+        return observed("uname", "Linux", calls_->processor_kind(),
+                        [](const std::string& kind) { return kind + " GNU/Linux"; });
     }
 
     std::optional<std::uint32_t> user_id() override
     {
         const auto id = calls_->user_id();
         if (id)
-            witness_->told("id", "uid=" + std::to_string(*id), "");
+            observer_->on_answer("id", "uid=" + std::to_string(*id), "");
         return id;
     }
 
@@ -54,13 +55,13 @@ public:
     {
         auto value = calls_->variable(name);
         if (value)
-            witness_->told("env", std::string(name) + "=" + *value, "");
+            observer_->on_answer("env", std::string(name) + "=" + *value, "");
         return value;
     }
 
     std::optional<DisplayMode> display_mode(const std::string& connector) override
     {
-        return told(
+        return observed(
             "modes", connector, calls_->display_mode(connector), [](const DisplayMode& mode) {
                 return numbers({mode.width, mode.height, mode.bits_per_pixel, mode.refresh_mHz});
             });
@@ -68,35 +69,35 @@ public:
 
     std::optional<std::uint64_t> graphics_memory(const std::string& slot) override
     {
-        return told("vram", slot, calls_->graphics_memory(slot),
-                    [](std::uint64_t bytes) { return std::to_string(bytes); });
+        return observed("vram", slot, calls_->graphics_memory(slot),
+                        [](std::uint64_t bytes) { return std::to_string(bytes); });
     }
 
     std::optional<PasswordPolicy> password_policy(std::uint64_t uid) override
     {
-        return told("password", std::to_string(uid), calls_->password_policy(uid),
-                    [](const PasswordPolicy& policy) {
-                        return numbers({policy.expires, policy.changeable});
-                    });
+        return observed("password", std::to_string(uid), calls_->password_policy(uid),
+                        [](const PasswordPolicy& policy) {
+                            return numbers({policy.expires, policy.changeable});
+                        });
     }
 
     std::optional<std::int64_t> login_time(std::uint64_t uid) override
     {
-        return told("login", std::to_string(uid), calls_->login_time(uid), number);
+        return observed("login", std::to_string(uid), calls_->login_time(uid), number);
     }
 
     std::optional<std::string> directory_account(std::uint64_t uid) override
     {
         auto line = calls_->directory_account(uid);
         if (line)
-            witness_->told("passwd", *line, "");
+            observer_->on_answer("passwd", *line, "");
         return line;
     }
 
     int utc_offset(std::int64_t moment) override
     {
         const int minutes = calls_->utc_offset(moment);
-        witness_->told("zone", std::to_string(moment), std::to_string(minutes));
+        observer_->on_answer("zone", std::to_string(moment), std::to_string(minutes));
         return minutes;
     }
 
@@ -104,24 +105,24 @@ private:
     static std::string number(std::int64_t each) { return std::to_string(each); }
 
     template <class Known, class Text>
-    std::optional<Known> told(const char* list, const std::string& key, std::optional<Known> answer,
-                              const Text& text)
+    std::optional<Known> observed(const char* list, const std::string& key,
+                                  std::optional<Known> answer, const Text& text)
     {
         if (answer)
-            witness_->told(list, key, text(*answer));
+            observer_->on_answer(list, key, text(*answer));
         return answer;
     }
 
     std::unique_ptr<SystemCalls> calls_;
-    std::shared_ptr<Witness> witness_;
+    std::shared_ptr<AccessObserver> observer_;
 };
 
 } // namespace
 
 std::unique_ptr<SystemCalls> observed_system_calls(std::unique_ptr<SystemCalls> calls,
-                                                   std::shared_ptr<Witness> witness)
+                                                   std::shared_ptr<AccessObserver> observer)
 {
-    return std::make_unique<ObservedSystemCalls>(std::move(calls), std::move(witness));
+    return std::make_unique<ObservedSystemCalls>(std::move(calls), std::move(observer));
 }
 
 } // namespace ostrelum

@@ -1,15 +1,15 @@
 #pragma once
 
+#include "platform/linux/files/AccessObserver.h"
 #include "platform/linux/files/SystemCalls.h"
-#include "platform/linux/files/Witness.h"
 
 #include <memory>
 
 namespace ostrelum {
 
-/// Passes the calls on, and each answer to a witness too, in the form that a recorded machine
+/// Passes the calls on, and each answer to an observer too, in the form that a recorded machine
 /// keeps.
 std::unique_ptr<SystemCalls> observed_system_calls(std::unique_ptr<SystemCalls> calls,
-                                                   std::shared_ptr<Witness> witness);
+                                                   std::shared_ptr<AccessObserver> observer);
 
 } // namespace ostrelum

@@ -7,8 +7,8 @@
 
 namespace ostrelum {
 
-/// What a recording holds of a place of the machine. Where several are heard of, the last one in
-/// this order counts.
+/// What a recording holds of a place of the machine. The last one in this order counts where
+/// accesses differ.
 enum class PlaceKind {
     /// There, but nobody asked for more.
     Name,
@@ -33,7 +33,7 @@ struct RecordedMachine {
     std::map<std::string, Place> places;
     /// Pieces of files too long to be taken whole, by path and first byte.
     std::map<std::pair<std::string, std::uint64_t>, std::string> pieces;
-    /// Answers of system calls: of each file in /.facts the values by key (Witness.h).
+    /// Answers of system calls: of each file in /.facts the values by key (AccessObserver.h).
     std::map<std::string, std::map<std::string, std::string>> answers;
 };
 

@@ -72,25 +72,25 @@ std::optional<std::string> Recorder::walk(const std::string& path, LastLink last
     return here;
 }
 
-void Recorder::looked_for(const std::string& path)
+void Recorder::on_exists(const std::string& path)
 {
     if (const auto place = walk(path, LastLink::Follow))
         keep(*place, PlaceKind::Name, "", path);
 }
 
-void Recorder::read(const std::string& path, const std::optional<std::string>& content)
+void Recorder::on_read(const std::string& path, const std::optional<std::string>& content)
 {
     if (const auto place = walk(path, LastLink::Follow))
         keep(*place, content ? PlaceKind::File : PlaceKind::Unreadable, content.value_or(""), path);
 }
 
-void Recorder::read_piece(const std::string& path, std::uint64_t at, const std::string& bytes)
+void Recorder::on_read_piece(const std::string& path, std::uint64_t at, const std::string& bytes)
 {
     if (const auto place = walk(path, LastLink::Follow))
         machine_.pieces.try_emplace({*place, at}, bytes);
 }
 
-void Recorder::listed(const std::string& path, const std::vector<std::string>& names)
+void Recorder::on_list(const std::string& path, const std::vector<std::string>& names)
 {
     const auto place = walk(path, LastLink::Follow);
     if (!place || names.empty())
@@ -100,12 +100,12 @@ void Recorder::listed(const std::string& path, const std::vector<std::string>& n
         keep(*place + "/" + name, PlaceKind::Name, "", path + "/" + name);
 }
 
-void Recorder::read_link(const std::string& path)
+void Recorder::on_link(const std::string& path)
 {
     walk(path, LastLink::Keep);
 }
 
-void Recorder::told(const std::string& list, const std::string& key, const std::string& value)
+void Recorder::on_answer(const std::string& list, const std::string& key, const std::string& value)
 {
     machine_.answers[list].try_emplace(key, value);
 }
