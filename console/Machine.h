@@ -15,7 +15,7 @@ namespace ostrelum {
 /// A text with the line ends of a terminal.
 std::string with_lf(std::string text);
 
-/// The management service of the machine with these files; with stand-ins for what identifies, if
+/// The management service of the machine with these files; with pseudonyms for what identifies, if
 /// the options say so.
 std::unique_ptr<ManagementService> service_of(const Options& options, const Sysroot& files);
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/masking/StandIns.h"
+#include "platform/masking/Pseudonyms.h"
 #include "sources/ManagementService.h"
 #include "sources/Schema.h"
 
@@ -9,11 +9,11 @@
 
 namespace ostrelum {
 
-/// Another management service whose answers have stand-ins for what the schema says to identify
+/// Another management service whose answers have pseudonyms for what the schema says to identify
 /// somebody. Conditions are tested on the true values. Null and empty text stay so.
 class MaskedService : public ManagementService {
 public:
-    /// `own_account` gets the first stand-in of all accounts.
+    /// `own_account` gets the first pseudonym of all accounts.
     MaskedService(std::unique_ptr<ManagementService> service, const std::string& own_account);
 
     ResultSet ExecQuery(std::string_view wql) override;
@@ -22,8 +22,8 @@ private:
     Value masked(const Value& value, Identity identity);
 
     std::unique_ptr<ManagementService> service_;
-    StandIns accounts_;
-    StandIns folders_;
+    Pseudonyms accounts_;
+    Pseudonyms folders_;
 };
 
 } // namespace ostrelum

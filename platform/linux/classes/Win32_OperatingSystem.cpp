@@ -9,7 +9,7 @@
 #include "platform/linux/os/Distribution.h"
 #include "platform/linux/os/KernelRelease.h"
 #include "platform/linux/os/Processes.h"
-#include "platform/masking/StandIns.h"
+#include "platform/masking/Pseudonyms.h"
 
 #include <algorithm>
 #include <vector>
@@ -127,7 +127,7 @@ Value registered_user(const System& system)
 Value serial_number(const System& system)
 {
     const auto id = system.root().text("/etc/machine-id");
-    if (id && is_stand_in(*id))
+    if (id && is_pseudonym(*id))
         return *id;
     return id ? value_of(installation_id(*id)) : Value();
 }

@@ -2,7 +2,7 @@
 
 #include "platform/linux/devices/BlockDevices.h"
 #include "platform/linux/devices/UdevDatabase.h"
-#include "platform/masking/StandIns.h"
+#include "platform/masking/Pseudonyms.h"
 
 #include <algorithm>
 #include <cctype>
@@ -75,7 +75,7 @@ std::optional<std::string> FileSystemFacts::serial(std::string_view mounted_as) 
     auto identity = udev("ID_FS_UUID");
     if (!identity)
         identity = link_name("/dev/disk/by-uuid");
-    if (!identity || is_stand_in(*identity))
+    if (!identity || is_pseudonym(*identity))
         return identity;
     return serial_of_identity(*identity, type(mounted_as).value_or(""));
 }

@@ -13,11 +13,11 @@ namespace {
 struct Rule {
     std::string_view beginning;
     std::string_view end;
-    std::string (*masked)(const std::string& content, Disguise& who);
+    std::string (*masked)(const std::string& content, MachinePseudonyms& given);
 };
 
 template <auto mask>
-std::string without_stand_ins(const std::string& content, Disguise&)
+std::string without_pseudonyms(const std::string& content, MachinePseudonyms&)
 {
     return mask(content);
 }
@@ -47,9 +47,9 @@ constexpr Rule rules[] = {
     {"/proc/version", "", masked_kernel},
     {"/proc/", "", unchanged},
     {"/run/udev/data/", "", masked_udev},
-    {"/sys/", "/DMI", without_stand_ins<masked_firmware_table>},
+    {"/sys/", "/DMI", without_pseudonyms<masked_firmware_table>},
     {"/sys/", "/dm/name", masked_name},
-    {"/sys/", "/edid", without_stand_ins<masked_edid>},
+    {"/sys/", "/edid", without_pseudonyms<masked_edid>},
     {"/sys/", "/product_serial", hidden_line},
     {"/sys/", "/serial_number", hidden_line},
     {"/sys/", "/wwid", masked_disk_identity},
@@ -73,25 +73,25 @@ bool names_accounts(const std::string& path)
 }
 
 /// Below /dev stand the names of volumes.
-std::string masked_path(const std::string& path, Disguise& who)
+std::string masked_path(const std::string& path, MachinePseudonyms& given)
 {
-    return path.starts_with("/dev/") ? who.names.of_path(path) : path;
+    return path.starts_with("/dev/") ? given.names.of_path(path) : path;
 }
 
 using Answers = decltype(RecordedMachine::answers);
 
-Answers masked_answers(Answers answers, Disguise& who)
+Answers masked_answers(Answers answers, MachinePseudonyms& given)
 {
     constexpr std::string_view user = "UserName=";
     Answers masked;
     for (const auto& [path, space] : answers["statvfs"])
-        masked["statvfs"].emplace(who.names.of_path(path), space);
+        masked["statvfs"].emplace(given.names.of_path(path), space);
     for (const auto& [line, rest] : answers["passwd"])
-        masked["passwd"].emplace(trimmed_space(masked_accounts(line, who)), rest);
+        masked["passwd"].emplace(trimmed_space(masked_accounts(line, given)), rest);
     for (const auto& [line, rest] : answers["env"]) {
         const bool name = line.starts_with(user);
         masked["env"].emplace(
-            name ? std::string(user) + who.accounts.of(line.substr(user.size())) : line, rest);
+            name ? std::string(user) + given.accounts.of(line.substr(user.size())) : line, rest);
     }
     // The other moments are those of logins.
     for (const auto& [path, birth] : answers["btime"]) {
@@ -109,11 +109,11 @@ Answers masked_answers(Answers answers, Disguise& who)
 RecordedMachine masked_machine(const RecordedMachine& machine,
                                const std::vector<std::string>& accounts)
 {
-    Disguise who{.shown = accounts};
+    MachinePseudonyms given{.shown = accounts};
     for (const std::string& account : accounts)
-        who.accounts.of(account);
+        given.accounts.of(account);
     RecordedMachine masked;
-    masked.answers = masked_answers(machine.answers, who);
+    masked.answers = masked_answers(machine.answers, given);
     for (const auto& [path, place] : machine.places) {
         const bool file = place.kind == PlaceKind::File;
         const Rule* rule = file ? rule_of(place) : nullptr;
@@ -121,8 +121,8 @@ RecordedMachine masked_machine(const RecordedMachine& machine,
             continue;
         Place kept = place;
         if (rule)
-            kept.content = rule->masked(place.content, who);
-        masked.places.emplace(masked_path(path, who), kept);
+            kept.content = rule->masked(place.content, given);
+        masked.places.emplace(masked_path(path, given), kept);
     }
     return masked;
 }

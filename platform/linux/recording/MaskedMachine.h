@@ -7,7 +7,7 @@
 
 namespace ostrelum {
 
-/// The recording without what identifies anybody or anything: stand-ins for names of accounts,
+/// The recording without what identifies anybody or anything: pseudonyms for names of accounts,
 /// machines, networks, folders and volumes and for serial numbers, in what the files hold and in
 /// their own names. Files in a form that is not known are left out, and so are the records of
 /// logins. `accounts` are those that are shown, the user's own first.

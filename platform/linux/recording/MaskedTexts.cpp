@@ -37,47 +37,47 @@ std::string escaped(const std::string& text)
 }
 
 /// A source that is no device often has the name of the type.
-std::string masked_source(const Mount& mount, Disguise& who)
+std::string masked_source(const Mount& mount, MachinePseudonyms& given)
 {
     const bool says_nothing = mount.source == mount.type || mount.source == "composefs";
-    return escaped(says_nothing ? mount.source : who.names.of_path(mount.source));
+    return escaped(says_nothing ? mount.source : given.names.of_path(mount.source));
 }
 
 } // namespace
 
-bool Disguise::shows(const std::string& account) const
+bool MachinePseudonyms::shows(const std::string& account) const
 {
     return std::ranges::find(shown, account) != shown.end();
 }
 
-std::string hidden_line(const std::string& content, Disguise&)
+std::string hidden_line(const std::string& content, MachinePseudonyms&)
 {
     return told_text(content) ? hidden + "\n" : content;
 }
 
-std::string masked_machine_id(const std::string& content, Disguise&)
+std::string masked_machine_id(const std::string& content, MachinePseudonyms&)
 {
     return (installation_id(content) ? hidden : "uninitialized") + "\n";
 }
 
-std::string unchanged(const std::string& content, Disguise&)
+std::string unchanged(const std::string& content, MachinePseudonyms&)
 {
     return content;
 }
 
-std::string masked_accounts(const std::string& content, Disguise& who)
+std::string masked_accounts(const std::string& content, MachinePseudonyms& given)
 {
     std::string masked;
     for (const Account& account : parse_passwd(content)) {
-        if (who.shows(account.name))
-            masked += who.accounts.of(account.name) + ":x:" + std::to_string(account.uid) + ":" +
+        if (given.shows(account.name))
+            masked += given.accounts.of(account.name) + ":x:" + std::to_string(account.uid) + ":" +
                       std::to_string(account.gid) + ":" +
                       (account.full_name.empty() ? "" : hidden) + "::\n";
     }
     return masked;
 }
 
-std::string masked_groups(const std::string& content, Disguise& who)
+std::string masked_groups(const std::string& content, MachinePseudonyms& given)
 {
     constexpr std::array<std::string_view, 3> administrators{"admin:", "sudo:", "wheel:"};
     const std::string kept = lines_with(content, administrators);
@@ -87,61 +87,61 @@ std::string masked_groups(const std::string& content, Disguise& who)
         for (const char c : std::string(line) + "\n") {
             const bool ends = c == ':' || c == ',' || c == '\n';
             if (ends)
-                masked += (who.shows(word) ? who.accounts.of(word) : word) + c;
+                masked += (given.shows(word) ? given.accounts.of(word) : word) + c;
             word = ends ? "" : word + c;
         }
     }
     return masked;
 }
 
-std::string masked_realm(const std::string& content, Disguise&)
+std::string masked_realm(const std::string& content, MachinePseudonyms&)
 {
     const auto realm = value_in_section(content, "libdefaults", "default_realm");
     return realm ? "[libdefaults]\ndefault_realm = " + hidden + "\n" : "";
 }
 
-std::string masked_workgroup(const std::string& content, Disguise&)
+std::string masked_workgroup(const std::string& content, MachinePseudonyms&)
 {
     const auto group = value_in_section(content, "global", "workgroup");
     return group ? "[global]\nworkgroup = " + hidden + "\n" : "";
 }
 
-std::string masked_domain(const std::string& content, Disguise& who)
+std::string masked_domain(const std::string& content, MachinePseudonyms& given)
 {
-    return trimmed_space(content) == "(none)" ? content : hidden_line(content, who);
+    return trimmed_space(content) == "(none)" ? content : hidden_line(content, given);
 }
 
-std::string masked_boot_menu(const std::string& content, Disguise&)
+std::string masked_boot_menu(const std::string& content, MachinePseudonyms&)
 {
     const auto seconds = assigned(content, "GRUB_TIMEOUT");
     return seconds ? "GRUB_TIMEOUT=" + *seconds + "\n" : "";
 }
 
-std::string masked_mounts(const std::string& content, Disguise& who)
+std::string masked_mounts(const std::string& content, MachinePseudonyms& given)
 {
     std::string masked;
     for (const Mount& mount : parse_mounts(content)) {
-        const std::string target = escaped(who.names.of_path(mount.target));
-        const std::string source = masked_source(mount, who);
+        const std::string target = escaped(given.names.of_path(mount.target));
+        const std::string source = masked_source(mount, given);
         if (mount.id == 0)
             masked += source + " " + target + " " + mount.type + " rw 0 0\n";
         else
             masked += std::to_string(mount.id) + " " + std::to_string(mount.parent) + " " +
                       (mount.device.empty() ? "0:0" : mount.device) + " " +
-                      escaped(who.names.of_path(mount.root)) + " " + target + " rw - " +
+                      escaped(given.names.of_path(mount.root)) + " " + target + " rw - " +
                       mount.type + " " + source + " rw\n";
     }
     return masked;
 }
 
-std::string masked_process(const std::string& content, Disguise&)
+std::string masked_process(const std::string& content, MachinePseudonyms&)
 {
     const auto end = content.rfind(')');
     return end == content.npos ? "" : "0 (" + hidden + content.substr(end);
 }
 
 /// Small boards have a line with their serial number, mainframes one with the processor's.
-std::string masked_cpuinfo(const std::string& content, Disguise&)
+std::string masked_cpuinfo(const std::string& content, MachinePseudonyms&)
 {
     std::string masked;
     for (const std::string_view line : lines_of(content)) {
@@ -152,19 +152,19 @@ std::string masked_cpuinfo(const std::string& content, Disguise&)
 }
 
 /// In front of the build's number stand who built it and where.
-std::string masked_kernel(const std::string& content, Disguise&)
+std::string masked_kernel(const std::string& content, MachinePseudonyms&)
 {
     const auto build = content.find(" #");
     return build == content.npos ? "" : hidden + content.substr(build);
 }
 
-std::string only_model(const std::string& content, Disguise&)
+std::string only_model(const std::string& content, MachinePseudonyms&)
 {
     constexpr std::array<std::string_view, 3> labels{"Manufacturer:", "Model:", "Model "};
     return lines_with(content, labels);
 }
 
-std::string masked_udev(const std::string& content, Disguise&)
+std::string masked_udev(const std::string& content, MachinePseudonyms&)
 {
     constexpr std::array<std::string_view, 9> keys{
         "E:ID_CDROM", "E:ID_FS_TYPE=", "E:ID_FS_VERSION=", "E:ID_INPUT",      "E:ID_MODEL",
@@ -183,19 +183,20 @@ std::string masked_udev(const std::string& content, Disguise&)
     return masked;
 }
 
-std::string masked_name(const std::string& content, Disguise& who)
+std::string masked_name(const std::string& content, MachinePseudonyms& given)
 {
-    return who.names.of(std::string(trimmed_space(content))) + "\n";
+    return given.names.of(std::string(trimmed_space(content))) + "\n";
 }
 
-std::string masked_disk_identity(const std::string& content, Disguise& who)
+std::string masked_disk_identity(const std::string& content, MachinePseudonyms& given)
 {
     constexpr std::string_view kind = "t10.ATA";
     constexpr std::size_t model_width = 40;
     const auto model = content.find_first_not_of(" \t", kind.size());
     const bool tells_model =
         content.starts_with(kind) && model != content.npos && content.size() > model + model_width;
-    return (tells_model ? content.substr(0, model + model_width) : "") + masked_name(content, who);
+    return (tells_model ? content.substr(0, model + model_width) : "") +
+           masked_name(content, given);
 }
 
 } // namespace ostrelum

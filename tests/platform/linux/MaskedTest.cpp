@@ -12,13 +12,13 @@ namespace {
 
 using namespace std::string_literals;
 
-/// Forms that no recorded machine has. One machine: the same name has the same stand-in everywhere.
-TEST(Masked, LeavesOfEachTextWhatTellsNobody)
+/// Forms that no recorded machine has. The same name has the same pseudonym in all files.
+TEST(Masked, LeavesOfEachTextWhatIdentifiesNobody)
 {
-    Disguise who{.shown = {"alma"}};
+    MachinePseudonyms given{.shown = {"alma"}};
     const std::string model = "t10.ATA     SSD 860 EVO 500GB" + std::string(23, ' ');
     const struct {
-        std::string (*masked)(const std::string&, Disguise&);
+        std::string (*masked)(const std::string&, MachinePseudonyms&);
         std::string before, after;
     } cases[] = {
         {masked_disk_identity, model + "S3Z1NB0K1\n", model + "(hidden)\n"},
@@ -56,7 +56,7 @@ TEST(Masked, LeavesOfEachTextWhatTellsNobody)
          "E:ID_MODEL=SSD\nE:ID_FS_UUID=(hidden)\n"},
     };
     for (const auto& each : cases)
-        EXPECT_EQ(each.masked(each.before, who), each.after);
+        EXPECT_EQ(each.masked(each.before, given), each.after);
 }
 
 TEST(Masked, BlotsOutSerialNumbersInTheFirmwareTable)

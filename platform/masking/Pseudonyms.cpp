@@ -1,4 +1,4 @@
-#include "platform/masking/StandIns.h"
+#include "platform/masking/Pseudonyms.h"
 
 #include <algorithm>
 #include <array>
@@ -26,20 +26,20 @@ bool is_kernel_device(std::string_view path)
 
 } // namespace
 
-bool is_stand_in(std::string_view text)
+bool is_pseudonym(std::string_view text)
 {
     return text.starts_with(beginning) && text.ends_with(')');
 }
 
-std::string StandIns::of(const std::string& name)
+std::string Pseudonyms::of(const std::string& name)
 {
-    if (name.empty() || is_stand_in(name))
+    if (name.empty() || is_pseudonym(name))
         return name;
     const std::string number = given_.empty() ? "" : " " + std::to_string(given_.size() + 1);
     return given_.try_emplace(name, std::string(beginning) + number + ")").first->second;
 }
 
-std::string StandIns::of_path(std::string_view path)
+std::string Pseudonyms::of_path(std::string_view path)
 {
     if (is_kernel_device(path))
         return std::string(path);

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <string_view>
+
+namespace ostrelum {
+
+/// What stands where something that identifies was.
+inline constexpr std::string_view Hidden = "(hidden)";
+
+/// Whether a text is one of the pseudonyms below, as recordings have them in place of an identity.
+bool is_pseudonym(std::string_view text);
+
+/// Pseudonyms for names that must still be told from each other: "(hidden)" for the first one, then
+/// "(hidden 2)" and so on; the same for the same name. A pseudonym stays what it is.
+class Pseudonyms {
+public:
+    std::string of(const std::string& name);
+
+    /// The path with pseudonyms for the folders that are not the same on all systems. A device
+    /// right under /dev is the kernel's and stays.
+    std::string of_path(std::string_view path);
+
+private:
+    std::map<std::string, std::string> given_;
+};
+
+} // namespace ostrelum
