@@ -1,7 +1,7 @@
 #include "platform/wql/Wql.h"
 
 #include "platform/system/Failure.h"
-#include "platform/wql/WqlWords.h"
+#include "platform/wql/WqlLexer.h"
 #include "sources/Ascii.h"
 
 #include <algorithm>
@@ -10,14 +10,14 @@
 namespace ostrelum {
 namespace {
 
-/// What a comparison is called, and what it becomes when its sides change places.
-struct ComparisonSign {
+/// How a comparison is written, and what it becomes when its sides change places.
+struct ComparisonOperator {
     std::string_view text;
     Comparison comparison;
     Comparison mirrored;
 };
 
-constexpr ComparisonSign comparison_signs[] = {
+constexpr ComparisonOperator comparison_operators[] = {
     {"=", Comparison::Equal, Comparison::Equal},
     {"<>", Comparison::NotEqual, Comparison::NotEqual},
     {"!=", Comparison::NotEqual, Comparison::NotEqual},
@@ -37,23 +37,23 @@ bool is_reserved(std::string_view name)
 
 class Parser {
 public:
-    explicit Parser(std::string_view text) : words_(text) {}
+    explicit Parser(std::string_view text) : lexer_(text) {}
 
     WqlQuery query()
     {
         WqlQuery result;
         need_keyword("select");
-        if (!words_.take_sign("*")) {
+        if (!lexer_.take_symbol("*")) {
             do
                 result.properties.push_back(name());
-            while (words_.take_sign(","));
+            while (lexer_.take_symbol(","));
         }
         need_keyword("from");
         result.class_name = name();
-        if (words_.take_keyword("where"))
+        if (lexer_.take_keyword("where"))
             result.condition = either(wql_depth);
-        if (words_.next().kind != WqlWord::Kind::End)
-            refuse_word(words_.next());
+        if (lexer_.next().kind != WqlToken::Kind::End)
+            refuse_token(lexer_.next());
         return result;
     }
 
@@ -64,7 +64,7 @@ private:
         std::vector<Condition> parts;
         do
             parts.push_back(all(depth));
-        while (words_.take_keyword("or"));
+        while (lexer_.take_keyword("or"));
         return joined(Condition::Kind::Or, std::move(parts));
     }
 
@@ -73,7 +73,7 @@ private:
         std::vector<Condition> parts;
         do
             parts.push_back(test(depth));
-        while (words_.take_keyword("and"));
+        while (lexer_.take_keyword("and"));
         return joined(Condition::Kind::And, std::move(parts));
     }
 
@@ -81,16 +81,16 @@ private:
     {
         if (depth == 0)
             throw Failure("the query is nested too deep");
-        if (words_.take_keyword("not")) {
+        if (lexer_.take_keyword("not")) {
             Condition denied{.kind = Condition::Kind::Not};
             denied.parts.push_back(test(depth - 1));
             return denied;
         }
-        if (!words_.take_sign("("))
+        if (!lexer_.take_symbol("("))
             return comparison();
         Condition inner = either(depth - 1);
-        if (!words_.take_sign(")"))
-            refuse_word(words_.next());
+        if (!lexer_.take_symbol(")"))
+            refuse_token(lexer_.next());
         return inner;
     }
 
@@ -100,60 +100,60 @@ private:
         Condition result;
         if (const auto first = literal()) {
             result.literal = *first;
-            result.comparison = sign().mirrored;
+            result.comparison = comparison_operator().mirrored;
             result.property = name();
             return result;
         }
         result.property = name();
-        if (words_.take_keyword("is")) {
+        if (lexer_.take_keyword("is")) {
             result.comparison =
-                words_.take_keyword("not") ? Comparison::NotEqual : Comparison::Equal;
+                lexer_.take_keyword("not") ? Comparison::NotEqual : Comparison::Equal;
             need_keyword("null");
             return result;
         }
-        result.comparison = sign().comparison;
+        result.comparison = comparison_operator().comparison;
         const auto second = literal();
         if (!second)
-            refuse_word(words_.next());
+            refuse_token(lexer_.next());
         result.literal = *second;
         return result;
     }
 
     std::optional<Value> literal()
     {
-        if (words_.next().kind == WqlWord::Kind::Literal)
-            return words_.take().value;
-        if (words_.take_keyword("true"))
+        if (lexer_.next().kind == WqlToken::Kind::Literal)
+            return lexer_.take().value;
+        if (lexer_.take_keyword("true"))
             return true;
-        if (words_.take_keyword("false"))
+        if (lexer_.take_keyword("false"))
             return false;
-        if (words_.take_keyword("null"))
+        if (lexer_.take_keyword("null"))
             return Value();
         return std::nullopt;
     }
 
-    const ComparisonSign& sign()
+    const ComparisonOperator& comparison_operator()
     {
-        const WqlWord word = words_.take();
-        for (const ComparisonSign& each : comparison_signs) {
-            if (word.kind == WqlWord::Kind::Sign && word.text == each.text)
+        const WqlToken token = lexer_.take();
+        for (const ComparisonOperator& each : comparison_operators) {
+            if (token.kind == WqlToken::Kind::Symbol && token.text == each.text)
                 return each;
         }
-        refuse_word(word);
+        refuse_token(token);
     }
 
     std::string name()
     {
-        const WqlWord word = words_.take();
-        if (word.kind != WqlWord::Kind::Name || is_reserved(word.text))
-            refuse_word(word);
-        return std::string(word.text);
+        const WqlToken token = lexer_.take();
+        if (token.kind != WqlToken::Kind::Name || is_reserved(token.text))
+            refuse_token(token);
+        return std::string(token.text);
     }
 
     void need_keyword(std::string_view keyword)
     {
-        if (!words_.take_keyword(keyword))
-            refuse_word(words_.next());
+        if (!lexer_.take_keyword(keyword))
+            refuse_token(lexer_.next());
     }
 
     static Condition joined(Condition::Kind kind, std::vector<Condition> parts)
@@ -163,7 +163,7 @@ private:
         return {.kind = kind, .parts = std::move(parts)};
     }
 
-    WqlWords words_;
+    WqlLexer lexer_;
 };
 
 } // namespace

@@ -19,8 +19,8 @@ Condition typed_condition(Condition condition, const ClassSchema& schema);
 using PropertyByName = std::function<Value(std::string_view name)>;
 
 /// Whether an object fulfils a typed condition. A null compares with nothing: neither the
-/// comparison nor its opposite holds, and nothing is told where that decides. Text compares without
-/// regard to ASCII case. Properties behind the deciding part are not asked for.
+/// comparison nor its opposite holds, and the result is nothing where that decides. Text compares
+/// without regard to ASCII case. Properties behind the deciding part are not asked for.
 std::optional<bool> truth_of(const Condition& condition, const PropertyByName& property);
 
 } // namespace ostrelum

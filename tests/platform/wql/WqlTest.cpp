@@ -18,9 +18,9 @@ std::string shown(const Value& literal)
 /// The condition with all its parentheses.
 std::string shown(const Condition& condition)
 {
-    constexpr const char* signs[] = {"=", "<>", "<", "<=", ">", ">="};
+    constexpr const char* operators[] = {"=", "<>", "<", "<=", ">", ">="};
     if (condition.kind == Condition::Kind::Compare)
-        return condition.property + signs[static_cast<int>(condition.comparison)] +
+        return condition.property + operators[static_cast<int>(condition.comparison)] +
                shown(condition.literal);
     if (condition.kind == Condition::Kind::Not)
         return "!" + shown(condition.parts.at(0));

@@ -1,4 +1,4 @@
-#include "platform/wql/WqlWords.h"
+#include "platform/wql/WqlLexer.h"
 
 #include "platform/system/Failure.h"
 #include "sources/Ascii.h"
@@ -10,7 +10,7 @@ namespace ostrelum {
 namespace {
 
 /// Longer ones first.
-constexpr std::string_view signs[] = {"<=", ">=", "<>", "!=", "=", "<", ">", "(", ")", ",", "*"};
+constexpr std::string_view symbols[] = {"<=", ">=", "<>", "!=", "=", "<", ">", "(", ")", ",", "*"};
 
 constexpr std::string_view space = " \t\r\n";
 
@@ -33,7 +33,7 @@ bool starts_number(std::string_view text)
 
 [[noreturn]] void refuse(std::string_view reason, std::string_view text)
 {
-    // As much as tells the place.
+    // Enough to find the place.
     constexpr std::size_t shown = 40;
     throw Failure("the query is no WQL: " + std::string(reason) +
                   std::string(text.substr(0, shown)));
@@ -41,32 +41,33 @@ bool starts_number(std::string_view text)
 
 } // namespace
 
-WqlWords::WqlWords(std::string_view text) : rest_(text), next_(read()) {}
+WqlLexer::WqlLexer(std::string_view text) : rest_(text), next_(read()) {}
 
-WqlWord WqlWords::take()
+WqlToken WqlLexer::take()
 {
-    WqlWord taken = std::move(next_);
+    WqlToken taken = std::move(next_);
     next_ = read();
     return taken;
 }
 
-bool WqlWords::take_keyword(std::string_view keyword)
+bool WqlLexer::take_keyword(std::string_view keyword)
 {
-    const bool is_it = next_.kind == WqlWord::Kind::Name && same_ascii_letters(next_.text, keyword);
+    const bool is_it =
+        next_.kind == WqlToken::Kind::Name && same_ascii_letters(next_.text, keyword);
     if (is_it)
         next_ = read();
     return is_it;
 }
 
-bool WqlWords::take_sign(std::string_view sign)
+bool WqlLexer::take_symbol(std::string_view symbol)
 {
-    const bool is_it = next_.kind == WqlWord::Kind::Sign && next_.text == sign;
+    const bool is_it = next_.kind == WqlToken::Kind::Symbol && next_.text == symbol;
     if (is_it)
         next_ = read();
     return is_it;
 }
 
-WqlWord WqlWords::read()
+WqlToken WqlLexer::read()
 {
     rest_.remove_prefix(std::min(rest_.find_first_not_of(space), rest_.size()));
     if (rest_.empty())
@@ -75,23 +76,23 @@ WqlWord WqlWords::read()
         return read_text();
     if (starts_number(rest_))
         return read_number();
-    for (const std::string_view sign : signs) {
-        if (rest_.starts_with(sign))
-            return {WqlWord::Kind::Sign, cut(sign.size()), {}};
+    for (const std::string_view symbol : symbols) {
+        if (rest_.starts_with(symbol))
+            return {WqlToken::Kind::Symbol, cut(symbol.size()), {}};
     }
     const auto end = std::ranges::find_if_not(rest_, is_name);
     if (end == rest_.begin())
         refuse("unexpected character at ", rest_);
-    return {WqlWord::Kind::Name, cut(static_cast<std::size_t>(end - rest_.begin())), {}};
+    return {WqlToken::Kind::Name, cut(static_cast<std::size_t>(end - rest_.begin())), {}};
 }
 
 /// A backslash gives the next character its plain meaning.
-WqlWord WqlWords::read_text()
+WqlToken WqlLexer::read_text()
 {
     std::string value;
     for (std::size_t at = 1; at < rest_.size(); ++at) {
         if (rest_[at] == rest_.front())
-            return {WqlWord::Kind::Literal, cut(at + 1), std::move(value)};
+            return {WqlToken::Kind::Literal, cut(at + 1), std::move(value)};
         if (rest_[at] == '\\' && at + 1 < rest_.size())
             ++at;
         value += rest_[at];
@@ -99,7 +100,7 @@ WqlWord WqlWords::read_text()
     refuse("no closing quote for ", rest_);
 }
 
-WqlWord WqlWords::read_number()
+WqlToken WqlLexer::read_number()
 {
     const char* const start = rest_.data() + (rest_.front() == '+' ? 1 : 0);
     const char* const limit = rest_.data() + rest_.size();
@@ -111,21 +112,21 @@ WqlWord WqlWords::read_number()
     const auto read_whole = std::from_chars(start, read.ptr, whole);
     const bool is_whole = read_whole.ec == std::errc() && read_whole.ptr == read.ptr;
     const auto length = static_cast<std::size_t>(read.ptr - rest_.data());
-    return {WqlWord::Kind::Literal, cut(length), is_whole ? Value(whole) : Value(real)};
+    return {WqlToken::Kind::Literal, cut(length), is_whole ? Value(whole) : Value(real)};
 }
 
-std::string_view WqlWords::cut(std::size_t length)
+std::string_view WqlLexer::cut(std::size_t length)
 {
     const std::string_view text = rest_.substr(0, length);
     rest_.remove_prefix(length);
     return text;
 }
 
-void refuse_word(const WqlWord& word)
+void refuse_token(const WqlToken& token)
 {
-    if (word.kind == WqlWord::Kind::End)
+    if (token.kind == WqlToken::Kind::End)
         refuse("it ends too early", "");
-    refuse("unexpected ", word.text);
+    refuse("unexpected ", token.text);
 }
 
 } // namespace ostrelum
