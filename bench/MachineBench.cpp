@@ -9,6 +9,9 @@
 /// The pages on a real management service: this machine's, or that of the recorded machine whose
 /// folder the variable OSTRELUM_BENCH_ROOT names.
 namespace ostrelum {
+
+using namespace console;
+
 namespace {
 
 Options machine_options()

@@ -8,7 +8,7 @@
 #include "frame/Navigation.h"
 
 /// What the program says about itself, and the two links into the user's browser.
-namespace ostrelum {
+namespace ostrelum::inline commands {
 namespace {
 
 constexpr Colour PlainText = RGB(32, 32, 32);
@@ -108,4 +108,4 @@ constexpr Handler rows[] = {
 
 const HandlerTable about_panel_handlers{rows};
 
-} // namespace ostrelum
+} // namespace ostrelum::inline commands

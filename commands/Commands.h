@@ -3,7 +3,7 @@
 #include "platform/toolkit/Events.h"
 
 /// What the small commands offer to the rest of the program.
-namespace ostrelum {
+namespace ostrelum::inline commands {
 
 /// Copy and Copy all of the page's right-click menu.
 extern const HandlerTable copy_handlers;
@@ -11,4 +11,4 @@ extern const HandlerTable copy_handlers;
 /// The about panel, and the program's page in the browser.
 extern const HandlerTable about_panel_handlers;
 
-} // namespace ostrelum
+} // namespace ostrelum::inline commands

@@ -7,7 +7,7 @@
 #include <string>
 
 /// Copying reads the labels as they stand on the page, so the clipboard gets what the user sees.
-namespace ostrelum {
+namespace ostrelum::inline commands {
 namespace {
 
 const std::string CRLF = "\r\n";
@@ -80,4 +80,4 @@ constexpr Handler rows[] = {OSTRELUM_ON(Copy_Click), OSTRELUM_ON(CopyAll_Click)}
 
 const HandlerTable copy_handlers{rows};
 
-} // namespace ostrelum
+} // namespace ostrelum::inline commands

@@ -2,7 +2,7 @@
 
 #include <nlohmann/json.hpp>
 
-namespace ostrelum {
+namespace ostrelum::console {
 namespace {
 
 using Json = nlohmann::ordered_json;
@@ -34,4 +34,4 @@ std::string as_json(const ResultSet& objects)
     return array.dump(2, ' ', false, Json::error_handler_t::replace);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::console

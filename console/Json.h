@@ -4,10 +4,10 @@
 
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::console {
 
 /// The objects as a JSON array in UTF-8: null, booleans and numbers as such, all other values as
 /// strings; keys in the objects' own order.
 std::string as_json(const ResultSet& objects);
 
-} // namespace ostrelum
+} // namespace ostrelum::console

@@ -12,7 +12,7 @@
 #include "platform/masking/MaskedService.h"
 #include "report/Report.h"
 
-namespace ostrelum {
+namespace ostrelum::console {
 namespace {
 
 constexpr const char* UserName = "UserName";
@@ -119,4 +119,4 @@ void ConsoleMachine::save(const std::string& path, const std::string& document)
     platform.file_writer->replace(path, ansi_file(document));
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::console

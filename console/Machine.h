@@ -10,7 +10,10 @@
 #include <string>
 #include <string_view>
 
-namespace ostrelum {
+namespace ostrelum::console {
+
+using namespace linux_platform;
+using namespace memory_platform;
 
 /// A text with the line ends of a terminal.
 std::string with_lf(std::string text);
@@ -57,4 +60,4 @@ private:
     LinuxSystem system_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::console

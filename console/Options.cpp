@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-namespace ostrelum {
+namespace ostrelum::console {
 namespace {
 
 bool is_language(const std::string& name)
@@ -65,4 +65,4 @@ std::optional<Options> read_options(const std::vector<std::string>& arguments)
     return options;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::console

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::console {
 
 /// What the console's command line asks for.
 struct Options {
@@ -26,4 +26,4 @@ extern const char* const usage;
 /// Reads the options that stand before the command; nothing if they are wrong.
 std::optional<Options> read_options(const std::vector<std::string>& arguments);
 
-} // namespace ostrelum
+} // namespace ostrelum::console

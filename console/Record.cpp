@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::console {
 namespace {
 
 /// All that the program can ask: the pages and the report as they do, and of each class also the
@@ -48,4 +48,4 @@ void record_machine(const Options& options, const std::string& folder)
     write_machine(options.mask ? masked_machine(machine, accounts) : machine, folder);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::console

@@ -10,6 +10,7 @@
 #include <iostream>
 
 using namespace ostrelum;
+using namespace ostrelum::console;
 
 namespace {
 

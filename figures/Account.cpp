@@ -6,7 +6,7 @@
 #include "figures/Slots.h"
 #include "sources/CodeTable.h"
 
-namespace ostrelum {
+namespace ostrelum::inline figures {
 namespace {
 
 /// A code and the key of its text.
@@ -112,4 +112,4 @@ std::string logon_count()
     return at_least(Datos[9], 1) ? FillMark(Trad[Text::Times], "(#)", Datos[9]) : "";
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

@@ -3,7 +3,7 @@
 #include <string>
 
 /// The account under which the program runs. An empty text is unknown.
-namespace ostrelum {
+namespace ostrelum::inline figures {
 
 /// Finds the account by its name, upper and lower case counting. Datos 1 is the name, 2 the domain,
 /// 3 and 4 the codes of the account's type and of its rights, 5 and 6 whether the password may be
@@ -24,4 +24,4 @@ std::string logon_time();
 /// Datos 9, from 1 on.
 std::string logon_count();
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

@@ -4,7 +4,7 @@
 
 #include <memory>
 
-namespace ostrelum {
+namespace ostrelum::inline figures {
 
 /// An object of the platform that may not have been had: any use of it then fails like a failed
 /// operation.
@@ -25,4 +25,4 @@ private:
     std::unique_ptr<Object> object_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

@@ -4,7 +4,7 @@
 #include "figures/Slots.h"
 #include "sources/Texts.h"
 
-namespace ostrelum {
+namespace ostrelum::inline figures {
 
 void read_computer()
 {
@@ -33,4 +33,4 @@ std::string startup_delay()
     return Datos[5].empty() ? "" : FillMark(Trad[Text::Seconds], "(#)", Datos[5]);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

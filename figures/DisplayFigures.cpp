@@ -4,7 +4,7 @@
 #include "figures/PassOver.h"
 #include "figures/Slots.h"
 
-namespace ostrelum {
+namespace ostrelum::inline figures {
 namespace {
 
 /// A property that tells something: neither 0 nor empty. One that is null fails to be tested, and
@@ -104,4 +104,4 @@ std::string driver_date()
     return Datos[10].empty() ? "" : WmiDateText(Datos[10]);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

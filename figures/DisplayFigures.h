@@ -5,7 +5,7 @@
 #include <string>
 
 /// The monitor, the graphics card and the mode they run in. An empty text is unknown.
-namespace ostrelum {
+namespace ostrelum::inline figures {
 
 /// Asks for both and takes in the first of each. Datos 1 and 2 are the monitor's name and maker, 3
 /// the mode, 4 and 5 the least and the greatest refresh rate; 6 to 10 the card's name, kind of
@@ -28,4 +28,4 @@ std::string graphics_memory();
 /// Datos 10 as a date. Throws Failure where it holds none.
 std::string driver_date();
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

@@ -15,7 +15,15 @@
 #include <string_view>
 
 /// The value rules with the user's own regional forms and the machine's clock and registry.
-namespace ostrelum {
+namespace ostrelum::inline figures {
+
+using sources::ClockText;
+using sources::ProductKeyText;
+using sources::RealText;
+using sources::SizeByDigits;
+using sources::UptimeText;
+using sources::WmiDateText;
+using sources::WmiTimeText;
 
 inline std::string RealText(double number)
 {
@@ -53,4 +61,4 @@ inline std::string ProductKeyText()
     return ProductKeyText(*platform.registry);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

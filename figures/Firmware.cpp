@@ -4,7 +4,7 @@
 #include "figures/PassOver.h"
 #include "figures/Slots.h"
 
-namespace ostrelum {
+namespace ostrelum::inline figures {
 
 void read_firmware()
 {
@@ -25,4 +25,4 @@ std::string release_date()
     return Datos[4].empty() ? "" : WmiDateText(Datos[4]);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

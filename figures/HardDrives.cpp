@@ -7,7 +7,7 @@
 
 #include <array>
 
-namespace ostrelum {
+namespace ostrelum::inline figures {
 namespace {
 
 std::string& slot(int index)
@@ -77,4 +77,4 @@ void read_hard_drives(const DriveSlots& slots)
     each(WmiResult, [&](const Instance& item) { add_drive(slots, item); });
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

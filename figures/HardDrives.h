@@ -1,6 +1,6 @@
 #pragma once
 
-namespace ostrelum {
+namespace ostrelum::inline figures {
 
 /// The slot of Datos in which each list about the hard drives grows; 0 for a list that is not made.
 struct DriveSlots {
@@ -12,4 +12,4 @@ struct DriveSlots {
 /// left with the size and the free space of the last volume, in KB.
 void read_hard_drives(const DriveSlots& slots);
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

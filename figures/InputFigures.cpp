@@ -8,7 +8,7 @@
 
 #include <optional>
 
-namespace ostrelum {
+namespace ostrelum::inline figures {
 namespace {
 
 /// The key of a text, or a text that is the same in all languages.
@@ -79,4 +79,4 @@ std::string handedness()
     return word_of(hands, Datos[7]);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

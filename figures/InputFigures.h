@@ -3,7 +3,7 @@
 #include <string>
 
 /// The keyboard and the pointing device. An empty text is unknown.
-namespace ostrelum {
+namespace ostrelum::inline figures {
 
 /// Asks for both and takes in the first of each: Datos 1 and 2 are the keyboard's name and kind, 3
 /// and 4 the pointing device's name and maker, 5 the number of mouse buttons, 6 and 7 the codes of
@@ -17,4 +17,4 @@ std::string pointer_interface();
 /// What the code in Datos 7 stands for.
 std::string handedness();
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

@@ -5,7 +5,7 @@
 #include "figures/PassOver.h"
 #include "figures/Slots.h"
 
-namespace ostrelum {
+namespace ostrelum::inline figures {
 namespace {
 
 void add_module(const Instance& item)
@@ -52,4 +52,4 @@ std::string favoured_use()
     return Datos[5] == "1" ? Trad[Text::SystemCache] : "";
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

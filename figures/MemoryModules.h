@@ -3,7 +3,7 @@
 #include <string>
 
 /// The memory modules of the machine, and what the rows about them say. An empty text is unknown.
-namespace ostrelum {
+namespace ostrelum::inline figures {
 
 /// Asks for the modules and takes all of them in: Datos 1 their type, 2 their form factor and 4
 /// their width in bits, each of the last module that tells it; Datos 3 how many there are, and Num1
@@ -19,4 +19,4 @@ std::string memory_width();
 /// What the system favours by LargeSystemCache, which is in Datos 5.
 std::string favoured_use();
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

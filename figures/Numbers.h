@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::inline figures {
 
 /// Whether a text reads as a number of at least `least`; other text, and none, does not.
 inline bool at_least(const std::string& text, double least)
@@ -14,4 +14,4 @@ inline bool at_least(const std::string& text, double least)
     return reached;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

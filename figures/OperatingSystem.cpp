@@ -10,7 +10,7 @@
 #include <array>
 #include <cmath>
 
-namespace ostrelum {
+namespace ostrelum::inline figures {
 namespace {
 
 /// "6.1.7601" as "6.1, 7601".
@@ -83,4 +83,4 @@ std::string install_date()
     return date;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

@@ -6,7 +6,7 @@
 #include <string>
 
 /// The operating system. An empty text is unknown.
-namespace ostrelum {
+namespace ostrelum::inline figures {
 
 enum class MemoryFigures { Total, TotalAndUsed };
 
@@ -29,4 +29,4 @@ std::string process_count(const std::string& count);
 /// The date and the time in Datos 10. TempStr is its scratch.
 std::string install_date();
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

@@ -3,7 +3,7 @@
 #include "figures/PassOver.h"
 #include "figures/Slots.h"
 
-namespace ostrelum {
+namespace ostrelum::inline figures {
 namespace {
 
 void read_board()
@@ -58,4 +58,4 @@ void read_other_hardware()
     });
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::inline figures {
 
 /// The mainboard's full name as whoever installed the program left it with the settings. Throws
 /// Failure where nobody did.
@@ -14,4 +14,4 @@ std::string mainboard_name();
 /// 10 the minutes that it lasts.
 void read_other_hardware();
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

@@ -7,7 +7,7 @@
 /// The pass-over rule: nothing that fails reaches the user. A statement that fails has no effect of
 /// its own and the next one runs. These helpers are the only places of the program's logic that
 /// catch a Failure.
-namespace ostrelum {
+namespace ostrelum::inline figures {
 
 /// Runs one statement. True if it went through.
 template <class Statement>
@@ -68,4 +68,4 @@ void first(const ResultSet& result, Body&& body)
     });
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

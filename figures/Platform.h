@@ -16,7 +16,7 @@
 #include <memory>
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::inline figures {
 
 /// What the program stands on. The main file fills every field before the first event; the services
 /// live as long as the process.
@@ -39,4 +39,4 @@ struct Platform {
 
 inline Platform platform;
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

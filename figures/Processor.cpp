@@ -7,7 +7,7 @@
 #include "figures/TwoForms.h"
 #include "sources/CodeTable.h"
 
-namespace ostrelum {
+namespace ostrelum::inline figures {
 namespace {
 
 constexpr std::array<Statement, 9> walk{
@@ -78,4 +78,4 @@ std::string cache_size(const std::string& slot)
     return size;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

@@ -6,7 +6,7 @@
 #include <string>
 
 /// The processor. An empty text is unknown.
-namespace ostrelum {
+namespace ostrelum::inline figures {
 
 /// Asks for the first processor: Datos 1 is its name, 2 the number of logical processors of the
 /// machine, 3 its maker, 4 its type, 5 its socket, 6 the code of its architecture, 7 and 8 the KB
@@ -30,4 +30,4 @@ std::string architecture();
 /// The size of a cache in a slot.
 std::string cache_size(const std::string& slot);
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

@@ -5,7 +5,7 @@
 #include <string_view>
 
 /// What the program says about itself, the same in all languages.
-namespace ostrelum {
+namespace ostrelum::inline figures {
 
 inline constexpr std::string_view ProgramVersion = "2.5";
 /// The day on which this version came out.
@@ -15,4 +15,4 @@ inline constexpr std::string_view ContactAddress = "ostrelum@dervalin.example.or
 inline constexpr std::string_view TranslatorAddress = "https://terhaar.example.org";
 inline constexpr std::string_view WebAddress = "https://dervalin.example.org/ostrelum";
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

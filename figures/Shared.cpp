@@ -1,6 +1,6 @@
 #include "figures/Shared.h"
 
-namespace ostrelum {
+namespace ostrelum::inline figures {
 
 void reset_shared_state()
 {
@@ -23,4 +23,4 @@ void reset_shared_state()
     SysInfo = {};
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

@@ -11,7 +11,7 @@
 #include <string>
 
 /// The state that the whole program shares. Everything runs on one thread, so nothing is locked.
-namespace ostrelum {
+namespace ostrelum::inline figures {
 
 /// The management service, bound at start and kept until exit.
 inline Bound<ManagementService> WmiService;
@@ -70,4 +70,4 @@ inline SystemInfo SysInfo;
 /// Puts all of the above, and the string table, back to the state of a process that has just begun.
 void reset_shared_state();
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

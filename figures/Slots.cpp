@@ -2,7 +2,7 @@
 
 #include "sources/Ascii.h"
 
-namespace ostrelum {
+namespace ostrelum::inline figures {
 
 void clear(std::array<std::string, 12>& values, int from, int to)
 {
@@ -15,4 +15,4 @@ std::string trimmed(const Value& value)
     return std::string(trim_blanks(value.text()));
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

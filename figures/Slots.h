@@ -6,7 +6,7 @@
 #include <string>
 
 /// Filling the slots of a value buffer.
-namespace ostrelum {
+namespace ostrelum::inline figures {
 
 /// Empties the slots `from` to `to` of a value buffer.
 void clear(std::array<std::string, 12>& values, int from, int to);
@@ -14,4 +14,4 @@ void clear(std::array<std::string, 12>& values, int from, int to);
 /// A text without the blanks at its ends.
 std::string trimmed(const Value& value);
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::inline figures {
 
 /// Every text that the user sees, by key, in the language of the last routine called; UTF-8, and
 /// nothing that the ANSI code page of a saved report could not hold. A text with "(#)", "(1)" to
@@ -27,4 +27,4 @@ private:
 
 inline StringTable Trad;
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace ostrelum {
+namespace ostrelum::inline figures {
 
 /// The keys of the string table. A key's number never changes; 0 is never set, and 142, 156 and 157
 /// are reserved: they have no name, and their text is empty in every language.
@@ -192,4 +192,4 @@ enum class Text : std::uint8_t {
     Website = 186,
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

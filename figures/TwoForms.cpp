@@ -1,6 +1,6 @@
 #include "figures/TwoForms.h"
 
-namespace ostrelum {
+namespace ostrelum::inline figures {
 namespace {
 
 void read_long(std::string_view form, std::span<const Statement> statements)
@@ -34,4 +34,4 @@ bool read_long_or_short(std::string_view long_form, std::string_view short_form,
     return attempt([&] { read_long(long_form, statements); }) || read_short(short_form, statements);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

@@ -5,7 +5,7 @@
 #include <span>
 #include <string_view>
 
-namespace ostrelum {
+namespace ostrelum::inline figures {
 
 /// A statement of a walk over one object.
 using Statement = void (*)(const Instance& item);
@@ -18,4 +18,4 @@ using Statement = void (*)(const Instance& item);
 bool read_long_or_short(std::string_view long_form, std::string_view short_form,
                         std::span<const Statement> statements);
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

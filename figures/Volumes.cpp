@@ -3,7 +3,7 @@
 #include "figures/Figures.h"
 #include "figures/Slots.h"
 
-namespace ostrelum {
+namespace ostrelum::inline figures {
 
 void add_name(std::string& list, const Instance& item, const char* property)
 {
@@ -43,4 +43,4 @@ std::string without_tail(const std::string& list, std::size_t tail)
     return list.substr(0, list.size() - tail);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

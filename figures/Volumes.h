@@ -10,7 +10,7 @@
 
 /// Volumes and drives that stand side by side in a row: each row is a list to which every volume
 /// adds its entry and a separator.
-namespace ostrelum {
+namespace ostrelum::inline figures {
 
 /// Adds an entry; one that cannot be made adds nothing.
 void add_entry(std::string& list, std::invocable auto make_entry)
@@ -42,4 +42,4 @@ inline constexpr std::size_t SizeTail = 4;
 /// than the separator: it has no entry.
 std::string without_tail(const std::string& list, std::size_t tail);
 
-} // namespace ostrelum
+} // namespace ostrelum::inline figures

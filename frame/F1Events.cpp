@@ -5,7 +5,7 @@
 #include "sections/Sections.h"
 #include "skin/Skin.h"
 
-namespace ostrelum {
+namespace ostrelum::inline frame {
 
 std::vector<HandlerTable> main_form_handlers()
 {
@@ -21,4 +21,4 @@ std::vector<HandlerTable> main_form_handlers()
             report_command_handlers};
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline frame

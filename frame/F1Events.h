@@ -4,7 +4,7 @@
 
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::inline frame {
 
 /// The tables of handlers of the main window. Each unit that handles events of F1 lists its
 /// handlers at its foot; here they come together.
@@ -15,4 +15,4 @@ extern const HandlerTable navigation_handlers;
 extern const HandlerTable page_menu_handlers;
 extern const HandlerTable language_handlers;
 
-} // namespace ostrelum
+} // namespace ostrelum::inline frame

@@ -1,7 +1,7 @@
 #include "frame/Language.h"
 #include "frame/LanguageTable.h"
 
-namespace ostrelum {
+namespace ostrelum::inline frame {
 namespace {
 
 // One row of the table stays on one line, however long.
@@ -201,4 +201,4 @@ void LangDutch()
     set_texts(table);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline frame

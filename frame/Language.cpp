@@ -7,7 +7,7 @@
 
 #include <array>
 
-namespace ostrelum {
+namespace ostrelum::inline frame {
 namespace {
 
 struct LanguageRow {
@@ -114,4 +114,4 @@ void TraduPrincipal()
     F1.CopyAll.Caption = Trad[Text::CopyAll];
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline frame

@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::inline frame {
 
 /// Each fills the keys 1 to 186 of Trad and changes nothing else: neither Idioma nor what stands on
 /// the screen.
@@ -26,4 +26,4 @@ void list_languages(const std::string& language);
 /// Applies Trad to the menus and the fixed labels of the main window.
 void TraduPrincipal();
 
-} // namespace ostrelum
+} // namespace ostrelum::inline frame

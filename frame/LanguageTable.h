@@ -7,7 +7,7 @@
 #include <string_view>
 
 /// How a language's table is written: a row for each key of the string table that is in use.
-namespace ostrelum {
+namespace ostrelum::inline frame {
 
 struct TextRow {
     Text key;
@@ -36,4 +36,4 @@ constexpr bool complete(std::span<const TextRow> table)
 /// Fills Trad from a table; the reserved keys become empty, and key 0 stays.
 void set_texts(std::span<const TextRow> table);
 
-} // namespace ostrelum
+} // namespace ostrelum::inline frame

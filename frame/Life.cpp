@@ -11,7 +11,7 @@
 #include "frame/Settings.h"
 #include "skin/Skin.h"
 
-namespace ostrelum {
+namespace ostrelum::inline frame {
 namespace {
 
 /// A step of a fade, in percent of transparency.
@@ -149,4 +149,4 @@ void start_program()
     platform.toolkit->Show(F1);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline frame

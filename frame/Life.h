@@ -1,6 +1,6 @@
 #pragma once
 
-namespace ostrelum {
+namespace ostrelum::inline frame {
 
 /// Loads the main window and opens its first page without showing it. The platform must be filled.
 void load_program();
@@ -9,4 +9,4 @@ void load_program();
 /// The platform must be filled.
 void start_program();
 
-} // namespace ostrelum
+} // namespace ostrelum::inline frame

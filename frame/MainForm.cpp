@@ -4,7 +4,7 @@
 #include "frame/Pictures.h"
 #include "platform/toolkit/Designer.h"
 
-namespace ostrelum {
+namespace ostrelum::inline frame {
 namespace {
 
 constexpr Colour TitleGrey = RGB(32, 32, 32);
@@ -209,4 +209,4 @@ void load_main_form()
     F1.ChkAtOpen = false;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline frame

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::inline frame {
 
 /// Values of MainForm::Seccion besides the sections 1 to 13.
 inline constexpr std::uint8_t CustomisePanel = 90;
@@ -112,4 +112,4 @@ inline MainForm F1;
 /// Gives F1 the look of its design, its handlers and the first values of its fields.
 void load_main_form();
 
-} // namespace ostrelum
+} // namespace ostrelum::inline frame

@@ -10,7 +10,7 @@
 
 #include <array>
 
-namespace ostrelum {
+namespace ostrelum::inline frame {
 namespace {
 
 /// The column's rows: where the first begins, and how high each is, in pixels.
@@ -157,4 +157,4 @@ void UnlockMenu()
     set_navigation(true, RGB(250, 250, 250), White, MouseCursor::Hand);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline frame

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace ostrelum {
+namespace ostrelum::inline frame {
 
 /// Opens a section: the one entry for it. The right and the middle button, and an open panel, make
 /// it do nothing. An index outside 1 to 13 collects nothing, but ends as any opening does.
@@ -19,4 +19,4 @@ void ClearPage();
 void LockMenu();
 void UnlockMenu();
 
-} // namespace ostrelum
+} // namespace ostrelum::inline frame

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace ostrelum {
+namespace ostrelum::inline frame {
 
 void SetOpacity(Form& form, std::int16_t percent)
 {
@@ -15,4 +15,4 @@ void SetOpacity(Form& form, std::int16_t percent)
     toolkit.SetLayeredWindowAttributes(form, 0, static_cast<std::uint8_t>(alpha), LWA_ALPHA);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline frame

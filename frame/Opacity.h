@@ -4,10 +4,10 @@
 
 #include <cstdint>
 
-namespace ostrelum {
+namespace ostrelum::inline frame {
 
 /// Makes a window see-through by a percentage: 0 is opaque, 100 invisible; what lies outside is
 /// held to these.
 void SetOpacity(Form& form, std::int16_t percent);
 
-} // namespace ostrelum
+} // namespace ostrelum::inline frame

@@ -2,7 +2,7 @@
 
 #include "figures/Platform.h"
 
-namespace ostrelum {
+namespace ostrelum::inline frame {
 namespace {
 
 /// What a row shows for a value that could not be had.
@@ -94,4 +94,4 @@ void clear_title_tooltips(int from, int to)
         F1.LT(row).ToolTipText.clear();
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline frame

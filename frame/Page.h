@@ -9,7 +9,7 @@
 #include <string>
 
 /// How a collector writes its page: the title, the twelve rows, and what is hidden.
-namespace ostrelum {
+namespace ostrelum::inline frame {
 
 /// What each collector begins with: unless its page is already the one on show, the status line
 /// tells that the page is being filled, F1.Seccion takes the section and Line2 is hidden.
@@ -67,4 +67,4 @@ void empty_rows(int from, int to);
 /// Takes the tooltips off the titles of the rows `from` to `to`.
 void clear_title_tooltips(int from, int to);
 
-} // namespace ostrelum
+} // namespace ostrelum::inline frame

@@ -6,7 +6,7 @@
 #include <cstdint>
 
 /// The menu that a right click on the page brings up.
-namespace ostrelum {
+namespace ostrelum::inline frame {
 namespace {
 
 /// Bit i for row i.
@@ -99,4 +99,4 @@ constexpr Handler table[] = {
 
 const HandlerTable page_menu_handlers{table};
 
-} // namespace ostrelum
+} // namespace ostrelum::inline frame

@@ -3,7 +3,7 @@
 #include "frame/Pictures.h"
 #include "platform/toolkit/Designer.h"
 
-namespace ostrelum {
+namespace ostrelum::inline frame {
 namespace {
 
 constexpr int PageSide = 48;
@@ -56,4 +56,4 @@ PictureForm* FirstUse::operator->()
     return form_.get();
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline frame

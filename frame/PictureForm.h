@@ -4,7 +4,7 @@
 
 #include <memory>
 
-namespace ostrelum {
+namespace ostrelum::inline frame {
 
 /// A form that is never shown: it stores the pictures of the pages, the alerts and the report
 /// dialog.
@@ -37,4 +37,4 @@ private:
 
 inline FirstUse F6;
 
-} // namespace ostrelum
+} // namespace ostrelum::inline frame

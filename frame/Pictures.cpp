@@ -1,18 +1,21 @@
 #include "frame/Pictures.h"
 
-#include "art/PictureFiles.h"
-#include "skin/Bmp.h"
+#include "art/ArtPixels.h"
 
 #include <map>
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::inline frame {
 namespace {
 
-/// The bitmap of a file of the art; an empty one for a name that is not there.
+/// The bitmap of a picture of the art; an empty one for a name that is not there.
 Bitmap art_bitmap(const std::string& name)
 {
-    return read_bmp(picture_file(name)).value_or(Bitmap());
+    const ArtPixels pixels = art_pixels(name);
+    Bitmap bitmap(pixels.width, pixels.height);
+    bitmap.bytes.assign(pixels.colours.begin(), pixels.colours.end());
+    bitmap.coverage.assign(pixels.alpha.begin(), pixels.alpha.end());
+    return bitmap;
 }
 
 } // namespace
@@ -32,4 +35,4 @@ Picture art_picture(std::string_view name)
     return picture;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline frame

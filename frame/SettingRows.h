@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace ostrelum {
+namespace ostrelum::inline frame {
 
 /// The key under which all settings lie.
 inline constexpr std::string_view SettingsRoot =
@@ -40,4 +40,4 @@ inline constexpr NumberSetting ChkTransSetting{"ChkTrans", 0, 1, 1};
 /// Transparency of the window in percent.
 inline constexpr NumberSetting TransparencySetting{"Transparency", 0, 80, 0};
 
-} // namespace ostrelum
+} // namespace ostrelum::inline frame

@@ -10,7 +10,7 @@
 #include <cmath>
 #include <optional>
 
-namespace ostrelum {
+namespace ostrelum::inline frame {
 namespace {
 
 std::string as_text(const RegValue& stored)
@@ -129,4 +129,4 @@ void write_changed_settings()
         write_number(TransparencySetting, F1.Scroll3.Value);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline frame

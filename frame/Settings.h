@@ -4,7 +4,7 @@
 
 /// The settings that outlive the program, read at start one by one. A value that is missing,
 /// unreadable or out of its range is replaced by its default, in memory and in the store.
-namespace ostrelum {
+namespace ostrelum::inline frame {
 
 void read_language();
 void read_colour();
@@ -19,4 +19,4 @@ std::int32_t read_hue();
 /// Writes what differs from how it stood when the customise panel opened.
 void write_changed_settings();
 
-} // namespace ostrelum
+} // namespace ostrelum::inline frame

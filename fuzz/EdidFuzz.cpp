@@ -9,11 +9,11 @@ namespace {
 
 void check(const std::string& bytes)
 {
-    const auto edid = ostrelum::read_edid(bytes);
-    const std::string masked = ostrelum::masked_edid(bytes);
+    const auto edid = ostrelum::linux_platform::read_edid(bytes);
+    const std::string masked = ostrelum::linux_platform::masked_edid(bytes);
     if (!edid && masked.empty())
         return;
-    const auto again = ostrelum::read_edid(masked);
+    const auto again = ostrelum::linux_platform::read_edid(masked);
     if (!edid || !again || again->detailed != edid->detailed || again->limits != edid->limits ||
         again->rates_of_modes != edid->rates_of_modes || again->name != edid->name)
         std::abort();
@@ -40,7 +40,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     check(bytes);
     std::string right;
     for (std::size_t at = 0; at + block <= size; at += block)
-        right += ostrelum::summed(bytes.substr(at, block));
+        right += ostrelum::linux_platform::summed(bytes.substr(at, block));
     if (!right.empty())
         check(right.replace(0, 8, "\0\xFF\xFF\xFF\xFF\xFF\xFF\0", 8));
     return 0;

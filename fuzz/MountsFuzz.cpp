@@ -13,6 +13,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     using namespace ostrelum;
+    using namespace ostrelum::linux_platform;
     const auto mounts = parse_mounts(std::string(data, data + size));
     for (const Mount& mount : mounts) {
         if (!valid_utf8(mount.root + mount.target + mount.type + mount.source))

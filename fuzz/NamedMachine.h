@@ -8,6 +8,8 @@
 
 namespace ostrelum {
 
+using namespace linux_platform;
+
 /// A copy of a recorded machine in which whatever has a name can be given another one: devices in
 /// sysfs, in udev's and in the hardware database, the processor, the system, a user, a volume.
 class NamedMachine {

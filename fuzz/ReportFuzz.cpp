@@ -10,6 +10,8 @@
 #include <cstdlib>
 
 using namespace ostrelum;
+using namespace ostrelum::linux_platform;
+using namespace ostrelum::console;
 
 namespace {
 

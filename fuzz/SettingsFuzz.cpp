@@ -11,6 +11,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     using namespace ostrelum;
+    using namespace ostrelum::linux_platform;
     const auto lines = [](const std::string& all) {
         return std::count(all.begin(), all.end(), '\n');
     };

@@ -12,6 +12,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     using namespace ostrelum;
+    using namespace ostrelum::linux_platform;
     const UdevRecord record(std::string(data, data + size));
     for (const char* key : {"ID_MODEL", "ID_MODEL_ENC", "ID_FS_LABEL_ENC", "ID_FS_UUID", ""}) {
         const auto text = record.text(key);

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-namespace ostrelum {
+namespace ostrelum::inline report {
 namespace {
 
 /// Code points of the bytes 0x80 to 0x9F. The five that the page leaves open stand for the control
@@ -54,4 +54,4 @@ std::string ansi_text(std::string_view utf8)
     return bytes;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline report

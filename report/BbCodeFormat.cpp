@@ -2,7 +2,7 @@
 #include "figures/StringTable.h"
 #include "report/Documents.h"
 
-namespace ostrelum {
+namespace ostrelum::inline report {
 namespace {
 
 /// Two lower-case hexadecimal digits for each channel: red, green, blue.
@@ -55,4 +55,4 @@ std::string foot(const ReportLook& look)
 
 const DocumentFormat bbcode_format{head, expansions, nullptr, foot};
 
-} // namespace ostrelum
+} // namespace ostrelum::inline report

@@ -3,7 +3,7 @@
 #include "report/Documents.h"
 #include "report/ReportForm.h"
 
-namespace ostrelum {
+namespace ostrelum::inline report {
 
 void write_heading(const std::string& title)
 {
@@ -23,4 +23,4 @@ std::string known(const std::string& value)
     return value.empty() ? Trad[Text::Unknown] : value;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline report

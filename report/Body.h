@@ -7,7 +7,7 @@
 #include <string>
 
 /// How a stage writes its section of the body, in the markup that documents are made from.
-namespace ostrelum {
+namespace ostrelum::inline report {
 
 /// A row of a section: its label, which brings its own colon, and its value.
 struct ReportRow {
@@ -32,4 +32,4 @@ std::string known(std::invocable auto make_value)
     return known(value);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline report

@@ -10,7 +10,7 @@
 #include "skin/BlendPicture.h"
 
 /// The life of the report dialog: fade in, run the chain, offer the documents, fade out.
-namespace ostrelum {
+namespace ostrelum::inline report {
 namespace {
 
 /// A step of a window fade, in percent of transparency.
@@ -179,4 +179,4 @@ std::array<ReportDocument, 4> made_documents()
     return {{{"rtf", &F2.Tb1}, {"html", &F2.Tb2}, {"bbcode", &F2.Tb3}, {"text", &F2.Tb4}}};
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline report

@@ -2,7 +2,7 @@
 
 #include "sources/Texts.h"
 
-namespace ostrelum {
+namespace ostrelum::inline report {
 namespace {
 
 /// One marker after the other through the whole document, so that a value that holds a marker is
@@ -33,4 +33,4 @@ std::string hyphens(std::size_t count)
     return std::string(count, '-');
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline report

@@ -7,7 +7,7 @@
 /// The four file formats of a report. The body is written once, in a small markup of its own; a
 /// document is a head, the body with its seven markers expanded, and a foot. Nothing in the body is
 /// escaped.
-namespace ostrelum {
+namespace ostrelum::inline report {
 
 inline constexpr std::string_view CRLF = "\r\n";
 
@@ -50,4 +50,4 @@ std::string finished_document(const DocumentFormat& format, const ReportLook& lo
 /// A line of `count` hyphens, without its end.
 std::string hyphens(std::size_t count);
 
-} // namespace ostrelum
+} // namespace ostrelum::inline report

@@ -2,7 +2,7 @@
 #include "figures/StringTable.h"
 #include "report/Documents.h"
 
-namespace ostrelum {
+namespace ostrelum::inline report {
 namespace {
 
 std::string rgb(const ReportLook& look)
@@ -69,4 +69,4 @@ std::string foot(const ReportLook& look)
 
 const DocumentFormat html_format{head, expansions, nullptr, foot};
 
-} // namespace ostrelum
+} // namespace ostrelum::inline report

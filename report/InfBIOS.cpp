@@ -3,7 +3,7 @@
 #include "report/Body.h"
 #include "report/Stages.h"
 
-namespace ostrelum {
+namespace ostrelum::inline report {
 
 void InfBIOS()
 {
@@ -18,4 +18,4 @@ void InfBIOS()
     });
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline report

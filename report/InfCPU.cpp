@@ -3,7 +3,7 @@
 #include "report/Body.h"
 #include "report/Stages.h"
 
-namespace ostrelum {
+namespace ostrelum::inline report {
 namespace {
 
 ReportRow speed_row()
@@ -31,4 +31,4 @@ void InfCPU()
     });
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline report

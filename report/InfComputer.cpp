@@ -4,7 +4,7 @@
 #include "report/Stages.h"
 #include "sources/Texts.h"
 
-namespace ostrelum {
+namespace ostrelum::inline report {
 
 void InfComputer()
 {
@@ -20,4 +20,4 @@ void InfComputer()
     });
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline report

@@ -5,7 +5,7 @@
 #include "report/Body.h"
 #include "report/Stages.h"
 
-namespace ostrelum {
+namespace ostrelum::inline report {
 namespace {
 
 /// A list of volumes or drives; unknown where it has none.
@@ -40,4 +40,4 @@ void InfDisks()
     });
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline report

@@ -3,7 +3,7 @@
 #include "report/Body.h"
 #include "report/Stages.h"
 
-namespace ostrelum {
+namespace ostrelum::inline report {
 
 void InfDisplay()
 {
@@ -30,4 +30,4 @@ void InfGraphics()
     });
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline report

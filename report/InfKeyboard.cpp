@@ -3,7 +3,7 @@
 #include "report/Body.h"
 #include "report/Stages.h"
 
-namespace ostrelum {
+namespace ostrelum::inline report {
 
 void InfKeyboard()
 {
@@ -26,4 +26,4 @@ void InfMouse()
     });
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline report

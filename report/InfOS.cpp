@@ -4,7 +4,7 @@
 #include "report/Stages.h"
 #include "sources/LanguageCodes.h"
 
-namespace ostrelum {
+namespace ostrelum::inline report {
 
 void InfOS()
 {
@@ -26,4 +26,4 @@ void InfOS()
     });
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline report

@@ -3,7 +3,7 @@
 #include "report/Body.h"
 #include "report/Stages.h"
 
-namespace ostrelum {
+namespace ostrelum::inline report {
 
 void InfOther()
 {
@@ -20,4 +20,4 @@ void InfOther()
     });
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline report

@@ -4,7 +4,7 @@
 #include "report/Stages.h"
 #include "sources/MemoryCodes.h"
 
-namespace ostrelum {
+namespace ostrelum::inline report {
 
 void InfRAM()
 {
@@ -24,4 +24,4 @@ void InfRAM()
     });
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline report

@@ -4,7 +4,7 @@
 #include "report/Stages.h"
 #include "sources/Texts.h"
 
-namespace ostrelum {
+namespace ostrelum::inline report {
 
 void InfUser()
 {
@@ -23,4 +23,4 @@ void InfUser()
     });
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline report

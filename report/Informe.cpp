@@ -9,7 +9,7 @@
 #include "report/ReportForm.h"
 #include "report/Stages.h"
 
-namespace ostrelum {
+namespace ostrelum::inline report {
 namespace {
 
 struct Stage {
@@ -117,4 +117,4 @@ void InfStart()
     InfEnd();
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline report

@@ -4,7 +4,7 @@
 #include <string>
 
 /// The pipeline of a report: heads, twelve stages, feet.
-namespace ostrelum {
+namespace ostrelum::inline report {
 
 /// Tick of the clock at which the report began, in milliseconds.
 inline std::uint32_t ReportStart = 0;
@@ -12,4 +12,4 @@ inline std::uint32_t ReportStart = 0;
 /// Makes the four documents, one stage after the other, and returns when they are finished.
 void InfStart();
 
-} // namespace ostrelum
+} // namespace ostrelum::inline report

@@ -2,7 +2,7 @@
 #include "figures/StringTable.h"
 #include "report/Documents.h"
 
-namespace ostrelum {
+namespace ostrelum::inline report {
 namespace {
 
 /// A middle dot between two blanks.
@@ -45,4 +45,4 @@ std::string foot(const ReportLook&)
 
 const DocumentFormat plain_text_format{head, expansions, nullptr, foot};
 
-} // namespace ostrelum
+} // namespace ostrelum::inline report

@@ -6,7 +6,7 @@
 #include <string>
 
 /// What the report offers to the rest of the program.
-namespace ostrelum {
+namespace ostrelum::inline report {
 
 /// The entry of the options menu that makes a report.
 extern const HandlerTable report_command_handlers;
@@ -29,4 +29,4 @@ std::array<ReportDocument, 4> made_documents();
 /// more.
 std::string ansi_file(const std::string& document);
 
-} // namespace ostrelum
+} // namespace ostrelum::inline report

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::inline report {
 
 /// The tables of handlers of the report dialog.
 std::vector<HandlerTable> report_form_handlers();
@@ -12,4 +12,4 @@ std::vector<HandlerTable> report_form_handlers();
 extern const HandlerTable report_dialog_handlers;
 extern const HandlerTable save_handlers;
 
-} // namespace ostrelum
+} // namespace ostrelum::inline report

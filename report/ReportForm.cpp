@@ -4,7 +4,7 @@
 #include "platform/toolkit/Designer.h"
 #include "report/ReportEvents.h"
 
-namespace ostrelum {
+namespace ostrelum::inline report {
 namespace {
 
 FontSpec segoe(double size)
@@ -57,4 +57,4 @@ void load_report_form()
     F2.MayClose = false;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline report

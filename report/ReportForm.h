@@ -5,7 +5,7 @@
 #include <array>
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::inline report {
 
 /// The report dialog. The names are those of the design table in ReportForm.cpp.
 class ReportForm : public Form {
@@ -49,4 +49,4 @@ inline std::array<std::string*, 4> report_documents()
 /// Gives F2 the look of its design, its handlers and the first values of its fields.
 void load_report_form();
 
-} // namespace ostrelum
+} // namespace ostrelum::inline report

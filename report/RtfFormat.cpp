@@ -3,7 +3,7 @@
 #include "report/Documents.h"
 
 /// Rich text. Colour 1 is the skin colour, colour 2 a grey, colour 3 the blue of the link.
-namespace ostrelum {
+namespace ostrelum::inline report {
 namespace {
 
 /// An entry of the colour table.
@@ -78,4 +78,4 @@ void postprocess(std::string& document)
 
 const DocumentFormat rtf_format{head, expansions, postprocess, foot};
 
-} // namespace ostrelum
+} // namespace ostrelum::inline report

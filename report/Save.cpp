@@ -9,7 +9,7 @@
 
 #include <algorithm>
 
-namespace ostrelum {
+namespace ostrelum::inline report {
 namespace {
 
 /// Filter of the last accepted dialog, counted from 1: it alone chooses the document.
@@ -101,4 +101,4 @@ std::string ansi_file(const std::string& document)
     return ansi_text(document) + std::string(CRLF);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline report

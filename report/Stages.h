@@ -2,7 +2,7 @@
 
 /// The stages of a report. Each empties the slots of Datos that it uses, asks the management
 /// service anew and writes the rows of its section.
-namespace ostrelum {
+namespace ostrelum::inline report {
 
 void InfUser();
 void InfComputer();
@@ -19,4 +19,4 @@ void InfKeyboard();
 void InfMouse();
 void InfOther();
 
-} // namespace ostrelum
+} // namespace ostrelum::inline report

@@ -5,7 +5,7 @@
 
 #include <cmath>
 
-namespace ostrelum {
+namespace ostrelum::inline sections {
 namespace {
 
 /// "~ 12.5 V": volts with one decimal, halves to the even neighbour. Tenths are counted before they
@@ -43,4 +43,4 @@ void set_battery_values(const std::string& millivolts, const std::string& percen
     set_value(12, [&] { return time_left(minutes); });
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sections

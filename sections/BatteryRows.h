@@ -3,7 +3,7 @@
 #include <string>
 
 /// The rows about the battery that are written anew while the page is open.
-namespace ostrelum {
+namespace ostrelum::inline sections {
 
 /// Writes the values of row 10, voltage, row 11, charge, and row 12, time left, from texts that
 /// hold millivolts, a percentage and minutes; an empty one is unknown. A text that is no whole
@@ -11,4 +11,4 @@ namespace ostrelum {
 void set_battery_values(const std::string& millivolts, const std::string& percent,
                         const std::string& minutes);
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sections

@@ -2,7 +2,7 @@
 
 #include "frame/Page.h"
 
-namespace ostrelum {
+namespace ostrelum::inline sections {
 
 void set_list_row(int row, const std::string& title, const std::string& list, std::size_t tail)
 {
@@ -25,4 +25,4 @@ void set_volume_rows()
     set_list_row(8, Trad[Text::SerialNumber], Datos[8], NameTail);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sections

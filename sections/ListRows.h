@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::inline sections {
 
 /// Sets a row to a list without the separator behind its last entry, as it is. A list without an
 /// entry leaves the value that the row had, and its tooltip takes that.
@@ -14,4 +14,4 @@ void set_list_row(int row, const std::string& title, const std::string& list, st
 /// titles that the summary page uses as headings their normal look back.
 void set_volume_rows();
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sections

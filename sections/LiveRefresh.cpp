@@ -7,7 +7,7 @@
 
 /// The figures that change while their page is open, once a second. A tick asks for no more than
 /// what changes, and writes the values in place.
-namespace ostrelum {
+namespace ostrelum::inline sections {
 namespace {
 
 void stop()
@@ -86,4 +86,4 @@ constexpr Handler table[] = {OSTRELUM_ON(Timer1_Timer)};
 
 const HandlerTable live_refresh_handlers{table};
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sections

@@ -3,7 +3,7 @@
 #include "frame/Page.h"
 #include "sources/NumberText.h"
 
-namespace ostrelum {
+namespace ostrelum::inline sections {
 
 void show_notice(Text key, int top, int height)
 {
@@ -33,4 +33,4 @@ std::int32_t whole_kilobytes(const Value& bytes)
     return rounded_down(bytes.number() / 1024);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sections

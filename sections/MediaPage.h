@@ -9,7 +9,7 @@
 
 /// What the pages of removable memory and of discs have in common: each has a face with rows and
 /// one with a large notice, and an alert at its foot on both.
-namespace ostrelum {
+namespace ostrelum::inline sections {
 
 /// Greys and greens of the alert: nothing was found, or something was.
 inline constexpr Colour NothingFound = RGB(75, 75, 75);
@@ -29,4 +29,4 @@ void count_up(std::uint8_t& counter);
 /// more than 32 bits hold.
 std::int32_t whole_kilobytes(const Value& bytes);
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sections

@@ -3,7 +3,7 @@
 #include "figures/Figures.h"
 #include "frame/Page.h"
 
-namespace ostrelum {
+namespace ostrelum::inline sections {
 namespace {
 
 /// An amount of KB as "512 MB (25%)" of the total; empty while one of the figures is not known.
@@ -22,4 +22,4 @@ void set_memory_values()
     set_value(5, [] { return share_of_total(Num2); });
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sections

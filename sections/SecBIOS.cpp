@@ -2,7 +2,7 @@
 #include "frame/Page.h"
 #include "sections/Sections.h"
 
-namespace ostrelum {
+namespace ostrelum::inline sections {
 
 void SecBIOS()
 {
@@ -21,4 +21,4 @@ void SecBIOS()
     empty_rows(6, 12);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sections

@@ -2,7 +2,7 @@
 #include "frame/Page.h"
 #include "sections/Sections.h"
 
-namespace ostrelum {
+namespace ostrelum::inline sections {
 namespace {
 
 /// Without a speed the title stays as another page left it.
@@ -38,4 +38,4 @@ void SecCPU()
     empty_rows(10, 12);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sections

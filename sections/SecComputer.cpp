@@ -3,7 +3,7 @@
 #include "sections/Sections.h"
 #include "sources/Texts.h"
 
-namespace ostrelum {
+namespace ostrelum::inline sections {
 
 void SecComputer()
 {
@@ -25,4 +25,4 @@ void SecComputer()
     empty_rows(7, 12);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sections

@@ -4,7 +4,7 @@
 #include "sections/ListRows.h"
 #include "sections/Sections.h"
 
-namespace ostrelum {
+namespace ostrelum::inline sections {
 
 void SecDisks()
 {
@@ -28,4 +28,4 @@ void SecDisks()
     empty_rows(10, 12);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sections

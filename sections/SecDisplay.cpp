@@ -2,7 +2,7 @@
 #include "frame/Page.h"
 #include "sections/Sections.h"
 
-namespace ostrelum {
+namespace ostrelum::inline sections {
 namespace {
 
 void set_refresh_row()
@@ -40,4 +40,4 @@ void SecDisplay()
     empty_rows(12, 12);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sections

@@ -2,7 +2,7 @@
 #include "frame/Page.h"
 #include "sections/Sections.h"
 
-namespace ostrelum {
+namespace ostrelum::inline sections {
 
 void SecInput()
 {
@@ -26,4 +26,4 @@ void SecInput()
     empty_rows(9, 12);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sections

@@ -4,7 +4,7 @@
 #include "sections/SystemRows.h"
 #include "sources/LanguageCodes.h"
 
-namespace ostrelum {
+namespace ostrelum::inline sections {
 namespace {
 
 /// Version and service pack have a text for a service that knows no system; where it fails to tell
@@ -48,4 +48,4 @@ void SecOS()
     F1.Timer1.Enabled = true;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sections

@@ -4,7 +4,7 @@
 #include "sections/MediaPage.h"
 #include "sections/Sections.h"
 
-namespace ostrelum {
+namespace ostrelum::inline sections {
 namespace {
 
 /// Whether the page is open with discs on it: it is then drawn again from what it holds.
@@ -126,4 +126,4 @@ void SecOptical()
     empty_rows(8, 12);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sections

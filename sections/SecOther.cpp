@@ -3,7 +3,7 @@
 #include "sections/BatteryRows.h"
 #include "sections/Sections.h"
 
-namespace ostrelum {
+namespace ostrelum::inline sections {
 namespace {
 
 void leave_out(int row, Line& line)
@@ -40,4 +40,4 @@ void SecOther()
     F1.Timer1.Enabled = true;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sections

@@ -4,7 +4,7 @@
 #include "sections/Sections.h"
 #include "sources/MemoryCodes.h"
 
-namespace ostrelum {
+namespace ostrelum::inline sections {
 namespace {
 
 void read_use_of_memory()
@@ -47,4 +47,4 @@ void SecRAM()
     F1.Timer1.Enabled = true;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sections

@@ -4,7 +4,7 @@
 #include "sections/MediaPage.h"
 #include "sections/Sections.h"
 
-namespace ostrelum {
+namespace ostrelum::inline sections {
 namespace {
 
 void count_media()
@@ -109,4 +109,4 @@ void SecRemovable()
     empty_rows(9, 12);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sections

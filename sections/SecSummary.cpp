@@ -5,7 +5,7 @@
 
 #include <cmath>
 
-namespace ostrelum {
+namespace ostrelum::inline sections {
 namespace {
 
 /// A number of bytes in whole MB.
@@ -130,4 +130,4 @@ void SecSummary()
     show_mainboard();
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sections

@@ -4,7 +4,7 @@
 #include "sections/Sections.h"
 #include "sections/SystemRows.h"
 
-namespace ostrelum {
+namespace ostrelum::inline sections {
 namespace {
 
 /// Whose account it is stands under the rows on every visit.
@@ -44,4 +44,4 @@ void SecUser()
     F1.Timer1.Enabled = true;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sections

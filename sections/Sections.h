@@ -4,7 +4,7 @@
 
 /// The collectors of the thirteen section pages, each of which queries anew and writes the page of
 /// F1, and the live refresh.
-namespace ostrelum {
+namespace ostrelum::inline sections {
 
 void SecSummary();
 void SecUser();
@@ -23,4 +23,4 @@ void SecOther();
 /// The tick that keeps the figures of the open page current.
 extern const HandlerTable live_refresh_handlers;
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sections

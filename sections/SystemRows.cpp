@@ -3,7 +3,7 @@
 #include "figures/Figures.h"
 #include "frame/Page.h"
 
-namespace ostrelum {
+namespace ostrelum::inline sections {
 
 std::string usage_time()
 {
@@ -21,4 +21,4 @@ void set_virtual_memory_row()
         set_row(11, Trad[Text::TotalVirtualMemory], WholeText(Num1) + " MB");
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sections

@@ -3,7 +3,7 @@
 #include <string>
 
 /// The rows about the running system that are written anew while their page is open.
-namespace ostrelum {
+namespace ostrelum::inline sections {
 
 /// Time since the start of the system, for row 9 of the user's page; empty when the clock does not
 /// tell it any more.
@@ -13,4 +13,4 @@ std::string usage_time();
 /// part in use where that says something, else the total. Without a total the title stays.
 void set_virtual_memory_row();
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sections

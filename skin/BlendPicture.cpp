@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace ostrelum {
+namespace ostrelum::inline skin {
 namespace {
 
 Bitmap white_bitmap(int width, int height)
@@ -40,4 +40,4 @@ void BlendPicture(PictureBox& dest, const PictureBox& source, std::uint8_t alpha
                               });
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline skin

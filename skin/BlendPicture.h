@@ -4,10 +4,10 @@
 
 #include <cstdint>
 
-namespace ostrelum {
+namespace ostrelum::inline skin {
 
 /// Draws the picture that `source` stores over the one that `dest` stores, with an opacity of alpha
 /// / 255. A box that stores no picture counts as white, the colour of the page.
 void BlendPicture(PictureBox& dest, const PictureBox& source, std::uint8_t alpha);
 
-} // namespace ostrelum
+} // namespace ostrelum::inline skin

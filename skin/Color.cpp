@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace ostrelum {
+namespace ostrelum::inline skin {
 namespace {
 
 Bitmap tinted(const Bitmap& grey, const TintColour& colour)
@@ -50,4 +50,4 @@ void tint_skin()
         Tint(*pic);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline skin

@@ -4,7 +4,7 @@
 #include "skin/BlendPicture.h"
 #include "skin/Skin.h"
 
-namespace ostrelum {
+namespace ostrelum::inline skin {
 namespace {
 
 /// The pictures that a page crosses over to; nullptr for none.
@@ -78,4 +78,4 @@ void start_cross_fade()
     F1.TAlphaB.Enabled = true;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline skin

@@ -11,7 +11,7 @@
 
 /// The panel for language, colour, shine and transparency. What is changed acts at once; only
 /// Accept writes it to the store.
-namespace ostrelum {
+namespace ostrelum::inline skin {
 namespace {
 
 constexpr Colour Live = RGB(32, 32, 32);
@@ -176,4 +176,4 @@ constexpr Handler rows[] = {
 
 const HandlerTable customise_panel_handlers{rows};
 
-} // namespace ostrelum
+} // namespace ostrelum::inline skin

@@ -4,7 +4,7 @@
 #include <array>
 #include <cstddef>
 
-namespace ostrelum {
+namespace ostrelum::inline skin {
 namespace {
 
 /// With a base byte of 220 and the highest shine, 24, a level stays as it is.
@@ -85,4 +85,4 @@ void blend_pixels(Bitmap& dest, const Bitmap& source, std::uint8_t alpha)
     }
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline skin

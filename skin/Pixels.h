@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-namespace ostrelum {
+namespace ostrelum::inline skin {
 
 /// What turns a grey picture into a coloured one.
 struct TintColour {
@@ -25,4 +25,4 @@ void tint_pixels(Bitmap& dest, const Bitmap& grey, const TintColour& colour);
 /// size of `dest` by the nearest pixel where the sizes differ.
 void blend_pixels(Bitmap& dest, const Bitmap& source, std::uint8_t alpha);
 
-} // namespace ostrelum
+} // namespace ostrelum::inline skin

@@ -6,7 +6,7 @@
 #include <cstdint>
 
 /// What the skin offers to the rest of the program.
-namespace ostrelum {
+namespace ostrelum::inline skin {
 
 /// Splits a colour 0x00BBGGRR into BaseR, BaseG and BaseB.
 void SplitColor(std::int32_t color);
@@ -29,4 +29,4 @@ extern const HandlerTable customise_panel_handlers;
 /// The tick of the cross-fade.
 extern const HandlerTable cross_fade_handlers;
 
-} // namespace ostrelum
+} // namespace ostrelum::inline skin

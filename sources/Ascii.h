@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace ostrelum {
+namespace ostrelum::inline sources {
 
 /// Case mapping of the 26 letters, whatever the user's locale.
 constexpr char lower_ascii(char c)
@@ -32,4 +32,4 @@ constexpr std::string_view trim_blanks(std::string_view text)
     return text;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

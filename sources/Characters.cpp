@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace ostrelum {
+namespace ostrelum::inline sources {
 namespace {
 
 /// Bytes behind the first of a character have the two high bits 10.
@@ -39,4 +39,4 @@ std::string last_characters(std::string_view text, std::size_t count)
     return std::string(text.substr(all > count ? bytes_before(text, all - count) : 0));
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

@@ -5,7 +5,7 @@
 #include <string_view>
 
 /// Characters of UTF-8 text are code points, not bytes.
-namespace ostrelum {
+namespace ostrelum::inline sources {
 
 /// Number of characters.
 std::size_t character_count(std::string_view text);
@@ -16,4 +16,4 @@ std::string first_characters(std::string_view text, std::size_t count);
 /// The last `count` characters; the whole text where it is shorter.
 std::string last_characters(std::string_view text, std::size_t count);
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

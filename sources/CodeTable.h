@@ -6,7 +6,7 @@
 #include <string_view>
 
 /// Tables of what the numeric codes of the service stand for.
-namespace ostrelum {
+namespace ostrelum::inline sources {
 
 /// A row of a code table. The text is a literal, or the key of one that depends on the language.
 template <class Meaning>
@@ -34,4 +34,4 @@ const CodeRow<Meaning>* find_code(const std::array<CodeRow<Meaning>, Count>& row
     return row == rows.end() ? nullptr : &*row;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

@@ -2,7 +2,7 @@
 
 #include "platform/system/Failure.h"
 
-namespace ostrelum {
+namespace ostrelum::inline sources {
 namespace {
 
 /// The whole number in `count` characters, counted from 1 as the service's own documentation counts
@@ -34,4 +34,4 @@ std::string WmiTimeText(std::string_view datetime, Regional& regional)
         {columns(datetime, 9, 2), columns(datetime, 11, 2), columns(datetime, 13, 2)});
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace ostrelum {
+namespace ostrelum::inline sources {
 
 /// The date of a service datetime ("yyyymmddHHMMSS" and a tail that is not read) in the regional
 /// short form. Throws Failure for text that does not hold digits there, and for a day that no
@@ -16,4 +16,4 @@ std::string WmiDateText(std::string_view datetime, Regional& regional);
 /// Failure as WmiDateText does.
 std::string WmiTimeText(std::string_view datetime, Regional& regional);
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

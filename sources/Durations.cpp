@@ -2,7 +2,7 @@
 
 #include "platform/system/Failure.h"
 
-namespace ostrelum {
+namespace ostrelum::inline sources {
 namespace {
 
 std::string two_digits(int number)
@@ -31,4 +31,4 @@ std::string MinutesText(std::int32_t minutes)
     return two_digits(minutes / 60 % 24) + ":" + two_digits(minutes % 60);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::inline sources {
 
 /// Hours, minutes and seconds of the time that a system has been up, in the regional long time
 /// form; the days are left out. Empty from 29 days on.
@@ -16,4 +16,4 @@ std::string UptimeText(std::uint32_t milliseconds, Regional& regional);
 /// a time that they do not know.
 std::string MinutesText(std::int32_t minutes);
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

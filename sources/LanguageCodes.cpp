@@ -2,7 +2,7 @@
 
 #include "sources/CodeTable.h"
 
-namespace ostrelum {
+namespace ostrelum::inline sources {
 namespace {
 
 /// Language identifiers as Win32_OperatingSystem.OSLanguage gives them ([MS-LCID]).
@@ -29,4 +29,4 @@ std::string language_name(std::string_view code)
     return row ? std::string(row->text) : std::string();
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

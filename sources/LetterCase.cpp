@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-namespace ostrelum {
+namespace ostrelum::inline sources {
 namespace {
 
 /// Capitals from `first` to `last`, every `step`th character; each one's small letter stands
@@ -141,4 +141,4 @@ std::string lower_case(std::string_view text)
     return each_mapped(text, lower_case);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

@@ -5,7 +5,7 @@
 
 /// Upper and lower case of the Latin, Greek and Cyrillic letters, one character for one, the same
 /// in every locale. Other characters stay as they are.
-namespace ostrelum {
+namespace ostrelum::inline sources {
 
 char32_t upper_case(char32_t character);
 char32_t lower_case(char32_t character);
@@ -14,4 +14,4 @@ char32_t lower_case(char32_t character);
 std::string upper_case(std::string_view text);
 std::string lower_case(std::string_view text);
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

@@ -2,7 +2,7 @@
 
 #include "sources/Ascii.h"
 
-namespace ostrelum {
+namespace ostrelum::inline sources {
 
 const Value& Instance::operator[](std::string_view name) const
 {
@@ -13,4 +13,4 @@ const Value& Instance::operator[](std::string_view name) const
     throw Failure("no such property: " + std::string(name));
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::inline sources {
 
 /// One object of a result: properties by name, in the class's own order and spelling.
 class Instance {
@@ -41,4 +41,4 @@ public:
     virtual ResultSet ExecQuery(std::string_view wql) = 0;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

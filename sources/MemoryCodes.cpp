@@ -2,7 +2,7 @@
 
 #include "sources/CodeTable.h"
 
-namespace ostrelum {
+namespace ostrelum::inline sources {
 namespace {
 
 using Row = CodeRow<std::string_view>;
@@ -59,4 +59,4 @@ std::string form_factor_text(std::string_view code)
     return text_of(form_factors, code);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

@@ -6,7 +6,7 @@
 #include <charconv>
 #include <cmath>
 
-namespace ostrelum {
+namespace ostrelum::inline sources {
 
 std::string WholeText(std::int64_t number)
 {
@@ -31,4 +31,4 @@ std::int32_t rounded_down(double number)
     return Value(std::floor(number)).whole();
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace ostrelum {
+namespace ostrelum::inline sources {
 
 /// The decimal digits of a number, with a minus sign where it is negative.
 std::string WholeText(std::int64_t number);
@@ -16,4 +16,4 @@ std::string RealText(double number, std::string_view decimal_sign);
 /// The number rounded down. Throws Failure for what a signed 32-bit number cannot hold.
 std::int32_t rounded_down(double number);
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

@@ -5,7 +5,7 @@
 
 #include <cmath>
 
-namespace ostrelum {
+namespace ostrelum::inline sources {
 namespace {
 
 std::int32_t divisor(std::int32_t whole)
@@ -50,4 +50,4 @@ std::string UsedOfTotal(std::int32_t part, std::int32_t whole)
            WholeText(whole) + " MB (100%)";
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

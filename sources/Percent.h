@@ -5,7 +5,7 @@
 
 /// What percentage a part is of a whole. Each figure has its own way to round. All throw Failure
 /// for a whole of 0.
-namespace ostrelum {
+namespace ostrelum::inline sources {
 
 /// Cut toward zero: 2 of 3 is 66.
 std::int64_t PercentCut(std::int32_t part, std::int32_t whole);
@@ -23,4 +23,4 @@ std::int64_t PercentFloor(std::int32_t part, std::int32_t whole);
 /// Amounts of MB, such as "1024 MB (25%) / 4096 MB (100%)".
 std::string UsedOfTotal(std::int32_t part, std::int32_t whole);
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

@@ -4,7 +4,7 @@
 #include "sources/NumberText.h"
 #include "sources/Value.h"
 
-namespace ostrelum {
+namespace ostrelum::inline sources {
 
 std::string ClockText(std::int32_t megahertz, std::string_view decimal_sign)
 {
@@ -22,4 +22,4 @@ std::string CacheText(std::string_view kilobytes)
     }
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

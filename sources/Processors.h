@@ -5,7 +5,7 @@
 #include <string_view>
 
 /// The figures of a processor.
-namespace ostrelum {
+namespace ostrelum::inline sources {
 
 /// A clock speed in MHz as GHz of 1000 MHz, cut after four characters: 2394 is "2.39 Ghz".
 std::string ClockText(std::int32_t megahertz, std::string_view decimal_sign);
@@ -15,4 +15,4 @@ std::string ClockText(std::int32_t megahertz, std::string_view decimal_sign);
 /// that are no number.
 std::string CacheText(std::string_view kilobytes);
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

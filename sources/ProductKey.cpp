@@ -4,7 +4,7 @@
 #include <span>
 #include <string_view>
 
-namespace ostrelum {
+namespace ostrelum::inline sources {
 namespace {
 
 constexpr std::string_view Digits = "BCDFGHJKMPQRTVWXY2346789";
@@ -56,4 +56,4 @@ std::string ProductKeyText(Registry& registry)
     return product_key(packed);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::inline sources {
 
 /// A product key as the system packs it: one unsigned number, the least significant byte first.
 using PackedKey = std::array<std::uint8_t, 15>;
@@ -18,4 +18,4 @@ std::string product_key(PackedKey packed);
 /// the registry does not hold it.
 std::string ProductKeyText(Registry& registry);
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

@@ -1,6 +1,6 @@
 #include "sources/Schema.h"
 
-namespace ostrelum {
+namespace ostrelum::inline sources {
 
 std::string_view type_name(CimType type)
 {
@@ -15,4 +15,4 @@ std::string_view type_name(CimType type)
     return "";
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

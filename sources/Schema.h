@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-namespace ostrelum {
+namespace ostrelum::inline sources {
 
 /// What a class has, whatever the provider.
 struct ClassSchema {
@@ -78,4 +78,4 @@ static_assert(std::ranges::all_of(class_table, [](const ClassSchema& each) {
     return sorted_by_name(each.properties);
 }));
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

@@ -4,7 +4,7 @@
 
 /// The properties of each class (DMTF CIM schema and its Win32 extension), as many as are used,
 /// sorted by name.
-namespace ostrelum {
+namespace ostrelum::inline sources {
 
 enum class CimType { Boolean, UInt16, UInt32, UInt64, String, DateTime };
 
@@ -179,4 +179,4 @@ inline constexpr PropertySchema Win32_VideoController_properties[] = {
     {"Name", CimType::String, "", "The maker's name for the adapter"},
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

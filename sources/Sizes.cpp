@@ -6,7 +6,7 @@
 #include <array>
 #include <cmath>
 
-namespace ostrelum {
+namespace ostrelum::inline sources {
 namespace {
 
 constexpr std::array<std::string_view, 4> units{" KB", " MB", " GB", " TB"};
@@ -106,4 +106,4 @@ std::string WholeMegabytes(std::int32_t kilobytes)
     return WholeText(rounded_down(kilobytes / 1024.0));
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

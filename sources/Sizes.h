@@ -6,7 +6,7 @@
 
 /// Sizes as text. All units are binary, and the unit follows from the number of digits, not from
 /// the magnitude: people compare these figures with the ones on older pages and papers.
-namespace ostrelum {
+namespace ostrelum::inline sources {
 
 /// A whole number of MB: " MB" up to three digits, from four digits on whole " GB", rounded down.
 /// So 1000 is "0 GB".
@@ -32,4 +32,4 @@ std::string SizeByDigits(SizeUse use, std::int32_t size, std::string_view decima
 /// KB as whole MB, rounded down, without a unit.
 std::string WholeMegabytes(std::int32_t kilobytes);
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

@@ -3,7 +3,7 @@
 #include "sources/Characters.h"
 #include "sources/LetterCase.h"
 
-namespace ostrelum {
+namespace ostrelum::inline sources {
 
 std::string FillMark(std::string_view form, std::string_view mark, std::string_view value)
 {
@@ -22,4 +22,4 @@ std::string CapitalText(std::string_view text)
     return upper_case(first) + lower_case(text.substr(first.size()));
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace ostrelum {
+namespace ostrelum::inline sources {
 
 /// `form` with every occurrence of `mark` replaced by `value`, in one pass: a mark that stands in
 /// the value stays. Upper and lower case count.
@@ -13,4 +13,4 @@ std::string FillMark(std::string_view form, std::string_view mark, std::string_v
 /// WORKGROUP becomes Workgroup.
 std::string CapitalText(std::string_view text);
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace ostrelum {
+namespace ostrelum::inline sources {
 
 namespace {
 
@@ -73,4 +73,4 @@ std::string made_one_line(std::string text)
     return text;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

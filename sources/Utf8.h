@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace ostrelum {
+namespace ostrelum::inline sources {
 
 /// Well-formed UTF-8 (Unicode Standard, table 3-7): no overlong form, no surrogate, nothing above
 /// U+10FFFF.
@@ -16,4 +16,4 @@ std::string made_valid_utf8(std::string_view text);
 /// it would be a box, and in a report the end of a line.
 std::string made_one_line(std::string text);
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

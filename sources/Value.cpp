@@ -8,7 +8,7 @@
 #include <limits>
 #include <optional>
 
-namespace ostrelum {
+namespace ostrelum::inline sources {
 namespace {
 
 std::string shortest(double real)
@@ -82,4 +82,4 @@ bool Value::truth() const
     return number() != 0;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

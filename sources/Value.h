@@ -7,7 +7,7 @@
 #include <string>
 #include <variant>
 
-namespace ostrelum {
+namespace ostrelum::inline sources {
 
 /// A value of the management service: null, boolean, whole number, real number or text (UTF-8).
 /// 64-bit numbers and datetimes arrive as text, as the service delivers them.
@@ -52,4 +52,4 @@ private:
     std::variant<std::monostate, bool, std::int64_t, double, std::string> held_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::inline sources

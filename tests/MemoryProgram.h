@@ -12,6 +12,8 @@
 
 namespace ostrelum {
 
+using namespace memory_platform;
+
 /// The memory back end under the whole program, which is not started yet.
 class MemoryProgram {
 public:

@@ -8,7 +8,10 @@
 #include "platform/linux/services/MachineShell.h"
 #include "platform/qt/QtBackEnd.h"
 
-namespace ostrelum {
+namespace ostrelum::window {
+
+using namespace linux_platform;
+using namespace qt_platform;
 namespace {
 
 /// The machine of a process that has a window: what the window leaves to the desktop is handed over
@@ -73,4 +76,4 @@ int run_window(int& argc, char** argv, const ShownMachine& shown)
     return toolkit->run();
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::window

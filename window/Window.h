@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::window {
 
 /// The machine that the window shows.
 struct ShownMachine {
@@ -17,4 +17,4 @@ struct ShownMachine {
 /// the same user ends at once with 0. A root that is no folder shows "Unknown" everywhere.
 int run_window(int& argc, char** argv, const ShownMachine& shown);
 
-} // namespace ostrelum
+} // namespace ostrelum::window

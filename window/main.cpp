@@ -2,5 +2,5 @@
 
 int main(int argc, char** argv)
 {
-    return ostrelum::run_window(argc, argv, {});
+    return ostrelum::window::run_window(argc, argv, {});
 }

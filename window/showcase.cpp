@@ -6,6 +6,8 @@
 #include <string_view>
 
 using namespace ostrelum;
+using namespace ostrelum::linux_platform;
+using namespace ostrelum::window;
 
 namespace {
 

@@ -14,6 +14,9 @@
 /// What the window does for one event of the user or of a fade, up to the last pixel, on a toolkit
 /// that draws into memory. A screen at 60 Hz leaves 16 ms for it.
 namespace ostrelum {
+
+using namespace linux_platform;
+using namespace qt_platform;
 namespace {
 
 std::unique_ptr<Toolkit> toolkit;

@@ -10,7 +10,7 @@
 
 #include <utility>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 class LinuxManagementService : public ManagementService {
@@ -50,4 +50,4 @@ std::unique_ptr<ManagementService> make_linux_management_service(Sysroot root,
         MachineView{std::move(root), std::move(calls), std::move(session)});
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

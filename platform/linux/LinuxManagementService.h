@@ -7,7 +7,7 @@
 #include <memory>
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// The management service on Linux. It reads the machine under `root`: "/", or the folder of a
 /// recorded machine. `session` tells what only the desktop session knows and may be empty. Throws
@@ -18,4 +18,4 @@ std::unique_ptr<ManagementService> make_linux_management_service(const std::stri
 std::unique_ptr<ManagementService> make_linux_management_service(Sysroot root,
                                                                  SessionFactsSource session);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

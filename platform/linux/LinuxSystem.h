@@ -13,7 +13,7 @@
 #include <memory>
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// The services that need no window, on Linux. Facts about the machine come from under `root`, "/"
 /// or the folder of a recorded machine; the user's own folders and settings are always real.
@@ -44,4 +44,4 @@ struct LinuxSystem {
     LinuxFileWriter file_writer;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

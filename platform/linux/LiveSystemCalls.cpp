@@ -15,7 +15,7 @@
 #include <sys/utsname.h>
 #include <unistd.h>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 class LiveSystemCalls : public SystemCalls {
@@ -68,12 +68,12 @@ public:
 
     std::optional<PasswordPolicy> password_policy(std::uint64_t uid) override
     {
-        return ostrelum::password_policy(uid);
+        return linux_platform::password_policy(uid);
     }
 
     std::optional<std::int64_t> login_time(std::uint64_t uid) override
     {
-        return ostrelum::login_time(uid);
+        return linux_platform::login_time(uid);
     }
 
     std::optional<std::string> directory_account(std::uint64_t uid) override
@@ -107,4 +107,4 @@ std::unique_ptr<SystemCalls> live_system_calls()
     return std::make_unique<LiveSystemCalls>();
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

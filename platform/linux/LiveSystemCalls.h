@@ -4,9 +4,9 @@
 
 #include <memory>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// Asks the system that the program runs on.
 std::unique_ptr<SystemCalls> live_system_calls();
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::inline masking {
 
 MaskedService::MaskedService(std::unique_ptr<ManagementService> service,
                              const std::string& own_account)
@@ -41,4 +41,4 @@ ResultSet MaskedService::ExecQuery(std::string_view wql)
     return result;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline masking

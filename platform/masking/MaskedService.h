@@ -7,7 +7,7 @@
 #include <memory>
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::inline masking {
 
 /// Another management service whose answers have pseudonyms for what the schema says to identify
 /// somebody. Conditions are tested on the true values. Null and empty text stay so.
@@ -26,4 +26,4 @@ private:
     Pseudonyms folders_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::inline masking

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-namespace ostrelum {
+namespace ostrelum::inline masking {
 namespace {
 
 /// Filesystem Hierarchy Standard 3.0, and the folders in which systems keep containers and mounts.
@@ -54,4 +54,4 @@ std::string Pseudonyms::of_path(std::string_view path)
     return result;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline masking

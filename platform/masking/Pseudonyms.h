@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace ostrelum {
+namespace ostrelum::inline masking {
 
 /// What stands where something that identifies was.
 inline constexpr std::string_view Hidden = "(hidden)";
@@ -26,4 +26,4 @@ private:
     std::map<std::string, std::string> given_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::inline masking

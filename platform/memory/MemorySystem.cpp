@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-namespace ostrelum {
+namespace ostrelum::memory_platform {
 namespace {
 
 template <class Map>
@@ -136,4 +136,4 @@ void MemoryMachine::End()
     throw ProcessEnded();
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::memory_platform

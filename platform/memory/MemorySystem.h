@@ -19,7 +19,7 @@
 
 /// The services of the system in memory: what a test sets is what the program is told, and what the
 /// program does can be read back.
-namespace ostrelum {
+namespace ostrelum::memory_platform {
 
 /// Thrown by MemoryMachine::End: nothing of the program runs behind it, as with a process that
 /// ends.
@@ -143,4 +143,4 @@ public:
     bool ended = false;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::memory_platform

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace ostrelum {
+namespace ostrelum::memory_platform {
 namespace {
 
 int code_points(const std::string& text)
@@ -97,4 +97,4 @@ void MemoryToolkit::user(Form& form, std::string_view control, const Event& even
     form.raise(control, event);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::memory_platform

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::memory_platform {
 
 /// A window toolkit without a window: it shows nothing, measures text with fixed widths and lets
 /// the caller move the clock. Tests and the console stand on it.
@@ -67,4 +67,4 @@ private:
     std::map<const Timer*, int> waited_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::memory_platform

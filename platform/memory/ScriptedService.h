@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::memory_platform {
 
 /// What a scripted management service answers, and what it was asked.
 struct ServiceScript {
@@ -35,4 +35,4 @@ private:
     ServiceScript& script_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::memory_platform

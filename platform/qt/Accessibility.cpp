@@ -11,7 +11,7 @@
 
 #include <algorithm>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 namespace {
 
 bool has_content(const QWidget& widget);
@@ -122,4 +122,4 @@ void install_accessibility()
     QAccessible::installFactory(interface_of);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

@@ -6,7 +6,7 @@
 #include <QPalette>
 #include <QWidget>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 
 inline QColor qt_colour(Colour colour)
 {
@@ -34,4 +34,4 @@ inline QPalette box_palette(QPalette palette)
     return palette;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

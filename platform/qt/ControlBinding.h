@@ -9,7 +9,7 @@
 #include <memory>
 #include <optional>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 
 /// What the parts of a form's window share.
 struct WindowContext {
@@ -110,4 +110,4 @@ private:
     std::optional<ControlType> shown_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

@@ -5,7 +5,7 @@
 #include "platform/qt/PictureBinding.h"
 #include "platform/qt/TimerBinding.h"
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 namespace {
 
 struct Maker {
@@ -42,4 +42,4 @@ std::unique_ptr<ControlBinding> make_binding(const ControlEntry& entry, QWidget&
     return std::visit(Maker{entry, parent, context}, entry.control);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

@@ -4,7 +4,7 @@
 
 #include <QGuiApplication>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 namespace {
 
 /// On X11 a cursor's picture is taken pixel by pixel, and its hot spot with it.
@@ -53,4 +53,4 @@ void Cursors::set_screen(MouseCursor cursor) const
         QGuiApplication::setOverrideCursor(cursor_of(cursor));
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

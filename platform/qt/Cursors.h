@@ -6,7 +6,7 @@
 #include <QCursor>
 #include <QWidget>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 
 /// The mouse cursors that the program asks for.
 class Cursors {
@@ -25,4 +25,4 @@ private:
     QCursor hand_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

@@ -2,7 +2,7 @@
 
 #include <QLibrary>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 namespace {
 
 /// What is used of GIO. It is loaded when it is first asked for: a desktop of another family may
@@ -64,4 +64,4 @@ std::optional<bool> desktop_setting(const char* schema_id, const char* key)
     return value;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

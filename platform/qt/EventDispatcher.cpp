@@ -1,6 +1,6 @@
 #include "platform/qt/EventDispatcher.h"
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 
 void EventDispatcher::raise(const Form& form, const ControlEntry* entry, const Event& event)
 {
@@ -22,4 +22,4 @@ void EventDispatcher::sync_all()
     syncing_ = false;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

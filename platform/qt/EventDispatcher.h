@@ -7,7 +7,7 @@
 #include <functional>
 #include <optional>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 
 /// The one way in which what happens on the screen reaches the program: event by event, each
 /// followed by a walk over the forms that shows what it changed.
@@ -31,4 +31,4 @@ private:
     bool syncing_ = false;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

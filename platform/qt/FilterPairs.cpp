@@ -1,6 +1,6 @@
 #include "platform/qt/FilterPairs.h"
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 
 QStringList name_filters(const std::string& pairs)
 {
@@ -18,4 +18,4 @@ QStringList name_filters(const std::string& pairs)
     return filters;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

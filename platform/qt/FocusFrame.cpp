@@ -2,7 +2,7 @@
 
 #include <QPainter>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 namespace {
 
 /// Pixels between the widget and the frame's outer edge.
@@ -38,4 +38,4 @@ void FocusFrame::paintEvent(QPaintEvent*)
     painter.drawRect(rect().adjusted(1, 1, -2, -2));
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 
 /// The frame round the control that has the keyboard. It is a widget of its own over all others of
 /// the window, because a picture may lie over the control.
@@ -16,4 +16,4 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

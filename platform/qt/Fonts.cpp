@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 namespace {
 
 /// Points are counted 96 to the inch, so that the layout is in pixels whatever the screen says of
@@ -61,4 +61,4 @@ int left_lean(const QString& text, const QFont& font)
     return text.isEmpty() ? 0 : std::max(0, -QFontMetrics(font).leftBearing(text.front()));
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

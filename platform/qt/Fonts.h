@@ -5,7 +5,7 @@
 
 #include <QFont>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 
 /// The font of a control. Where the named family is not installed, one of nearly the same width
 /// stands in.
@@ -18,4 +18,4 @@ TextSize measure(const QString& text, const QFont& font);
 /// Pixels that the ink of a text's first letter leans out of the text on the left, 0 or more.
 int left_lean(const QString& text, const QFont& font);
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

@@ -10,7 +10,7 @@
 #include <QIcon>
 #include <QScreen>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 namespace {
 
 Qt::WindowFlags frame_of(const Form& form, Qt::WindowType kind)
@@ -142,4 +142,4 @@ bool FormWindow::eventFilter(QObject*, QEvent* event)
     return false;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

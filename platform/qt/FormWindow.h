@@ -2,7 +2,7 @@
 
 #include "platform/qt/Keyboard.h"
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 
 /// The window of a form, with a widget for each of its controls.
 class FormWindow : public QWidget {
@@ -50,4 +50,4 @@ private:
     std::optional<Frame> shown_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

@@ -1,6 +1,6 @@
 #include "platform/qt/Images.h"
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 
 QImage image_of(const Bitmap& bitmap)
 {
@@ -24,4 +24,4 @@ QPixmap pixmap_of(const Bitmap& bitmap)
     return QPixmap::fromImage(image_of(bitmap).copy());
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

@@ -5,7 +5,7 @@
 #include <QImage>
 #include <QPixmap>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 
 /// A view of a bitmap's own bytes, which must stay; only a bitmap with coverage is copied. A null
 /// image for an empty or a torn bitmap.
@@ -14,4 +14,4 @@ QImage image_of(const Bitmap& bitmap);
 /// A copy for icons and mouse cursors.
 QPixmap pixmap_of(const Bitmap& bitmap);
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

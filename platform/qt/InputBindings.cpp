@@ -4,7 +4,7 @@
 #include "platform/qt/Fonts.h"
 #include "platform/qt/Text.h"
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 
 ButtonBinding::ButtonBinding(CommandButton& button, const ControlEntry& entry, QWidget& parent,
                              const WindowContext& context)
@@ -134,4 +134,4 @@ void ComboBoxBinding::apply()
     appear(*widget_);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

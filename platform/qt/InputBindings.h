@@ -8,7 +8,7 @@
 #include <QPushButton>
 
 /// The controls of which the user changes the value.
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 
 class ButtonBinding : public BindingOf<CommandButton> {
 public:
@@ -61,4 +61,4 @@ private:
     QComboBox* widget_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

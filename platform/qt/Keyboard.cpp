@@ -2,7 +2,7 @@
 
 #include <QPushButton>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 Keyboard::Keyboard(QWidget& window, const ControlBindings& bindings, const WindowContext& context)
     : window_(window), bindings_(bindings), context_(context), frame_(window)
 {
@@ -135,4 +135,4 @@ bool Keyboard::move_focus(int key)
     return true;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

@@ -7,7 +7,7 @@
 
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 
 /// The bindings of a form, at the places of its controls.
 using ControlBindings = std::vector<std::unique_ptr<ControlBinding>>;
@@ -45,4 +45,4 @@ private:
     bool in_use_ = false;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

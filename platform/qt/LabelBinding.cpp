@@ -4,7 +4,7 @@
 #include "platform/qt/Fonts.h"
 #include "platform/qt/Text.h"
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 namespace {
 
 Qt::Alignment alignment_of(Align align)
@@ -78,4 +78,4 @@ void LabelBinding::apply_text()
         widget_->setText(qt_text(control_.Caption));
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

@@ -5,7 +5,7 @@
 
 #include <QLabel>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 
 /// A label's widget.
 class LabelWidget : public QLabel {
@@ -32,4 +32,4 @@ private:
     MouseEventFilter* mouse_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 
 LineWidget::LineWidget(QWidget* parent) : QWidget(parent)
 {
@@ -49,4 +49,4 @@ void LineBinding::apply()
     appear(*widget_);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

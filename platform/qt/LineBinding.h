@@ -2,7 +2,7 @@
 
 #include "platform/qt/ControlBinding.h"
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 
 /// A line's widget; the mouse goes through it.
 class LineWidget : public QWidget {
@@ -29,4 +29,4 @@ private:
     LineWidget* widget_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

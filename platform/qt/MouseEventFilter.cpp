@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <array>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 namespace {
 
 int number_of(Qt::MouseButtons buttons)
@@ -120,4 +120,4 @@ void MouseEventFilter::press(int button)
         raise(EventKind::Click, button, {}, at);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

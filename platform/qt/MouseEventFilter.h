@@ -4,7 +4,7 @@
 
 #include <QMouseEvent>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 
 /// Turns what the mouse does on a widget into events of its control, and shows its tooltip. A
 /// control to which nobody listens lets its mouse through to what holds it, in the end the form.
@@ -36,4 +36,4 @@ private:
     Qt::MouseButtons pressed_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

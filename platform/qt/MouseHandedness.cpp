@@ -7,7 +7,7 @@
 #include <QStandardPaths>
 #include <QStringList>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 namespace {
 
 /// Each device has a group of its own, named after maker, model and name.
@@ -61,4 +61,4 @@ std::optional<bool> left_handed()
     return QGuiApplication::platformName() == "xcb" ? left_handed_on_x11(nullptr) : std::nullopt;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

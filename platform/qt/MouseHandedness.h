@@ -3,7 +3,7 @@
 #include <optional>
 
 /// Which hand the mouse is set up for. Each function gives nothing where it cannot tell.
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 
 /// In the session that the program runs in.
 std::optional<bool> left_handed();
@@ -16,4 +16,4 @@ std::optional<bool> left_handed_on_x11(const char* display);
 /// and its kin (GSettings) or of KDE (kcminputrc).
 std::optional<bool> left_handed_by_settings();
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

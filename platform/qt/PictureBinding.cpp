@@ -2,7 +2,7 @@
 
 #include "platform/qt/Text.h"
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 
 PictureBinding::PictureBinding(PictureBox& box, const ControlEntry& entry, QWidget& parent,
                                const WindowContext& context)
@@ -36,4 +36,4 @@ void PictureBinding::apply()
     appear(*widget_);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

@@ -4,7 +4,7 @@
 #include "platform/qt/MouseEventFilter.h"
 #include "platform/qt/PictureWidget.h"
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 
 class PictureBinding : public BindingOf<PictureBox> {
 public:
@@ -20,4 +20,4 @@ private:
     MouseEventFilter* mouse_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

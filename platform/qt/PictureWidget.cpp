@@ -5,7 +5,7 @@
 
 #include <QPainter>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 
 void PictureWidget::set_ground(bool transparent, Colour colour)
 {
@@ -47,4 +47,4 @@ void PictureWidget::paintEvent(QPaintEvent*)
     painter.drawImage(0, 0, image_);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

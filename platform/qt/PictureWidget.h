@@ -8,7 +8,7 @@
 
 #include <functional>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 
 /// A picture box's widget: its ground, and over it the picture from the top left corner.
 class PictureWidget : public QWidget {
@@ -34,4 +34,4 @@ private:
     qreal scale_ = 0;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

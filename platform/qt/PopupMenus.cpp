@@ -4,7 +4,7 @@
 
 #include <QMenu>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 namespace {
 
 QAction* add_entry(QMenu& shown, const MenuItem& item)
@@ -53,4 +53,4 @@ void pop_up(FormWindow& window, EventDispatcher& dispatcher, const PopupMenu& me
     shown->popup(at);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

@@ -11,7 +11,7 @@
 
 /// The window toolkit on Qt 6 Widgets, and the services that come with the desktop session. No type
 /// of Qt passes through here.
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 
 /// What the program itself gives to the toolkit.
 struct QtLook {
@@ -36,4 +36,4 @@ SessionFactsSource qt_session_facts();
 /// desktop's clipboard manager, if there is one. Nothing of this back end may be used afterwards.
 void prepare_end();
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

@@ -4,7 +4,7 @@
 #include <QDesktopServices>
 #include <QUrl>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 namespace {
 
 class QtBrowser : public Browser {
@@ -26,4 +26,4 @@ std::unique_ptr<Browser> make_qt_browser()
     return std::make_unique<QtBrowser>();
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

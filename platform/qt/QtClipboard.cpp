@@ -5,7 +5,7 @@
 #include <QApplication>
 #include <QClipboard>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 namespace {
 
 QClipboard& clipboard()
@@ -38,4 +38,4 @@ void prepare_end()
     qApp->~QApplication();
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

@@ -7,7 +7,7 @@
 #include <QFileInfo>
 #include <QMessageBox>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 namespace {
 
 class QtSaveDialog : public SaveDialog {
@@ -70,4 +70,4 @@ std::unique_ptr<SaveDialog> make_qt_save_dialog()
     return std::make_unique<QtSaveDialog>();
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

@@ -5,7 +5,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 namespace {
 
 /// Colours of 24 and 30 bits stand in pixels of 32.
@@ -40,4 +40,4 @@ SessionFactsSource qt_session_facts()
     };
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

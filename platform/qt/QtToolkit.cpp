@@ -14,7 +14,7 @@
 #include <QTranslator>
 #include <QWindow>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 namespace {
 
 /// The desktop's words on the toolkit's own buttons, such as those of the save dialog.
@@ -216,4 +216,4 @@ int QtToolkit::run()
     return QApplication::exec();
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

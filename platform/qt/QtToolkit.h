@@ -7,7 +7,7 @@
 
 #include <map>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 
 class QtToolkit final : public Toolkit {
 public:
@@ -51,4 +51,4 @@ private:
     std::map<const Form*, Layer> layers_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

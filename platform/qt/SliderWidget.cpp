@@ -6,7 +6,7 @@
 
 #include <cmath>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 namespace {
 
 constexpr QColor Track(229, 234, 240);
@@ -79,4 +79,4 @@ void SliderWidget::draw_thumb(QPainter& painter, const QRectF& thumb) const
     }
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

@@ -3,7 +3,7 @@
 #include <QPainter>
 #include <QScrollBar>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 
 /// A slider that stands on its own. Desktop styles draw scroll bars for the edge of a frame, open
 /// at the sides; only their measures are kept, so that the mouse finds what it sees.
@@ -19,4 +19,4 @@ private:
     void draw_thumb(QPainter& painter, const QRectF& thumb) const;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

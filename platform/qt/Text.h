@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 
 /// The program's UTF-8 as the toolkit takes it.
 inline QString qt_text(const std::string& text)
@@ -12,4 +12,4 @@ inline QString qt_text(const std::string& text)
     return QString::fromStdString(text);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 namespace {
 
 /// Milliseconds of a screen frame, the fastest tick.
@@ -29,4 +29,4 @@ void TimerBinding::apply()
         clock_.stop();
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

@@ -4,7 +4,7 @@
 
 #include <QTimer>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 
 class TimerBinding : public BindingOf<Timer> {
 public:
@@ -18,4 +18,4 @@ private:
     QTimer clock_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

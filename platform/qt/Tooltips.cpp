@@ -2,7 +2,7 @@
 
 #include <QToolTip>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 
 QString tooltip_markup(const QString& text)
 {
@@ -18,4 +18,4 @@ bool show_tooltip(QWidget& widget, const QHelpEvent& help)
     return true;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

@@ -3,7 +3,7 @@
 #include <QHelpEvent>
 #include <QWidget>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 
 /// The text as the toolkit's tooltips have to be given it to be shown letter by letter, even if it
 /// looks like markup, and wrapped where it is long.
@@ -12,4 +12,4 @@ QString tooltip_markup(const QString& text);
 /// Shows the widget's tooltip. False if it has none.
 bool show_tooltip(QWidget& widget, const QHelpEvent& help);
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

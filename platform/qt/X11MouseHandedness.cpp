@@ -6,7 +6,7 @@
 #include <xcb/xcb.h>
 #include <xcb/xinput.h>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 namespace {
 
 template <typename Reply>
@@ -75,4 +75,4 @@ std::optional<bool> left_handed_on_x11(const char* display)
     return buttons_are_swapped(server.get()) || a_device_is_left_handed(server.get());
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::inline system {
 
 /// Opens addresses in the user's browser.
 class Browser {
@@ -12,4 +12,4 @@ public:
     virtual void ShellExecuteA(const std::string& verb, const std::string& address) = 0;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::inline system

@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::inline system {
 
 /// The user's clipboard, plain text only. Both operations throw Failure if the clipboard cannot be
 /// had.
@@ -14,4 +14,4 @@ public:
     virtual void SetText(const std::string& text) = 0;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::inline system

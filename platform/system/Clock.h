@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace ostrelum {
+namespace ostrelum::inline system {
 
 /// A calendar date. Year 1 to 9999, month 1 to 12, day 1 to 31.
 struct Date {
@@ -32,4 +32,4 @@ public:
     virtual TimeOfDay time() = 0;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::inline system

@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-namespace ostrelum {
+namespace ostrelum::inline system {
 
 /// The one way in which an operation of the machine fails: a query refused, a value missing or of
 /// the wrong kind, a write without rights. Only the helpers of figures/PassOver.h catch it.
@@ -11,4 +11,4 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::inline system

@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::inline system {
 
 /// Writes the files that the user asks for.
 class FileWriter {
@@ -13,4 +13,4 @@ public:
     virtual void replace(const std::string& path, const std::string& bytes) = 0;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::inline system

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::inline system {
 
 /// The record of `GetOstrelum`.
 struct SystemInfo {
@@ -36,4 +36,4 @@ public:
     virtual void End() = 0;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::inline system

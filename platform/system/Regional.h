@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::inline system {
 
 /// The forms of the user's regional settings. All texts are UTF-8.
 class Regional {
@@ -20,4 +20,4 @@ public:
     virtual std::string decimal_sign() = 0;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::inline system

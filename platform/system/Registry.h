@@ -6,7 +6,7 @@
 #include <span>
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::inline system {
 
 /// Predefined root of the machine-wide keys.
 inline constexpr std::uint32_t HKEY_LOCAL_MACHINE = 0x80000002U;
@@ -32,4 +32,4 @@ public:
     virtual void RegCloseKey(Key key) = 0;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::inline system

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::inline system {
 
 /// What the save dialog is asked for.
 struct OpenFileName {
@@ -38,4 +38,4 @@ public:
     virtual std::optional<ChosenFile> GetSaveFileNameA(const OpenFileName& request) = 0;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::inline system

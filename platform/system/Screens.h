@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::inline system {
 
 /// One screen as the window system knows it. A number of 0 is not known.
 struct ScreenFact {
@@ -31,4 +31,4 @@ struct SessionFacts {
 
 using SessionFactsSource = std::function<SessionFacts()>;
 
-} // namespace ostrelum
+} // namespace ostrelum::inline system

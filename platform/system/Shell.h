@@ -6,7 +6,7 @@
 #include <string>
 #include <variant>
 
-namespace ostrelum {
+namespace ostrelum::inline system {
 
 /// A stored setting: text ("REG_SZ") or an unsigned 32-bit number ("REG_DWORD").
 using RegValue = std::variant<std::string, std::uint32_t>;
@@ -30,4 +30,4 @@ public:
     virtual std::string SpecialFolders(const std::string& name) = 0;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::inline system

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace ostrelum {
+namespace ostrelum::inline toolkit {
 
 /// A colour as 0x00BBGGRR.
 using Colour = std::uint32_t;
@@ -29,4 +29,4 @@ constexpr int blue_of(Colour colour)
 
 inline constexpr Colour White = RGB(255, 255, 255);
 
-} // namespace ostrelum
+} // namespace ostrelum::inline toolkit

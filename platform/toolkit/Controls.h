@@ -10,7 +10,7 @@
 /// Controls as plain data. Places and sizes are pixels of the box or the client area that holds the
 /// control. The program's logic assigns fields; a back end compares each control with what it shows
 /// and brings what differs to the screen.
-namespace ostrelum {
+namespace ostrelum::inline toolkit {
 
 struct Point {
     int x = 0;
@@ -176,4 +176,4 @@ using Control = std::variant<Label, PictureBox, Line, CommandButton, ScrollBar, 
 using ControlPointer = std::variant<Label*, PictureBox*, Line*, CommandButton*, ScrollBar*,
                                     CheckBox*, ComboBox*, PopupMenu*, MenuItem*, Timer*>;
 
-} // namespace ostrelum
+} // namespace ostrelum::inline toolkit

@@ -4,7 +4,7 @@
 
 #include <type_traits>
 
-namespace ostrelum {
+namespace ostrelum::inline toolkit {
 
 /// Places the controls of a form, one call for each row of the form's design: gives the control its
 /// first look and enters it in Form::controls. Later rows lie over earlier ones of the same
@@ -51,4 +51,4 @@ private:
     int container_ = -1;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::inline toolkit

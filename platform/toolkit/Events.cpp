@@ -1,6 +1,6 @@
 #include "platform/toolkit/Events.h"
 
-namespace ostrelum {
+namespace ostrelum::inline toolkit {
 namespace {
 
 struct Caller {
@@ -29,4 +29,4 @@ void Handler::operator()(const Event& event) const
     std::visit(Caller{event}, call);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline toolkit

@@ -6,7 +6,7 @@
 #include <utility>
 #include <variant>
 
-namespace ostrelum {
+namespace ostrelum::inline toolkit {
 
 enum class EventKind {
     Initialize,
@@ -97,4 +97,4 @@ private:
 
 using HandlerTable = std::span<const Handler>;
 
-} // namespace ostrelum
+} // namespace ostrelum::inline toolkit

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cassert>
 
-namespace ostrelum {
+namespace ostrelum::inline toolkit {
 namespace {
 
 const Handler* find_handler(const Form& form, std::string_view name, EventKind kind)
@@ -83,4 +83,4 @@ void choose(const Form& form, ComboBox& list, int index)
     form.raise(form.entry_of(&list), {.kind = EventKind::Click});
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline toolkit

@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::inline toolkit {
 
 /// Controls of one name, told apart by an index that counts from 1: LT(1) to LT(12).
 template <class ControlType, std::size_t Count>
@@ -82,4 +82,4 @@ void set_value(const Form& form, CheckBox& box, int value);
 /// Chooses an entry by program. Raises Click, whether or not it was chosen before.
 void choose(const Form& form, ComboBox& list, int index);
 
-} // namespace ostrelum
+} // namespace ostrelum::inline toolkit

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-namespace ostrelum {
+namespace ostrelum::inline toolkit {
 namespace {
 
 std::uint64_t next_number()
@@ -42,4 +42,4 @@ Picture Picture::redrawn(Bitmap bitmap, Maker at_double) const
     return drawn;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline toolkit

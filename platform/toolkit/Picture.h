@@ -6,7 +6,7 @@
 #include <memory>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::inline toolkit {
 
 /// Pixels as the window system's own 24-bit bitmaps hold them: blue, green, red, rows from top to
 /// bottom, each row filled up to a multiple of 4 bytes.
@@ -80,4 +80,4 @@ private:
     std::shared_ptr<Content> content_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::inline toolkit

@@ -1,6 +1,6 @@
 #include "platform/toolkit/Toolkit.h"
 
-namespace ostrelum {
+namespace ostrelum::inline toolkit {
 
 bool Unload(Toolkit& toolkit, Form& form)
 {
@@ -20,4 +20,4 @@ void fit(const Toolkit& toolkit, Label& label)
     label.Height = size.height;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline toolkit

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::inline toolkit {
 
 struct TextSize {
     int width = 0;
@@ -67,4 +67,4 @@ bool Unload(Toolkit& toolkit, Form& form);
 /// Gives a label that sizes itself the size of its text.
 void fit(const Toolkit& toolkit, Label& label);
 
-} // namespace ostrelum
+} // namespace ostrelum::inline toolkit

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::inline wql {
 namespace {
 
 using Properties = std::span<const PropertySchema>;
@@ -93,4 +93,4 @@ ResultSet run_query(const WqlQuery& query, const ClassSchema& schema, const Obje
     return result;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline wql

@@ -8,7 +8,7 @@
 #include <cstddef>
 #include <functional>
 
-namespace ostrelum {
+namespace ostrelum::inline wql {
 
 /// Gives an object's property by its place in the schema.
 using PropertyReader = std::function<Value(std::size_t index)>;
@@ -24,4 +24,4 @@ using ObjectSource = std::function<void(const ObjectVisitor& visit)>;
 /// objects or not.
 ResultSet run_query(const WqlQuery& query, const ClassSchema& schema, const ObjectSource& objects);
 
-} // namespace ostrelum
+} // namespace ostrelum::inline wql

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <array>
 
-namespace ostrelum {
+namespace ostrelum::inline wql {
 namespace {
 
 /// How a comparison is written, and what it becomes when its sides change places.
@@ -173,4 +173,4 @@ WqlQuery parse_wql(std::string_view text)
     return Parser(text).query();
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline wql

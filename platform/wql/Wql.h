@@ -9,7 +9,7 @@
 
 /// Reading WQL, the query language of the management service: `Select LIST from CLASS [where
 /// CONDITION]`. Keywords and names match in any case of their letters.
-namespace ostrelum {
+namespace ostrelum::inline wql {
 
 enum class Comparison { Equal, NotEqual, Less, LessOrEqual, Greater, GreaterOrEqual };
 
@@ -42,4 +42,4 @@ WqlQuery parse_wql(std::string_view text);
 
 inline constexpr int wql_depth = 64;
 
-} // namespace ostrelum
+} // namespace ostrelum::inline wql

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <compare>
 
-namespace ostrelum {
+namespace ostrelum::inline wql {
 namespace {
 
 Value typed_literal(const Value& literal, CimType type)
@@ -101,4 +101,4 @@ std::optional<bool> truth_of(const Condition& condition, const PropertyByName& p
     return denied ? std::optional(!*denied) : std::nullopt;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline wql

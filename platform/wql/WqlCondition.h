@@ -8,7 +8,7 @@
 #include <string_view>
 
 /// Deciding which objects a query's condition takes.
-namespace ostrelum {
+namespace ostrelum::inline wql {
 
 /// The condition with each literal in the kind of its property: numbers for numbers, whatever
 /// quotes the query puts round them. Throws Failure for a property that the class does not have and
@@ -23,4 +23,4 @@ using PropertyByName = std::function<Value(std::string_view name)>;
 /// without regard to ASCII case. Properties behind the deciding part are not asked for.
 std::optional<bool> truth_of(const Condition& condition, const PropertyByName& property);
 
-} // namespace ostrelum
+} // namespace ostrelum::inline wql

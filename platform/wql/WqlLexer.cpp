@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <charconv>
 
-namespace ostrelum {
+namespace ostrelum::inline wql {
 namespace {
 
 /// Longer ones first.
@@ -129,4 +129,4 @@ void refuse_token(const WqlToken& token)
     refuse("unexpected ", token.text);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::inline wql

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace ostrelum {
+namespace ostrelum::inline wql {
 
 /// A token of a query: a name or keyword, a literal of text or number, a symbol such as "<=".
 struct WqlToken {
@@ -47,4 +47,4 @@ private:
 /// The refusal of a token that must not stand where it does.
 [[noreturn]] void refuse_token(const WqlToken& token);
 
-} // namespace ostrelum
+} // namespace ostrelum::inline wql

@@ -5,6 +5,9 @@
 #include <malloc.h>
 
 namespace ostrelum {
+
+using namespace console;
+
 namespace {
 
 constexpr int LivePages[] = {2, 4, 6, 13};

@@ -1,7 +1,5 @@
 #include "tests/Stage.h"
 
-#include "art/PictureFiles.h"
-#include "skin/Bmp.h"
 #include "skin/Pixels.h"
 #include "skin/Skin.h"
 
@@ -165,20 +163,6 @@ TEST_F(Skin, EveryPictureOfTheDesignIsThereInItsSize)
                     ASSERT_TRUE(p[0] == p[1] && p[1] == p[2]) << "not grey in row " << y;
             }
         }
-    }
-}
-
-TEST(BmpFiles, ThatAreCutOrForeignGiveNothing)
-{
-    const std::span<const std::uint8_t> file = picture_file("BM");
-    ASSERT_TRUE(read_bmp(file));
-    for (std::size_t size = 0; size < file.size(); ++size)
-        EXPECT_FALSE(read_bmp(file.first(size))) << size;
-    // The two letters, a side beyond all pictures, the bits of a pixel, a way of compression.
-    for (const std::size_t at : {0U, 1U, 21U, 25U, 28U, 30U}) {
-        std::vector<std::uint8_t> foreign(file.begin(), file.end());
-        foreign[at] ^= 0x41U;
-        EXPECT_FALSE(read_bmp(foreign)) << at;
     }
 }
 

@@ -10,6 +10,9 @@
 #include <gtest/gtest.h>
 
 namespace ostrelum {
+
+using namespace memory_platform;
+
 namespace {
 
 TEST(RealText, HasFifteenSignificantDigitsAndNoTrailingZeros)

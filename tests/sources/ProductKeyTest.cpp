@@ -6,6 +6,9 @@
 #include <string>
 
 namespace ostrelum {
+
+using namespace memory_platform;
+
 namespace {
 
 /// The bytes of a key from the lowest on, written with two digits each.

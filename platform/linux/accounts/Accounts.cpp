@@ -6,7 +6,7 @@
 #include <array>
 #include <iterator>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 /// What colons divide; missing fields are empty.
@@ -98,4 +98,4 @@ std::vector<Account> local_accounts(const MachineView& machine)
     return accounts;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

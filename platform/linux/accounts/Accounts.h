@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// A line of /etc/passwd (passwd(5)).
 struct Account {
@@ -40,4 +40,4 @@ bool administers(std::string_view groups, const Account& account);
 /// the network are not asked for all that they hold: they may not answer.
 std::vector<Account> local_accounts(const MachineView& machine);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

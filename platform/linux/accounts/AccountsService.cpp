@@ -6,7 +6,7 @@
 #include <systemd/sd-bus.h>
 #include <unistd.h>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 constexpr const char* BusSocket = "/run/dbus/system_bus_socket";
@@ -135,4 +135,4 @@ std::optional<std::int64_t> login_time(std::uint64_t uid)
     return seconds && *seconds > 0 ? seconds : std::nullopt;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

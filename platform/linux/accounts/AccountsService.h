@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <optional>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// What the password file's ages mean on a day: all in days, `last_change` and `today` since 1970.
 /// A longest age of 99999 and more, or below 0, means none (shadow(5)).
@@ -21,4 +21,4 @@ std::optional<PasswordPolicy> password_policy(std::uint64_t uid);
 /// where it does not, and for never.
 std::optional<std::int64_t> login_time(std::uint64_t uid);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

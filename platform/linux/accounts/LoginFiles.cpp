@@ -5,7 +5,7 @@
 
 #include <limits>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 /// A log of more bytes is not read.
@@ -72,4 +72,4 @@ std::optional<std::uint32_t> LoginFiles::failures(const Account& account) const
     return file ? std::optional(failed_logins(span_of(*file))) : std::nullopt;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -7,7 +7,7 @@
 #include <optional>
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// What a machine's files tell of logins. A file is read when it is first asked for, and the logs
 /// are kept as long as the object: they are the same for every account.
@@ -39,4 +39,4 @@ private:
     Log before_{"/var/log/wtmp.1"};
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

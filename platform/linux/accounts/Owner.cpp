@@ -2,7 +2,7 @@
 
 #include "platform/linux/accounts/Accounts.h"
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 std::optional<std::string> owner_of(const Sysroot& root)
 {
@@ -17,4 +17,4 @@ std::optional<std::string> owner_of(const Sysroot& root)
     return first->full_name.empty() ? first->name : first->full_name;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -1,6 +1,6 @@
 #include "platform/linux/classes/Classes.h"
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 constexpr const LinuxClass* classes[] = {
@@ -22,4 +22,4 @@ const LinuxClass* find_linux_class(std::string_view name)
     return found == std::end(classes) ? nullptr : *found;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -22,7 +22,7 @@
 ///
 /// and a line in Classes.cpp. A table that does not have the schema's properties in the schema's
 /// order does not compile.
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// A property and how it is read. Whole numbers are given as such whatever their width; what is not
 /// known is null. Such a function does not throw.
@@ -84,4 +84,4 @@ extern const LinuxClass Win32_VideoController;
 /// The class of that name in any case of its letters; nullptr if Linux does not fill it.
 const LinuxClass* find_linux_class(std::string_view name);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -5,7 +5,7 @@
 
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 Value manufacturer(const FirmwareStrings& firmware)
@@ -66,4 +66,4 @@ std::vector<FirmwareStrings> firmware(const MachineView& machine)
 
 constinit const LinuxClass Win32_BIOS = linux_class<rows, firmware>("Win32_BIOS");
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 Value manufacturer(const FirmwareStrings& firmware)
@@ -34,4 +34,4 @@ std::vector<FirmwareStrings> board(const MachineView& machine)
 
 constinit const LinuxClass Win32_BaseBoard = linux_class<rows, board>("Win32_BaseBoard");
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 struct Battery {
@@ -124,4 +124,4 @@ std::vector<Battery> batteries(const MachineView& machine)
 
 constinit const LinuxClass Win32_Battery = linux_class<rows, batteries>("Win32_Battery");
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

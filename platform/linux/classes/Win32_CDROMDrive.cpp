@@ -7,7 +7,7 @@
 #include <array>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 struct Drive {
@@ -123,4 +123,4 @@ std::vector<Drive> drives(const MachineView& machine)
 
 constinit const LinuxClass Win32_CDROMDrive = linux_class<rows, drives>("Win32_CDROMDrive");
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -6,7 +6,7 @@
 
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 /// The machine itself.
@@ -122,4 +122,4 @@ std::vector<Computer> computers(const MachineView& machine)
 constinit const LinuxClass Win32_ComputerSystem =
     linux_class<rows, computers>("Win32_ComputerSystem");
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

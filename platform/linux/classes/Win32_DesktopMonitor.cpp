@@ -5,7 +5,7 @@
 
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 /// A monitor by what it tells of itself, else by what the window system knows.
@@ -82,4 +82,4 @@ std::vector<Monitor> monitors(const MachineView& machine)
 constinit const LinuxClass Win32_DesktopMonitor =
     linux_class<rows, monitors>("Win32_DesktopMonitor");
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

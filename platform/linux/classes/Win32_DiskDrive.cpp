@@ -7,7 +7,7 @@
 #include <set>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 struct Drive {
@@ -137,4 +137,4 @@ std::vector<Drive> drives(const MachineView& machine)
 
 constinit const LinuxClass Win32_DiskDrive = linux_class<rows, drives>("Win32_DiskDrive");
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 struct Keyboard {
@@ -43,4 +43,4 @@ std::vector<Keyboard> keyboards(const MachineView& machine)
 
 constinit const LinuxClass Win32_Keyboard = linux_class<rows, keyboards>("Win32_Keyboard");
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

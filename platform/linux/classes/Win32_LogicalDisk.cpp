@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 constexpr int Removable = 2;
@@ -151,4 +151,4 @@ std::vector<Disk> disks(const MachineView& machine)
 
 constinit const LinuxClass Win32_LogicalDisk = linux_class<rows, disks>("Win32_LogicalDisk");
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

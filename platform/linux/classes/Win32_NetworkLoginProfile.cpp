@@ -6,7 +6,7 @@
 #include <memory>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 struct Profile {
@@ -85,4 +85,4 @@ std::vector<Profile> profiles(const MachineView& machine)
 constinit const LinuxClass Win32_NetworkLoginProfile =
     linux_class<rows, profiles>("Win32_NetworkLoginProfile");
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

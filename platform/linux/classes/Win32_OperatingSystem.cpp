@@ -14,7 +14,7 @@
 #include <algorithm>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 /// The running system.
@@ -175,4 +175,4 @@ std::vector<System> systems(const MachineView& machine)
 constinit const LinuxClass Win32_OperatingSystem =
     linux_class<rows, systems>("Win32_OperatingSystem");
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

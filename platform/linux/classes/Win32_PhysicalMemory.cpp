@@ -3,7 +3,7 @@
 
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 /// 64-bit numbers are text.
@@ -51,4 +51,4 @@ std::vector<MemoryDevice> modules(const MachineView& machine)
 constinit const LinuxClass Win32_PhysicalMemory =
     linux_class<rows, modules>("Win32_PhysicalMemory");
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

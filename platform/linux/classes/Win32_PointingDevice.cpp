@@ -3,7 +3,7 @@
 
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 struct Pointer {
@@ -72,4 +72,4 @@ std::vector<Pointer> pointers(const MachineView& machine)
 constinit const LinuxClass Win32_PointingDevice =
     linux_class<rows, pointers>("Win32_PointingDevice");
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

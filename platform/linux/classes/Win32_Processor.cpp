@@ -12,7 +12,7 @@
 #include <set>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 constexpr std::uint64_t KiloPerMega = 1000;
@@ -241,4 +241,4 @@ constexpr PropertyRow<CpuPackage> rows[] = {
 
 constinit const LinuxClass Win32_Processor = linux_class<rows, cpu_packages>("Win32_Processor");
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

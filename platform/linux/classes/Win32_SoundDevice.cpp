@@ -6,7 +6,7 @@
 
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 constexpr std::string_view class_folder = "/sys/class/sound/";
@@ -129,4 +129,4 @@ std::vector<SoundDevice> sound_devices(const MachineView& machine)
 constinit const LinuxClass Win32_SoundDevice =
     linux_class<rows, sound_devices>("Win32_SoundDevice");
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

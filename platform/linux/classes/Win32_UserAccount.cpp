@@ -3,7 +3,7 @@
 
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 struct LocalAccount {
@@ -74,4 +74,4 @@ std::vector<LocalAccount> accounts(const MachineView& machine)
 
 constinit const LinuxClass Win32_UserAccount = linux_class<rows, accounts>("Win32_UserAccount");
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -8,7 +8,7 @@
 #include <limits>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 struct Adapter {
@@ -169,4 +169,4 @@ std::vector<Adapter> adapters(const MachineView& machine)
 constinit const LinuxClass Win32_VideoController =
     linux_class<rows, adapters>("Win32_VideoController");
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

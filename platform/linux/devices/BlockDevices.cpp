@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <set>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 constexpr std::uint64_t SectorBytes = 512;
@@ -122,4 +122,4 @@ std::optional<std::uint64_t> device_bytes(const Sysroot& root, const std::string
     return *sectors * SectorBytes;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

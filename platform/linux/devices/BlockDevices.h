@@ -10,7 +10,7 @@
 
 /// Block devices by the kernel's names, such as "sda1" or "dm-0". A name that is empty or not there
 /// gives nothing.
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// The number "major:minor" of a device.
 std::optional<std::string> device_number(const Sysroot& root, const std::string& name);
@@ -32,4 +32,4 @@ std::vector<std::string> block_devices(const Sysroot& root);
 /// Size of a device in bytes; nothing for one of no size.
 std::optional<std::uint64_t> device_bytes(const Sysroot& root, const std::string& name);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

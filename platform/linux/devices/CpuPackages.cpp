@@ -6,7 +6,7 @@
 #include <map>
 #include <set>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 /// No machine has more logical processors; a longer list is none.
@@ -126,4 +126,4 @@ std::optional<std::uint64_t> cache_kilobytes(const CpuPackage& package, std::uin
     return sum;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

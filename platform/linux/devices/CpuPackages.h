@@ -8,7 +8,7 @@
 #include <optional>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// /proc/cpuinfo, read when it is first asked for: the kernel makes it anew each time, and on large
 /// machines that takes a while.
@@ -47,4 +47,4 @@ std::optional<std::uint64_t> cache_kilobytes(const CpuPackage& package, std::uin
 /// The numbers of a list such as "0-3,6"; nothing inside for other text.
 std::vector<std::uint64_t> numbers_of_list(std::string_view list);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 using Screens = std::vector<ScreenFact>;
@@ -152,4 +152,4 @@ std::optional<Edid> main_monitor(const MachineView& machine, const GraphicsCard&
     return main ? edid_of(machine.root, *main) : std::nullopt;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

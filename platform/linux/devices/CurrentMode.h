@@ -3,7 +3,7 @@
 #include "platform/linux/devices/GraphicsCards.h"
 #include "platform/linux/files/MachineView.h"
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// What a graphics card shows, 0 for what is not known: on the primary screen if that is the
 /// card's, else on the first that is on. `first` marks the card that takes what belongs to no card:
@@ -14,4 +14,4 @@ DisplayMode current_mode(const MachineView& machine, const GraphicsCard& card, b
 /// What the monitor at that place tells of itself.
 std::optional<Edid> main_monitor(const MachineView& machine, const GraphicsCard& card);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <span>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 constexpr const char* vendor_key = "ID_VENDOR_FROM_DATABASE";
@@ -120,4 +120,4 @@ std::string_view bracketed_name(std::string_view text)
     return close == std::string_view::npos ? text : text.substr(open + 1, close - open - 1);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -9,7 +9,7 @@
 
 /// Names of makers and devices for the numbers by which devices tell what they are: what udev
 /// published for the device, then the hardware database.
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// Maker and model of a PCI device by its place, such as "0000:01:00.0".
 struct PciNames {
@@ -33,4 +33,4 @@ std::string monitor_maker(const Sysroot& root, const std::string& code, bool pan
 /// without them is given whole.
 std::string_view bracketed_name(std::string_view text);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

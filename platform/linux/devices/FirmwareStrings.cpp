@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <array>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 /// Where a text stands. Empty names: not there.
@@ -108,4 +108,4 @@ bool FirmwareStrings::has(FirmwareText wanted) const
     return root_->exists(id_path(source_of(wanted))) || text(wanted);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

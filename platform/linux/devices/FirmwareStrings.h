@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// Texts by which a machine's firmware tells what it and the machine are.
 enum class FirmwareText {
@@ -38,4 +38,4 @@ private:
     const Sysroot* root_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 constexpr const char* pci_devices = "/sys/bus/pci/devices";
@@ -109,4 +109,4 @@ std::optional<Edid> edid_of(const Sysroot& root, const Connector& connector)
     return bytes ? read_edid(*bytes) : std::nullopt;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

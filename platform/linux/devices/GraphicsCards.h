@@ -8,7 +8,7 @@
 #include <vector>
 
 /// Graphics cards and what is plugged into them.
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 struct GraphicsCard {
     /// Place on the PCI bus, such as "0000:01:00.0"; empty for a card that is not on it.
@@ -43,4 +43,4 @@ std::vector<Connector> connected(const Sysroot& root, const GraphicsCard& card);
 /// What the monitor tells of itself.
 std::optional<Edid> edid_of(const Sysroot& root, const Connector& connector);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

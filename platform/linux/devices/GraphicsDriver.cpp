@@ -2,7 +2,7 @@
 
 #include "platform/linux/formats/BuildDate.h"
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 constexpr std::string_view nvidia = "nvidia";
@@ -80,4 +80,4 @@ std::optional<std::uint64_t> graphics_memory(const MachineView& machine, const G
     return machine.system_calls->graphics_memory(card.slot);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

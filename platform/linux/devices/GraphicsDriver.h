@@ -9,7 +9,7 @@
 #include <string>
 
 /// The driver of a graphics card, and what only the driver knows.
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// Name of the driver's module, or of the driver itself if it is a part of the kernel. Nothing for
 /// a card without a driver.
@@ -26,4 +26,4 @@ std::optional<std::chrono::year_month_day> graphics_driver_date(const Sysroot& r
 /// it can be smaller and larger.
 std::optional<std::uint64_t> graphics_memory(const MachineView& machine, const GraphicsCard& card);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -3,7 +3,7 @@
 #include "platform/linux/formats/Placeholder.h"
 #include "platform/linux/text/Text.h"
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 /// Where systemd itself looks, in its order.
@@ -46,4 +46,4 @@ std::optional<std::string> HardwareDatabase::text(const std::string& alias, cons
     return told_text(value);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

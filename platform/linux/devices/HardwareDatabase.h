@@ -7,7 +7,7 @@
 #include <string>
 #include <systemd/sd-hwdb.h>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// systemd's compiled database of hardware names. A recorded machine brings its own database, or in
 /// /.facts/hwdb the answers that one gave, in lines of alias, key, "=" and value: this machine's
@@ -25,4 +25,4 @@ private:
     std::unique_ptr<sd_hwdb, sd_hwdb* (*)(sd_hwdb*)> database_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <array>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 constexpr std::string_view class_folder = "/sys/class/input/";
@@ -128,4 +128,4 @@ std::optional<std::string> input_maker(const Sysroot& root, const InputNode& nod
     return vendor ? usb_vendor(root, static_cast<std::uint16_t>(*vendor)) : std::nullopt;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

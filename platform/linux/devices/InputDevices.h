@@ -8,7 +8,7 @@
 #include <vector>
 
 /// Keyboards and pointing devices, as the kernel's input layer and udev tell of them.
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 enum class InputKind { Keyboard, Pointer };
 
@@ -44,4 +44,4 @@ std::optional<std::uint16_t> input_bus(const Sysroot& root, const InputNode& nod
 /// Its maker.
 std::optional<std::string> input_maker(const Sysroot& root, const InputNode& node);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -10,7 +10,7 @@
 #include <sys/ioctl.h>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 /// The kernel's interface for display modes (include/uapi/drm/drm_mode.h), as much of it as is
@@ -163,4 +163,4 @@ std::optional<DisplayMode> kernel_mode(const std::string& connector)
     return std::nullopt;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

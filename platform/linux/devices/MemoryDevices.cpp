@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <array>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 /// A code of SMBIOS type 17, its text, and the code of the CIM schema.
@@ -214,4 +214,4 @@ std::vector<MemoryDevice> memory_of_controllers(const Sysroot& root)
     return devices;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// A memory module in its slot. What is not known is nothing.
 struct MemoryDevice {
@@ -40,4 +40,4 @@ std::vector<MemoryDevice> memory_of_table(Bytes table);
 /// The modules that the memory controller's driver knows, on machines with error correction.
 std::vector<MemoryDevice> memory_of_controllers(const Sysroot& root);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -3,7 +3,7 @@
 #include <dlfcn.h>
 #include <memory>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 /// The library's interface (NVIDIA Management Library, API reference), as much as is asked for.
@@ -43,4 +43,4 @@ std::optional<std::uint64_t> nvidia_memory(const std::string& slot)
     return told && memory.total != 0 ? std::optional<std::uint64_t>(memory.total) : std::nullopt;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

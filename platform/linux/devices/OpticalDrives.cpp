@@ -3,7 +3,7 @@
 #include "platform/linux/devices/BlockDevices.h"
 #include "platform/linux/devices/UdevDatabase.h"
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 /// What the kernel gives as the size of an empty drive, in bytes: a gigabyte less a sector, or next
@@ -34,4 +34,4 @@ std::optional<std::uint64_t> disc_bytes(const Sysroot& root, const std::string& 
     return *bytes == EmptyDriveBytes || *bytes <= NextToNothing ? std::nullopt : bytes;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

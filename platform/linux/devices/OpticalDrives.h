@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// The optical drives by the kernel's names, "sr0" first.
 std::vector<std::string> optical_drives(const Sysroot& root);
@@ -16,4 +16,4 @@ std::vector<std::string> optical_drives(const Sysroot& root);
 /// that would load it.
 std::optional<std::uint64_t> disc_bytes(const Sysroot& root, const std::string& drive);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

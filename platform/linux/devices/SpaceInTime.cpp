@@ -9,7 +9,7 @@
 #include <system_error>
 #include <thread>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 using Milliseconds = std::chrono::milliseconds;
@@ -83,4 +83,4 @@ std::optional<VolumeSpace> space_in_time(const std::string& path)
     return answer.get();
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -2,7 +2,7 @@
 
 #include "platform/linux/text/Text.h"
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 UdevRecord::UdevRecord(const Sysroot& root, std::string_view device)
     : lines_(root.read("/run/udev/data/" + std::string(device)).value_or(""))
@@ -31,4 +31,4 @@ std::string udev_decoded(std::string_view text)
     return decoded;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <utility>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// What udev published about a device: the lines "E:KEY=value" of its file in /run/udev/data.
 class UdevRecord {
@@ -35,4 +35,4 @@ private:
 /// The text with each "\xNN" as the byte that it stands for.
 std::string udev_decoded(std::string_view text);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cctype>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 bool is_hex(std::string_view text)
@@ -99,4 +99,4 @@ std::optional<std::string> FileSystemFacts::type(std::string_view mounted_as) co
     return type.empty() ? std::nullopt : std::optional(type);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

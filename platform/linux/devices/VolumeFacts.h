@@ -7,7 +7,7 @@
 #include <string_view>
 
 /// What is known of a volume besides its mount.
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// What udev, or else its links under /dev/disk, say of the file system on a device.
 class FileSystemFacts {
@@ -34,4 +34,4 @@ private:
 /// Nothing for any other form. `type` is as FileSystemFacts gives it: NTFS and UDF have one form.
 std::optional<std::string> serial_of_identity(std::string_view identity, std::string_view type);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

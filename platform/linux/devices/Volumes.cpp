@@ -8,7 +8,7 @@
 #include <set>
 #include <tuple>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 template <std::size_t Count>
@@ -186,4 +186,4 @@ std::vector<Volume> volumes_of(const std::vector<Mount>& mounts)
     return volumes;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

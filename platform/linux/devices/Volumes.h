@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// A volume as the user thinks of it: listed once, however often it is mounted.
 struct Volume {
@@ -25,4 +25,4 @@ bool is_network_type(std::string_view type);
 /// system the one at "/" counts, then one that shows all of it, then the shortest way.
 std::vector<Volume> volumes_of(const std::vector<Mount>& mounts);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

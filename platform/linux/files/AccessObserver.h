@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// Is called for each access to a machine, with its result. Paths are absolute, as they were asked
 /// for.
@@ -33,4 +33,4 @@ public:
                            const std::string& value) = 0;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -3,7 +3,7 @@
 #include <unistd.h>
 #include <utility>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// An open file, closed at the end of its scope. Negative: none.
 class Descriptor {
@@ -28,4 +28,4 @@ private:
     int number_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <system_error>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// Visits at most `budget` entries of a folder until `visit` returns true; the budget goes down. A
 /// folder that cannot be read has none.
@@ -20,4 +20,4 @@ bool any_entry(const std::filesystem::path& folder, int& budget, Visit&& visit)
     return false;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

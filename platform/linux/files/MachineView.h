@@ -6,7 +6,7 @@
 
 #include <memory>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// The machine that the classes tell of: this one or a recorded one.
 struct MachineView {
@@ -16,4 +16,4 @@ struct MachineView {
     SessionFactsSource session;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

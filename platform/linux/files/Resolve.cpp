@@ -11,7 +11,7 @@
 #include <sys/syscall.h>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 constexpr int place_flags = O_PATH | O_CLOEXEC;
@@ -116,4 +116,4 @@ std::optional<std::string> link_text(const Descriptor& place)
     return std::string(text.data(), static_cast<std::size_t>(length));
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -6,7 +6,7 @@
 #include <string>
 
 /// Finding files under a folder that stands for a whole machine's root.
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// Whether a symbolic link at the end of a path is followed, or is itself the file that is meant.
 enum class LastLink : bool { Follow, Keep };
@@ -27,4 +27,4 @@ std::optional<Descriptor> open_kernel_file(int root, const std::string& path);
 /// The text of the symbolic link that a place is; nothing for any other file.
 std::optional<std::string> link_text(const Descriptor& place);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -13,7 +13,7 @@
 #include <sys/stat.h>
 #include <system_error>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 /// Opens for reading what a place is, if it is a regular file. The place keeps the file in hand, so
@@ -170,4 +170,4 @@ void Sysroot::report_answer(const std::string& list, const std::string& key,
         observer_->on_answer(list, key, value);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

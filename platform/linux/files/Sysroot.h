@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// Reads the files of a machine under its root folder: "/", or the folder of a recorded machine,
 /// which no symbolic link leads out of. Paths are absolute, as the machine itself has them.
@@ -77,4 +77,4 @@ private:
     std::shared_ptr<AccessObserver> observer_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// The space of a volume, in blocks.
 struct VolumeSpace {
@@ -76,4 +76,4 @@ public:
     virtual int utc_offset(std::int64_t moment) = 0;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -10,7 +10,7 @@
 #include <sys/stat.h>
 #include <system_error>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 namespace {
 
@@ -151,4 +151,4 @@ void FileReplacement::commit(std::string_view content)
     sync_folder(fs::path(target_).parent_path());
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <sys/types.h>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// The content of a regular file; nothing where there is none of that name. Throws Failure for
 /// anything else than a regular file (a pipe would block), for one of more than `limit` bytes, and
@@ -42,4 +42,4 @@ private:
     Descriptor file_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 struct Maker {
@@ -74,4 +74,4 @@ std::optional<std::string> arm_name(std::uint64_t implementer, std::uint64_t par
     return row == parts.end() ? std::nullopt : std::optional<std::string>(row->name);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

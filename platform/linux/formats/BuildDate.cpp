@@ -6,7 +6,7 @@
 #include <array>
 #include <span>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 using std::chrono::day;
@@ -71,4 +71,4 @@ std::optional<year_month_day> build_date(std::string_view line)
     return std::nullopt;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

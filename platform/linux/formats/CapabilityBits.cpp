@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 CapabilityBits::CapabilityBits(std::string_view text, unsigned word_bits)
     : words_(words_of(trimmed_space(text))), word_bits_(word_bits)
@@ -20,4 +20,4 @@ bool CapabilityBits::operator[](unsigned bit) const
     return ((whole_number(words_[word], 16).value_or(0) >> (bit % word_bits_)) & 1U) != 0;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -3,7 +3,7 @@
 #include <string_view>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// Numbered bits as the kernel's input layer writes them: hexadecimal words, the highest word
 /// first, each word a `long` of the kernel that wrote them. A word that is no number has no bit
@@ -21,4 +21,4 @@ private:
     unsigned word_bits_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

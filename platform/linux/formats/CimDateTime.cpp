@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 namespace time = std::chrono;
@@ -44,4 +44,4 @@ std::optional<std::string> cim_datetime(std::int64_t moment, int utc_offset)
     return written(day, time::hh_mm_ss(local - day), utc_offset);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

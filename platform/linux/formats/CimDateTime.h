@@ -7,7 +7,7 @@
 
 /// Datetimes as the management service writes them (DMTF DSP0004): "yyyymmddHHMMSS.mmmmmm+UUU",
 /// local time and the minutes by which it is ahead of UTC.
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// Midnight of a day, without a time zone. Nothing for a day that no calendar has and for years
 /// outside 0 to 9999.
@@ -18,4 +18,4 @@ std::optional<std::string> cim_datetime(std::chrono::year_month_day day);
 /// and more.
 std::optional<std::string> cim_datetime(std::int64_t moment, int utc_offset);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -3,7 +3,7 @@
 #include "platform/linux/text/Text.h"
 #include "sources/Ascii.h"
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 /// A shell word without its quotes; what stands behind the closing one is not read.
@@ -54,4 +54,4 @@ std::optional<std::string> value_in_section(std::string_view text, std::string_v
     return std::nullopt;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -5,7 +5,7 @@
 #include <string_view>
 
 /// Reading the files by which a system is configured.
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// The value that a file of shell assignments (os-release(5), locale.conf(5), /etc/default) gives a
 /// variable last, its quotes taken off. Nothing if it gives none or an empty one.
@@ -16,4 +16,4 @@ std::optional<std::string> assigned(std::string_view text, std::string_view vari
 std::optional<std::string> value_in_section(std::string_view text, std::string_view section,
                                             std::string_view key);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -6,7 +6,7 @@
 #include <charconv>
 #include <cmath>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 std::optional<double> real_number(std::string_view text)
@@ -81,4 +81,4 @@ std::optional<std::uint64_t> megahertz_in_name(std::string_view name)
     return static_cast<std::uint64_t>(std::lround(*gigahertz * 1000));
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// One paragraph of /proc/cpuinfo: what the kernel says of a logical processor. It points into the
 /// text.
@@ -53,4 +53,4 @@ std::optional<std::string> arm_name(std::uint64_t implementer, std::uint64_t par
 /// The clock that a name ends in, such as 2600 MHz of "... @ 2.60GHz".
 std::optional<std::uint64_t> megahertz_in_name(std::string_view name);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <array>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 using Bytes = std::span<const std::uint8_t>;
@@ -69,4 +69,4 @@ std::vector<int> rates_of_data_blocks(Bytes blocks)
     return rates;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

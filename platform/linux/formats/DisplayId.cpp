@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 using Bytes = std::span<const std::uint8_t>;
@@ -123,4 +123,4 @@ DisplayId read_display_id(Bytes section)
     return found;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

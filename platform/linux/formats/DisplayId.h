@@ -7,7 +7,7 @@
 #include <span>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// A piece of a section of DisplayID.
 struct DisplayIdBlock {
@@ -35,4 +35,4 @@ struct DisplayId {
 /// Interlaced modes are passed over.
 DisplayId read_display_id(std::span<const std::uint8_t> section);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

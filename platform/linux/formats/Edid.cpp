@@ -9,7 +9,7 @@
 #include <numeric>
 #include <span>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 using Bytes = std::span<const std::uint8_t>;
@@ -202,4 +202,4 @@ std::optional<Edid> read_edid(std::string_view bytes)
     return std::move(reader).result();
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

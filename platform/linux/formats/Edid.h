@@ -10,7 +10,7 @@
 
 /// What a monitor tells of itself (VESA Enhanced EDID Standard, release A, revision 2, with the
 /// extension blocks of CTA-861 and of DisplayID).
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 struct Edid {
     /// Three letters that UEFI's PNP registry gives to makers, such as "SAM"; empty if they are
@@ -36,4 +36,4 @@ struct Edid {
 /// are ASCII without blanks round them.
 std::optional<Edid> read_edid(std::string_view bytes);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -1,6 +1,6 @@
 #include "platform/linux/formats/EdidTiming.h"
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 std::optional<EdidTiming> timing_of(int width, int height, std::int64_t clock_mHz,
                                     std::int64_t clocks_of_two)
@@ -22,4 +22,4 @@ std::optional<RefreshLimits> limits_of(int lowest, int highest)
     return RefreshLimits{lowest, highest};
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <optional>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// A mode that the monitor describes in full.
 struct EdidTiming {
@@ -31,4 +31,4 @@ std::optional<EdidTiming> timing_of(int width, int height, std::int64_t clock_mH
 /// Limits as a monitor tells them; nothing without a lowest one and where the highest is below it.
 std::optional<RefreshLimits> limits_of(int lowest, int highest);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 using Id = std::array<std::uint8_t, 16>;
@@ -49,4 +49,4 @@ std::optional<std::string> installation_id(std::string_view machine_id)
     return text;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

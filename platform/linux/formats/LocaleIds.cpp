@@ -4,7 +4,7 @@
 #include <array>
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 struct LocaleRow {
@@ -74,4 +74,4 @@ std::optional<std::uint32_t> locale_id(std::string_view locale)
     return row && row->name.starts_with(language) ? std::optional(row->id) : std::nullopt;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

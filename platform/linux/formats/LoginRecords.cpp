@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 using Record = std::span<const std::uint8_t>;
@@ -93,4 +93,4 @@ std::uint32_t failed_logins(Record file)
     return count;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

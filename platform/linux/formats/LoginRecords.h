@@ -7,7 +7,7 @@
 #include <string_view>
 
 /// The binary records of logins. A record that the end cuts off is left out.
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// What the log of logins (utmp(5)) tells of an account.
 struct LoginHistory {
@@ -41,4 +41,4 @@ std::optional<std::int64_t> last_login(std::span<const std::uint8_t> record);
 /// How many failed logins still count against an account (pam_faillock(8), records of 64 bytes).
 std::uint32_t failed_logins(std::span<const std::uint8_t> file);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

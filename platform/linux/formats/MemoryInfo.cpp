@@ -2,7 +2,7 @@
 
 #include "platform/linux/text/Text.h"
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 std::optional<std::uint64_t> kilobytes(std::string_view text, std::string_view label)
@@ -31,4 +31,4 @@ MemoryInfo parse_meminfo(std::string_view text)
             .swap_free = kilobytes(text, "SwapFree")};
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

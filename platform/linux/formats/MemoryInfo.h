@@ -4,7 +4,7 @@
 #include <optional>
 #include <string_view>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// Figures of /proc/meminfo, in KB. What the file does not tell is nothing.
 struct MemoryInfo {
@@ -17,4 +17,4 @@ struct MemoryInfo {
 
 MemoryInfo parse_meminfo(std::string_view text);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -7,7 +7,7 @@
 #include <memory>
 #include <sys/sysmacros.h>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 std::string text_of(const char* text)
@@ -65,4 +65,4 @@ std::vector<Mount> parse_mounts(const std::string& table)
     return mounts;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

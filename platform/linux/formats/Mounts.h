@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// One line of a mount table (proc_pid_mountinfo(5)), escapes resolved.
 struct Mount {
@@ -23,4 +23,4 @@ struct Mount {
 /// left out.
 std::vector<Mount> parse_mounts(const std::string& table);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

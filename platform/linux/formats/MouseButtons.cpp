@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <linux/input-event-codes.h>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 namespace {
 
@@ -68,4 +68,4 @@ int mouse_buttons(std::span<const InputDevice> devices)
     return most;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

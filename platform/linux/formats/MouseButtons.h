@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// What the kernel's input layer tells of a device: texts of hexadecimal words, the highest word
 /// first, each word a `long` of the kernel that wrote them. Bit numbers are those of
@@ -30,4 +30,4 @@ bool is_keyboard(const InputDevice& device, unsigned word_bits);
 /// button has at least two, its halves.
 int mouse_buttons(std::span<const InputDevice> devices);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 /// What firmware and udev write for a text that nobody filled in, compared without regard to ASCII
@@ -96,4 +96,4 @@ std::optional<std::string> told_text(std::string_view raw)
     return is_placeholder(raw) ? std::nullopt : text_or_none(raw);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

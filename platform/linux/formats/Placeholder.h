@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// Whether a text stands where a maker should have written something: "To Be Filled By O.E.M.",
 /// "Default string", zeros in place of a serial number, and their like. Blanks round it are of no
@@ -14,4 +14,4 @@ bool is_placeholder(std::string_view text);
 /// The text, valid in UTF-8 and trimmed; nothing if that leaves none or a placeholder.
 std::optional<std::string> told_text(std::string_view raw);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <charconv>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 namespace {
 
@@ -166,4 +166,4 @@ std::string written(const RegValue& value)
     return text + '"';
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

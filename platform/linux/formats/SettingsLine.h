@@ -8,7 +8,7 @@
 #include <string_view>
 
 /// The lines of the settings file: "[key]" and "name = value".
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// A part of the whole text, `end` being one past it.
 struct Span {
@@ -40,4 +40,4 @@ std::optional<std::string_view> key_on(std::string_view line);
 /// The value as a line bears it: digits, or a text in quotes.
 std::string written(const RegValue& value);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 namespace {
 
@@ -106,4 +106,4 @@ std::string with_setting(std::string_view text, const SettingName& name, const R
     return result.insert(at, addition);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

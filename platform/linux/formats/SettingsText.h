@@ -18,7 +18,7 @@
 /// escape. Names match without regard to ASCII case. The last of several equal names counts. Values
 /// above the first key belong to every key, so that a file of nothing but "Language = Dutch" works,
 /// and a damaged line of a key loses none of its values. A line that cannot be read is no value.
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// A value's place: its key, without a backslash at the end, and its name.
 struct SettingName {
@@ -36,4 +36,4 @@ std::optional<RegValue> find_setting(std::string_view text, const SettingName& n
 /// with find_setting that the value can be read back: a line cannot hold every name.
 std::string with_setting(std::string_view text, const SettingName& name, const RegValue& value);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

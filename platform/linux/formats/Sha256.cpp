@@ -4,7 +4,7 @@
 #include <cassert>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 using Words = std::array<std::uint32_t, 8>;
@@ -104,4 +104,4 @@ Digest hmac_sha256(std::span<const std::uint8_t> key, std::span<const std::uint8
     return sha256(outer);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

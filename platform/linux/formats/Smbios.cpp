@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 /// Type, length and handle.
@@ -75,4 +75,4 @@ std::vector<SmbiosStructure> smbios_structures(Bytes table)
     return structures;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

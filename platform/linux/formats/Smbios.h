@@ -9,7 +9,7 @@
 
 /// Reading the firmware's table of the machine (DMTF DSP0134, System Management BIOS Reference
 /// Specification, chapter 6), without its entry point.
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 using Bytes = std::span<const std::uint8_t>;
 
@@ -43,4 +43,4 @@ private:
 /// short to be one or leads out of the table. Strings that the table's end cuts off are left out.
 std::vector<SmbiosStructure> smbios_structures(Bytes table);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

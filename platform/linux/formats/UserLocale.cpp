@@ -5,7 +5,7 @@
 #include <array>
 #include <iconv.h>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 namespace {
 
@@ -69,4 +69,4 @@ std::string UserLocale::to_utf8(const std::string& own) const
     return made_valid_utf8(as_it_is ? own : converted(own, set));
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

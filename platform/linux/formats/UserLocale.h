@@ -9,7 +9,7 @@
 
 #include <locale.h>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// The regional forms of one locale of the C library, without changing the locale of the process.
 class UserLocale {
@@ -34,4 +34,4 @@ private:
     std::shared_ptr<std::remove_pointer_t<locale_t>> handle_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

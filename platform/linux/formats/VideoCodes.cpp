@@ -2,7 +2,7 @@
 
 #include <array>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 /// From code 1 on.
@@ -32,4 +32,4 @@ std::optional<int> rate_of_video_code(std::uint8_t code)
     return std::nullopt;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

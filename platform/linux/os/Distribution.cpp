@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <array>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 /// Distributions whose version is the release and the number of its renewal.
@@ -57,4 +57,4 @@ std::uint32_t dotted_number(std::string_view version, std::size_t place)
     return number && *number <= UINT16_MAX ? static_cast<std::uint32_t>(*number) : 0;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// What a distribution tells of itself (os-release(5)).
 class Distribution {
@@ -30,4 +30,4 @@ private:
 /// "24.04.3 LTS". 0 for none.
 std::uint32_t dotted_number(std::string_view version, std::size_t place);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 /// Takes the digits off the front of a text.
@@ -85,4 +85,4 @@ std::optional<std::string> kernel_version_text(std::string_view release)
     return major + "." + minor + "." + four_digits(build.empty() ? patch : build);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

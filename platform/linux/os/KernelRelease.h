@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// The kernel's name for the kind of processor, such as "x86_64".
 std::optional<std::string> kernel_architecture(const MachineView& machine);
@@ -16,4 +16,4 @@ std::optional<std::string> kernel_architecture(const MachineView& machine);
 /// "6.x 6.18". Nothing for text that does not begin with two numbers.
 std::optional<std::string> kernel_version_text(std::string_view release);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 /// PF_KTHREAD of the flags (include/linux/sched.h).
@@ -45,4 +45,4 @@ std::optional<std::uint32_t> process_count(const Sysroot& root)
     return count;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

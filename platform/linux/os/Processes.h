@@ -6,7 +6,7 @@
 #include <optional>
 #include <string_view>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// Whether a line of /proc/N/stat (proc_pid_stat(5)) tells of a thread of the kernel. Nothing for
 /// text that is no such line.
@@ -16,4 +16,4 @@ std::optional<bool> is_kernel_thread(std::string_view stat);
 /// hidden.
 std::optional<std::uint32_t> process_count(const Sysroot& root);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -9,7 +9,7 @@
 #include <cstdint>
 #include <numeric>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 /// Offsets of the fields that give the number of a text; 0 for none.
@@ -140,4 +140,4 @@ std::string masked_edid(const std::string& edid)
     return masked;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -3,7 +3,7 @@
 #include <string>
 
 /// Tables of firmware and monitors without their serial numbers, which keep their places and form.
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// The structures of the firmware, the machine, the board, processors and memory modules
 /// (DSP0134, Smbios.h), with the texts that name makers, models and sockets; all else is blotted
@@ -14,4 +14,4 @@ std::string masked_firmware_table(const std::string& table);
 /// limits stay, of one of another standard than CTA-861 nothing; nothing for data that is none.
 std::string masked_edid(const std::string& edid);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

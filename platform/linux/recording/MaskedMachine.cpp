@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 /// What becomes of the files whose path begins and ends so. The first rule that fits counts.
@@ -127,4 +127,4 @@ RecordedMachine masked_machine(const RecordedMachine& machine,
     return masked;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

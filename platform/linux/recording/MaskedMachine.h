@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// The recording without what identifies anybody or anything: pseudonyms for names of accounts,
 /// machines, networks, folders and volumes and for serial numbers, in what the files hold and in
@@ -14,4 +14,4 @@ namespace ostrelum {
 RecordedMachine masked_machine(const RecordedMachine& machine,
                                const std::vector<std::string>& accounts);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

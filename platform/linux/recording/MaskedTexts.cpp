@@ -11,7 +11,7 @@
 #include <array>
 #include <span>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 const std::string hidden(Hidden);
@@ -199,4 +199,4 @@ std::string masked_disk_identity(const std::string& content, MachinePseudonyms& 
            masked_name(content, given);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

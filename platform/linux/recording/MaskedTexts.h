@@ -7,7 +7,7 @@
 
 /// What a file of a machine says, without what identifies. Each function takes the whole file as
 /// the machine has it. Of a file that holds more than the program reads, only that is left.
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// The pseudonyms that one machine has been given.
 struct MachinePseudonyms {
@@ -47,4 +47,4 @@ std::string masked_name(const std::string& content, MachinePseudonyms& given);
 /// A disk's world-wide identity; the model in it stays.
 std::string masked_disk_identity(const std::string& content, MachinePseudonyms& given);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

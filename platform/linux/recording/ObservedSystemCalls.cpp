@@ -2,7 +2,7 @@
 
 #include <utility>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 std::string numbers(std::initializer_list<std::int64_t> all)
@@ -125,4 +125,4 @@ std::unique_ptr<SystemCalls> observed_system_calls(std::unique_ptr<SystemCalls> 
     return std::make_unique<ObservedSystemCalls>(std::move(calls), std::move(observer));
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

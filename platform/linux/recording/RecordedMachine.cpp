@@ -8,7 +8,7 @@
 #include <fstream>
 #include <system_error>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 namespace fs = std::filesystem;
@@ -119,4 +119,4 @@ void write_machine(const RecordedMachine& machine, const std::string& folder)
     }
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -5,7 +5,7 @@
 #include <string>
 #include <utility>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// What a recording holds of a place of the machine. The last one in this order counts where
 /// accesses differ.
@@ -45,4 +45,4 @@ void check_unused(const std::string& folder);
 /// name an empty file. Throws Failure if that does not succeed.
 void write_machine(const RecordedMachine& machine, const std::string& folder);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -2,7 +2,7 @@
 
 #include "platform/linux/text/Text.h"
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 /// The numbers that stand behind a path in the line that begins with it. Paths can hold blanks:
@@ -146,4 +146,4 @@ std::unique_ptr<SystemCalls> recorded_system_calls(const Sysroot& root)
     return std::make_unique<RecordedSystemCalls>(root);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -5,7 +5,7 @@
 
 #include <memory>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// The answers that a recorded machine keeps in the folder /.facts: the files statvfs (path, block
 /// size, blocks, free, available), btime (path, seconds), uname (as `uname -a` prints it), id (as
@@ -15,4 +15,4 @@ namespace ostrelum {
 /// of UTC; at other moments the machine stands in UTC).
 std::unique_ptr<SystemCalls> recorded_system_calls(const Sysroot& root);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 /// Puts the names of a path in front of those that are still to be walked, the next one last.
@@ -110,4 +110,4 @@ void Recorder::on_answer(const std::string& list, const std::string& key, const 
     machine_.answers[list].try_emplace(key, value);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// An observer that keeps what it is called with, so that a machine made of it answers the same
 /// questions in the same way: the files that were read, the names that were listed, and the links
@@ -38,4 +38,4 @@ private:
     RecordedMachine machine_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

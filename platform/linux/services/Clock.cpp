@@ -3,7 +3,7 @@
 #include <charconv>
 #include <ctime>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 namespace {
 
@@ -66,4 +66,4 @@ TimeOfDay LinuxClock::time()
     return {now.tm_hour, now.tm_min, now.tm_sec > 59 ? 59 : now.tm_sec};
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <utility>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// Milliseconds of a text such as "52.86 29.70" of /proc/uptime; nothing for any other text.
 std::optional<std::uint64_t> uptime_ms(std::string_view text);
@@ -29,4 +29,4 @@ private:
     std::optional<Sysroot> files_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

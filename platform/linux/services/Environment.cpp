@@ -4,7 +4,7 @@
 #include <pwd.h>
 #include <unistd.h>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 namespace {
 
@@ -69,4 +69,4 @@ std::string login_name(const Environment& environment)
     return account_text(&passwd::pw_name);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

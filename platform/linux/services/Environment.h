@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// Environment variables by name.
 using Environment = std::map<std::string, std::string, std::less<>>;
@@ -29,4 +29,4 @@ std::string base_folder(const Environment& environment, std::string_view name,
 /// none tells.
 std::string login_name(const Environment& environment);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -2,7 +2,7 @@
 
 #include "platform/linux/files/WholeFile.h"
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 void LinuxFileWriter::replace(const std::string& path, const std::string& bytes)
 {
@@ -10,4 +10,4 @@ void LinuxFileWriter::replace(const std::string& path, const std::string& bytes)
     FileReplacement(path, as_the_user_has_it).commit(bytes);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

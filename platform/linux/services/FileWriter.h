@@ -2,7 +2,7 @@
 
 #include "platform/system/FileWriter.h"
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// Replaces a file in one step, as FileReplacement does; a new file gets the permissions that the
 /// user's programs give their files.
@@ -11,4 +11,4 @@ public:
     void replace(const std::string& path, const std::string& bytes) override;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

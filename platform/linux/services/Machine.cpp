@@ -18,7 +18,7 @@
 #include <sanitizer/lsan_interface.h>
 #endif
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 namespace {
 
@@ -146,4 +146,4 @@ void LinuxMachine::End()
     std::_Exit(0);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// How many numbers a list of the kernel such as "0-3,6" holds; 0 for a text that is no such list.
 /// Numbers of 65536 and more are none of a processor.
@@ -42,4 +42,4 @@ private:
     SingleInstance instance_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -5,7 +5,7 @@
 
 #include <utility>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 bool is_board_name(const std::string& name)
@@ -55,4 +55,4 @@ std::string MachineShell::SpecialFolders(const std::string& name)
     return stored_->SpecialFolders(name);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

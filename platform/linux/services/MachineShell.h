@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// A shell object that also knows the main board's full name, which other systems keep among the
 /// stored values: "HKEY_CURRENT_USER\Software\Install\Ostrelum\Mainboard\Full" is the board's maker
@@ -27,4 +27,4 @@ private:
     std::unique_ptr<Shell> stored_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -5,7 +5,7 @@
 
 #include <chrono>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 namespace {
 
@@ -144,4 +144,4 @@ std::string LinuxRegional::long_time(const TimeOfDay& time)
     return std::string(trim_blanks(time_locale_.formatted(forms_.time_format, moment)));
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// Formats in the notation of strftime. The first values are those of a user without regional
 /// settings (ISO 8601).
@@ -42,4 +42,4 @@ private:
     UserLocale time_locale_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

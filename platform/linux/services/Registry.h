@@ -2,7 +2,7 @@
 
 #include "platform/system/Registry.h"
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// Linux keeps no binary values of the machine: no key opens.
 class LinuxRegistry : public Registry {
@@ -19,4 +19,4 @@ public:
     void RegCloseKey(Key) override {}
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <sys/stat.h>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 namespace {
 
@@ -55,4 +55,4 @@ void SettingsStore::write(const std::string& full_name, const RegValue& value) c
     file.commit(text);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

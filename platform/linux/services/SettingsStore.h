@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// The named values that live between runs, in one text file that may be edited by hand
 /// (SettingsText.h tells its form). The file is read anew at every operation, so that a change by
@@ -25,4 +25,4 @@ private:
     std::string path_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -5,7 +5,7 @@
 
 #include <charconv>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 namespace {
 
@@ -69,4 +69,4 @@ std::string LinuxShell::SpecialFolders(const std::string& name)
     return *desktop;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -6,7 +6,7 @@
 
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// The shell object on Linux. Values lie in the file "dervalin-ostrelum/settings" of the user's
 /// configuration folder, XDG_CONFIG_HOME or ~/.config.
@@ -29,4 +29,4 @@ private:
     SettingsStore store_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

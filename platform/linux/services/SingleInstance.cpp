@@ -6,7 +6,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 namespace {
 
@@ -60,4 +60,4 @@ bool SingleInstance::another_runs()
     return false;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -5,7 +5,7 @@
 
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// One running program for each user: a lock that the kernel drops with the process, however that
 /// ends. It lies under XDG_RUNTIME_DIR, else in a folder of the user's own under `shared`.
@@ -23,4 +23,4 @@ private:
     Descriptor lock_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

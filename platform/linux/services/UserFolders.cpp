@@ -11,7 +11,7 @@
 #include <system_error>
 #include <utility>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 namespace {
 
@@ -138,4 +138,4 @@ std::optional<std::string> segoe_folder(const std::vector<std::string>& places)
     return std::nullopt;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// A file of that name in a folder, in any ASCII case of the name; the exact name goes first.
 /// Nothing if there is none among the first 20000 entries.
@@ -28,4 +28,4 @@ std::vector<std::string> font_places(const Environment& environment);
 /// of the first place. Nothing if there is none within 6 levels and 20000 entries of a place.
 std::optional<std::string> segoe_folder(const std::vector<std::string>& places);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

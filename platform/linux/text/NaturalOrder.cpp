@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 constexpr std::string_view digits = "0123456789";
@@ -48,4 +48,4 @@ bool natural_less(std::string_view a, std::string_view b)
     return a.empty() && b.empty() ? whole_a < whole_b : a.empty();
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

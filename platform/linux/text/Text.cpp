@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <charconv>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 std::string_view trimmed_space(std::string_view text)
 {
@@ -70,4 +70,4 @@ std::optional<std::string> text_or_none(std::string_view raw)
     return text.empty() ? std::nullopt : std::optional<std::string>(text);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

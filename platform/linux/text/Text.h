@@ -7,7 +7,7 @@
 #include <vector>
 
 /// Reading the texts of the kernel, udev and configuration files.
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// Without blanks, tabs and line ends at both ends.
 std::string_view trimmed_space(std::string_view text);
@@ -30,4 +30,4 @@ std::optional<std::uint64_t> whole_number(std::string_view text, int base = 10);
 /// leaves none.
 std::optional<std::string> text_or_none(std::string_view raw);
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 using Bytes8 = std::vector<std::uint8_t>;
@@ -97,4 +97,4 @@ TEST(PasswordPolicies, FollowTheAges)
 }
 
 } // namespace
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

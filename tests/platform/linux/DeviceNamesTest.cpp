@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 TEST(DeviceNames, PublishedOnesComeBeforeTheMachinesOwnDatabase)
@@ -40,4 +40,4 @@ TEST(DeviceNames, TakesTheNameBetweenBrackets)
 }
 
 } // namespace
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 std::string cta_block(unsigned first_mode, const std::string& modes)
@@ -194,4 +194,4 @@ TEST(Edid, LeavesOutWhatIsNoLetterAndNoMode)
 }
 
 } // namespace
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

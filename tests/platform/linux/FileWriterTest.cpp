@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 namespace fs = std::filesystem;
@@ -39,4 +39,4 @@ TEST(FileWriter, AFailureLeavesNothingBehind)
 }
 
 } // namespace
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -5,7 +5,7 @@
 
 #include <gmock/gmock.h>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 using testing::ElementsAre;
@@ -56,4 +56,4 @@ TEST(LinuxManagementService, RefusesAFolderThatIsNotThereAndClassesThatAreNot)
 }
 
 } // namespace
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -9,7 +9,7 @@
 #include <pwd.h>
 #include <unistd.h>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 namespace fs = std::filesystem;
@@ -96,4 +96,4 @@ TEST(Clock, ReadsTheRecordedTime)
 }
 
 } // namespace
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

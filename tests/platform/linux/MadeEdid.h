@@ -4,7 +4,7 @@
 #include <string>
 
 /// Monitors' data, made by hand.
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// Makes the sum of the last block right.
 inline std::string summed(std::string block)
@@ -72,4 +72,4 @@ inline std::string display_id(const std::string& blocks, char version = 0x20)
     return summed(block);
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -5,7 +5,7 @@
 #include <string>
 
 /// Compiled hardware databases, made by hand.
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// The lowest byte of each number first.
 inline void append_numbers(std::string& bytes, std::initializer_list<std::uint64_t> numbers)
@@ -33,4 +33,4 @@ inline std::string hardware_database(const std::string& beginning, const std::st
     return bytes + text;
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

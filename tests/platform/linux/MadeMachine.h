@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// A machine that a test makes of a few files.
 class MadeMachine {
@@ -55,4 +55,4 @@ private:
     TemporaryFolder folder_;
 };
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

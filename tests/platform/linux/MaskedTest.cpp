@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 using namespace std::string_literals;
@@ -105,4 +105,4 @@ TEST(Masked, BlotsOutSerialNumbersOfMonitors)
 }
 
 } // namespace
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 /// A file is kept where the links lead; a file behind one that leads out of the root is none.
@@ -32,4 +32,4 @@ TEST(Recorder, KeepsLinksAsLinks)
 }
 
 } // namespace
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

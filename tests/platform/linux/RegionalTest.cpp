@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 TEST(Regional, KeepsALocalesFormWithAWholeYear)
@@ -73,4 +73,4 @@ TEST(Regional, RefusesWhatNoCalendarAndNoClockShows)
 }
 
 } // namespace
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -3,7 +3,7 @@
 
 #include <gmock/gmock.h>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 using testing::ElementsAre;
@@ -116,4 +116,4 @@ TEST(Session, PointersAreForTheHandOfTheSession)
 }
 
 } // namespace
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

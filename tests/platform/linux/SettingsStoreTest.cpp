@@ -12,7 +12,7 @@
 #include <sys/wait.h>
 #include <thread>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 namespace fs = std::filesystem;
@@ -189,4 +189,4 @@ TEST(SettingsStore, TwoProgramsThatWriteAtOnceLoseNothing)
 }
 
 } // namespace
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 using namespace std::string_literals;
@@ -102,4 +102,4 @@ TEST(SettingsText, ReadsBackWhatItWrites)
 }
 
 } // namespace
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 namespace fs = std::filesystem;
@@ -84,4 +84,4 @@ TEST(UserFolders, FindsTheFontsWhereverTheyLie)
 }
 
 } // namespace
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -7,7 +7,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 namespace fs = std::filesystem;
@@ -69,4 +69,4 @@ TEST(SingleInstance, StartsWhereNoLockCanBeMade)
 }
 
 } // namespace
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 #include <string>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 using namespace std::string_literals;
@@ -92,4 +92,4 @@ TEST(Smbios, GivesWhatIsWholeOfATableCutAtAnyByte)
 }
 
 } // namespace
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -8,7 +8,7 @@
 #include <sys/stat.h>
 #include <thread>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 using namespace std::string_literals;
@@ -148,4 +148,4 @@ TEST(UdevRecord, DecodesWhatIsEncoded)
 }
 
 } // namespace
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -14,7 +14,7 @@
 
 #include <gtest/gtest.h>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 TEST(KernelVersion, SurvivesTheCutOfThePages)
@@ -142,4 +142,4 @@ TEST(VolumeSerials, AreEightDigitsOfTheIdentity)
 }
 
 } // namespace
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

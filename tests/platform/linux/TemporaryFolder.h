@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 
 /// A folder of its own for one test, gone with it.
 class TemporaryFolder {
@@ -49,4 +49,4 @@ inline std::string content_of(const std::string& path)
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

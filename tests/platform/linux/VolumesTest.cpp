@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace ostrelum {
+namespace ostrelum::linux_platform {
 namespace {
 
 /// Systems of another kind than the recorded ones: the mount points of their volumes with one blank
@@ -37,4 +37,4 @@ TEST(VolumeRule, ListsEachVolumeOnce)
 }
 
 } // namespace
-} // namespace ostrelum
+} // namespace ostrelum::linux_platform

@@ -6,7 +6,7 @@
 
 #include <sstream>
 
-namespace ostrelum::desk {
+namespace ostrelum::qt_platform::desk {
 namespace {
 
 /// Acts go by the bare name.
@@ -132,4 +132,4 @@ QWidget& Desk::find_widget(const std::string& name, int index)
     return *window().bindings().at(static_cast<std::size_t>(place))->widget();
 }
 
-} // namespace ostrelum::desk
+} // namespace ostrelum::qt_platform::desk

@@ -7,7 +7,7 @@
 #include <map>
 
 /// A small form with every kind of control, on a toolkit that draws into memory.
-namespace ostrelum::desk {
+namespace ostrelum::qt_platform::desk {
 
 struct SampleForm : Form {
     PictureBox Column;
@@ -61,4 +61,4 @@ private:
 
 using Heard = std::vector<std::string>;
 
-} // namespace ostrelum::desk
+} // namespace ostrelum::qt_platform::desk

@@ -10,7 +10,7 @@
 #include <QTextDocumentFragment>
 #include <QToolTip>
 
-namespace ostrelum::desk {
+namespace ostrelum::qt_platform::desk {
 namespace {
 
 class InputTest : public Desk {};
@@ -186,4 +186,4 @@ TEST_F(InputTest, AScreenReaderSeesNamesAndPresses)
 }
 
 } // namespace
-} // namespace ostrelum::desk
+} // namespace ostrelum::qt_platform::desk

@@ -3,7 +3,7 @@
 #include <QTest>
 #include <QTimer>
 
-namespace ostrelum::desk {
+namespace ostrelum::qt_platform::desk {
 namespace {
 
 class LifeTest : public Desk {};
@@ -120,4 +120,4 @@ TEST_F(LifeTest, AControlMayTakeItsOwnWindowAway)
 }
 
 } // namespace
-} // namespace ostrelum::desk
+} // namespace ostrelum::qt_platform::desk

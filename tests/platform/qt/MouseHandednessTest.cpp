@@ -7,7 +7,7 @@
 #include <gtest/gtest.h>
 #include <xcb/xinput.h>
 
-namespace ostrelum {
+namespace ostrelum::qt_platform {
 namespace {
 
 using Hand = std::optional<bool>;
@@ -118,4 +118,4 @@ TEST(MouseHandedness, OfAWaylandSessionIsThatOfTheDesktopsSettings)
 }
 
 } // namespace
-} // namespace ostrelum
+} // namespace ostrelum::qt_platform

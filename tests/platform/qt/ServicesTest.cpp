@@ -8,7 +8,7 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
-namespace ostrelum::desk {
+namespace ostrelum::qt_platform::desk {
 namespace {
 
 using namespace std::string_literals;
@@ -114,4 +114,4 @@ TEST_F(ServicesTest, TheScreenInMemoryIsKnown)
 }
 
 } // namespace
-} // namespace ostrelum::desk
+} // namespace ostrelum::qt_platform::desk

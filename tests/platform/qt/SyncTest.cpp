@@ -9,7 +9,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 
-namespace ostrelum::desk {
+namespace ostrelum::qt_platform::desk {
 namespace {
 
 class SyncTest : public Desk {};
@@ -123,4 +123,4 @@ TEST_F(SyncTest, NoStandInIsMuchWiderThanTheLayoutAllows)
 }
 
 } // namespace
-} // namespace ostrelum::desk
+} // namespace ostrelum::qt_platform::desk
