@@ -11,8 +11,8 @@
 namespace ostrelum::inline commands {
 namespace {
 
-constexpr Colour PlainText = RGB(32, 32, 32);
-constexpr Colour LitLink = RGB(0, 80, 210);
+constexpr Colour PlainText = rgb(32, 32, 32);
+constexpr Colour LitLink = rgb(0, 80, 210);
 
 /// Moves a label to directly behind another one.
 void place_behind(const Label& before, Label& label)

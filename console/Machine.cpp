@@ -77,8 +77,8 @@ ConsoleMachine::ConsoleMachine(const Options& options, const Sysroot& files)
                 .clock = &system_.clock,
                 .regional = &system_.regional,
                 .machine = &system_.machine,
-                .GetObject = [=](const std::string&) { return service_of(options, files); },
-                .CreateObject =
+                .get_object = [=](const std::string&) { return service_of(options, files); },
+                .create_object =
                     [this, files](const std::string&) {
                         return std::make_unique<MachineShell>(
                             files, std::make_unique<MemoryShell>(store_));

@@ -61,7 +61,7 @@ void read_input()
         attempt([&] { Datos[7] = trimmed(item["Handedness"]); });
     });
     attempt(
-        [] { Datos[5] = std::to_string(platform.machine->GetSystemMetrics(SM_CMOUSEBUTTONS)); });
+        [] { Datos[5] = std::to_string(platform.machine->GetSystemMetrics(mouse_button_count)); });
 }
 
 std::string mouse_buttons()

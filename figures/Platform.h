@@ -32,9 +32,9 @@ struct Platform {
     Machine* machine = nullptr;
 
     /// The object behind a moniker. Throws Failure if it cannot be bound.
-    std::function<std::unique_ptr<ManagementService>(const std::string& moniker)> GetObject;
+    std::function<std::unique_ptr<ManagementService>(const std::string& moniker)> get_object;
     /// A new object of a class. Throws Failure if it cannot be created.
-    std::function<std::unique_ptr<Shell>(const std::string& class_name)> CreateObject;
+    std::function<std::unique_ptr<Shell>(const std::string& class_name)> create_object;
 };
 
 inline Platform platform;

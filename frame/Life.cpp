@@ -35,7 +35,7 @@ void test_fonts()
     attempt([] {
         const std::string folder = ShellObject->SpecialFolders("Fonts");
         const auto plain = [&](const char* file) {
-            return platform.machine->GetAttr(folder + file) == ATTR_ARCHIVE;
+            return platform.machine->GetAttr(folder + file) == archive_attribute;
         };
         if (plain("\\segoeui.ttf") && plain("\\segoeuil.ttf"))
             FontsOk = 32;
@@ -56,7 +56,7 @@ void colour_the_skin()
     SplitColor(ColorValue);
     tint_skin();
     MakeSkinColor();
-    F1.Titulo.ForeColor = RGB(SkinR, SkinG, SkinB);
+    F1.Titulo.ForeColor = rgb(SkinR, SkinG, SkinB);
 }
 
 void start_fade_in()
@@ -67,8 +67,8 @@ void start_fade_in()
 
 void Form_Load()
 {
-    attempt([] { WmiService = platform.GetObject("WINMGMTS:\\\\.\\root\\cimv2"); });
-    attempt([] { ShellObject = platform.CreateObject("WScript.Shell"); });
+    attempt([] { WmiService = platform.get_object("WINMGMTS:\\\\.\\root\\cimv2"); });
+    attempt([] { ShellObject = platform.create_object("WScript.Shell"); });
     test_fonts();
     if (FontsOk != 32)
         use_other_fonts();

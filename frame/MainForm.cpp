@@ -7,9 +7,9 @@
 namespace ostrelum::inline frame {
 namespace {
 
-constexpr Colour TitleGrey = RGB(32, 32, 32);
-constexpr Colour ValueGrey = RGB(64, 64, 64);
-constexpr Colour LineGrey = RGB(200, 200, 200);
+constexpr Colour TitleGrey = rgb(32, 32, 32);
+constexpr Colour ValueGrey = rgb(64, 64, 64);
+constexpr Colour LineGrey = rgb(200, 200, 200);
 
 FontSpec tahoma(double size, bool bold = false)
 {
@@ -85,13 +85,13 @@ void place_page(Designer& put)
     ROW(Line1, .X1 = 208, .Y1 = 40, .X2 = 488, .Y2 = 40, .BorderColor = LineGrey, .Visible = false);
     ROW(Line2, .X1 = 208, .Y1 = 48, .X2 = 488, .Y2 = 48, .BorderColor = LineGrey, .Visible = false);
     ROW(LNoDrive, .Left = 250, .Top = 170, .Width = 420, .Height = 250,
-        .Font = {.Name = "Segoe UI", .Size = 36, .Italic = true}, .ForeColor = RGB(192, 192, 192),
+        .Font = {.Name = "Segoe UI", .Size = 36, .Italic = true}, .ForeColor = rgb(192, 192, 192),
         .Alignment = Align::Centre, .AutoSize = false, .WordWrap = true, .Visible = false);
     ROW(Iaviso, .Left = 208, .Top = 432, .Width = 35, .Height = 35, .Visible = false);
     ROW(Laviso, .Left = 256, .Top = 435, .Width = 323, .Height = 29, .Font = tahoma(8.25),
         .AutoSize = false, .WordWrap = true, .Visible = false);
     ROW(LineInf, .X1 = 208, .Y1 = 480, .X2 = 488, .Y2 = 480, .BorderColor = LineGrey);
-    ROW(Labelmi, .Left = 208, .Top = 488, .Font = tahoma(8.25), .ForeColor = RGB(85, 85, 85));
+    ROW(Labelmi, .Left = 208, .Top = 488, .Font = tahoma(8.25), .ForeColor = rgb(85, 85, 85));
     ROW(TapaBorde, .Left = 721, .Top = 128, .Width = 25, .Height = 313);
 }
 

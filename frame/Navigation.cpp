@@ -149,12 +149,12 @@ void ClearPage()
 
 void LockMenu()
 {
-    set_navigation(false, RGB(215, 215, 215), RGB(215, 215, 215), MouseCursor::Arrow);
+    set_navigation(false, rgb(215, 215, 215), rgb(215, 215, 215), MouseCursor::Arrow);
 }
 
 void UnlockMenu()
 {
-    set_navigation(true, RGB(250, 250, 250), White, MouseCursor::Hand);
+    set_navigation(true, rgb(250, 250, 250), White, MouseCursor::Hand);
 }
 
 } // namespace ostrelum::inline frame

@@ -46,12 +46,12 @@ void place_line(Line& line, int row, int below)
 
 void plain_title(int row)
 {
-    set_look(row, RGB(32, 32, 32), false);
+    set_look(row, rgb(32, 32, 32), false);
 }
 
 void set_heading(int row, const std::string& title)
 {
-    set_look(row, RGB(SkinR, SkinG, SkinB), true);
+    set_look(row, rgb(SkinR, SkinG, SkinB), true);
     write(F1.LT(row), title);
     write(F1.L(row), "");
     F1.L(row).ToolTipText.clear();

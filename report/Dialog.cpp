@@ -42,7 +42,7 @@ void use_other_fonts()
 
 void write_captions()
 {
-    F2.Desc1.ForeColor = RGB(0, 51, 153);
+    F2.Desc1.ForeColor = rgb(0, 51, 153);
     F2.Desc1.Caption = Trad[Text::MakeAndSaveReport];
     F2.Desc2.Caption = Trad[Text::ReportWait];
     F2.BSave.Caption = Trad[Text::SaveReport];

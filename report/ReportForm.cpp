@@ -24,8 +24,8 @@ void place_controls()
         .AutoSize = false, .WordWrap = true);
     ROW(Pic1, .Left = 24, .Top = 98, .Width = 16, .Height = 16, .Stored = art_picture("Pic1"));
     ROW(LStatus, .Left = 48, .Top = 99, .Font = segoe(9));
-    ROW(BGLine, .X1 = 0, .Y1 = 136, .X2 = 417, .Y2 = 136, .BorderColor = RGB(204, 204, 204));
-    ROW(BG, .Left = 0, .Top = 137, .Width = 417, .Height = 44, .BackColor = RGB(240, 240, 240));
+    ROW(BGLine, .X1 = 0, .Y1 = 136, .X2 = 417, .Y2 = 136, .BorderColor = rgb(204, 204, 204));
+    ROW(BG, .Left = 0, .Top = 137, .Width = 417, .Height = 44, .BackColor = rgb(240, 240, 240));
     put.inside(F2.BG);
     ROW(BSave, .Left = 166, .Top = 9, .Width = 161, .Height = 26, .Font = segoe(9),
         .Default = true, .Enabled = false);

@@ -12,7 +12,7 @@ void show_notice()
 {
     place_line(F1.Line1, 11, 7);
     F1.Iaviso.Visible = true;
-    F1.Laviso.ForeColor = RGB(75, 75, 75);
+    F1.Laviso.ForeColor = rgb(75, 75, 75);
     F1.Laviso.Caption = Trad[Text::AccountNotice];
     F1.Laviso.Visible = true;
 }

@@ -14,8 +14,8 @@
 namespace ostrelum::inline skin {
 namespace {
 
-constexpr Colour Live = RGB(32, 32, 32);
-constexpr Colour Dimmed = RGB(96, 96, 96);
+constexpr Colour Live = rgb(32, 32, 32);
+constexpr Colour Dimmed = rgb(96, 96, 96);
 /// The row of the spectrum that is sampled: its first and last are an edge.
 constexpr int SampledRow = 2;
 /// From the arrow's left edge to its tip.
@@ -52,7 +52,7 @@ void enable_transparency(bool enabled)
 void recolour()
 {
     MakeSkinColor();
-    F1.Titulo.ForeColor = RGB(SkinR, SkinG, SkinB);
+    F1.Titulo.ForeColor = rgb(SkinR, SkinG, SkinB);
     platform.toolkit->Refresh(F1);
     platform.toolkit->DoEvents();
     tint_skin();

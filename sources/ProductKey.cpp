@@ -43,11 +43,11 @@ std::string product_key(PackedKey packed)
 std::string ProductKeyText(Registry& registry)
 {
     const auto key =
-        registry.RegOpenKeyA(HKEY_LOCAL_MACHINE, "SOFTWARE\\MICROSOFT\\Windows NT\\CurrentVersion");
+        registry.RegOpenKeyA(local_machine_root, "SOFTWARE\\MICROSOFT\\Windows NT\\CurrentVersion");
     if (!key)
         return "";
     std::array<std::uint8_t, ValueSize> value{};
-    const auto length = registry.RegQueryValueExA(*key, "DigitalProductId", REG_BINARY, value);
+    const auto length = registry.RegQueryValueExA(*key, "DigitalProductId", binary_type, value);
     registry.RegCloseKey(*key);
     PackedKey packed;
     if (!length || *length < PackedOffset + packed.size())

@@ -28,8 +28,8 @@ public:
                     .clock = &clock,
                     .regional = &regional,
                     .machine = &machine,
-                    .GetObject = [this](const std::string& moniker) { return bind(moniker); },
-                    .CreateObject = [this](const std::string& name) { return create(name); }};
+                    .get_object = [this](const std::string& moniker) { return bind(moniker); },
+                    .create_object = [this](const std::string& name) { return create(name); }};
     }
     MemoryProgram(const MemoryProgram&) = delete;
     MemoryProgram& operator=(const MemoryProgram&) = delete;

@@ -63,14 +63,14 @@ int run_window(int& argc, char** argv, const ShownMachine& shown)
                 .clock = &system.clock,
                 .regional = &system.regional,
                 .machine = &machine,
-                .GetObject =
+                .get_object =
                     [&](const std::string&) {
                         return make_linux_management_service(shown.root, session_of(shown));
                     },
-                .CreateObject =
+                .create_object =
                     [&](const std::string& class_name) {
                         return std::make_unique<MachineShell>(shown.root,
-                                                              system.CreateObject(class_name));
+                                                              system.create_object(class_name));
                     }};
     start_program();
     return toolkit->run();

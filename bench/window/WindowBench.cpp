@@ -27,7 +27,7 @@ public:
     WindowProgram()
     {
         platform.toolkit = ostrelum::toolkit.get();
-        platform.GetObject = [](const std::string&) {
+        platform.get_object = [](const std::string&) {
             return make_linux_management_service("/", qt_session_facts());
         };
         start_program();

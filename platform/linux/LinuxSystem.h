@@ -29,7 +29,7 @@ struct LinuxSystem {
     }
 
     /// A new object of the class "WScript.Shell". Throws Failure for any other class.
-    std::unique_ptr<Shell> CreateObject(const std::string& class_name) const
+    std::unique_ptr<Shell> create_object(const std::string& class_name) const
     {
         if (!same_ascii_letters(class_name, "WScript.Shell"))
             throw Failure("no such class: " + class_name);

@@ -55,7 +55,7 @@ std::optional<Registry::Key> MemoryRegistry::RegOpenKeyA(std::uint32_t root,
 {
     const bool known =
         std::ranges::any_of(values, [&](const auto& value) { return value.first.first == path; });
-    if (root != HKEY_LOCAL_MACHINE || !known)
+    if (root != local_machine_root || !known)
         return std::nullopt;
     open[++last_] = path;
     return last_;
@@ -66,7 +66,7 @@ std::optional<std::size_t> MemoryRegistry::RegQueryValueExA(Key key, const std::
                                                             std::span<std::uint8_t> buffer)
 {
     const auto value = values.find({open.at(key), name});
-    if (value == values.end() || type != REG_BINARY || value->second.size() > buffer.size())
+    if (value == values.end() || type != binary_type || value->second.size() > buffer.size())
         return std::nullopt;
     std::ranges::copy(value->second, buffer.begin());
     return value->second.size();

@@ -71,7 +71,7 @@ void MemoryToolkit::SetWindowLongA(Form& form, int index, std::int32_t value)
 void MemoryToolkit::SetLayeredWindowAttributes(Form& form, Colour, std::uint8_t alpha,
                                                std::uint32_t flags)
 {
-    if (flags == LWA_ALPHA && (GetWindowLongA(form, GWL_EXSTYLE) & WS_EX_LAYERED) != 0)
+    if (flags == alpha_flag && (GetWindowLongA(form, extended_style_index) & layered_style) != 0)
         alphas[&form].push_back(alpha);
 }
 

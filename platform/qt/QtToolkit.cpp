@@ -187,7 +187,7 @@ void QtToolkit::SetLayeredWindowAttributes(Form& form, Colour, std::uint8_t alph
                                            std::uint32_t flags)
 {
     // A window that is not layered has no alpha to set.
-    if (!layers_[&form].layered() || !(flags & LWA_ALPHA))
+    if (!layers_[&form].layered() || !(flags & alpha_flag))
         return;
     layers_[&form].alpha = alpha;
     apply_opacity(form);
@@ -195,8 +195,8 @@ void QtToolkit::SetLayeredWindowAttributes(Form& form, Colour, std::uint8_t alph
 
 bool QtToolkit::Layer::layered() const
 {
-    const auto style = longs.find(GWL_EXSTYLE);
-    return style != longs.end() && style->second & WS_EX_LAYERED;
+    const auto style = longs.find(extended_style_index);
+    return style != longs.end() && style->second & layered_style;
 }
 
 void QtToolkit::apply_opacity(const Form& form)

@@ -14,9 +14,9 @@ struct SystemInfo {
 };
 
 /// Index of the number of mouse buttons, for `GetSystemMetrics`.
-inline constexpr int SM_CMOUSEBUTTONS = 43;
+inline constexpr int mouse_button_count = 43;
 /// File attribute of an ordinary file: the archive flag alone.
-inline constexpr int ATTR_ARCHIVE = 32;
+inline constexpr int archive_attribute = 32;
 
 /// System calls about the machine, the process and its files.
 class Machine {

@@ -9,9 +9,9 @@
 namespace ostrelum::inline system {
 
 /// Predefined root of the machine-wide keys.
-inline constexpr std::uint32_t HKEY_LOCAL_MACHINE = 0x80000002U;
+inline constexpr std::uint32_t local_machine_root = 0x80000002U;
 /// Type number of a binary value.
-inline constexpr std::uint32_t REG_BINARY = 3;
+inline constexpr std::uint32_t binary_type = 3;
 
 /// Binary values of the machine-wide registry, read only.
 class Registry {

@@ -8,7 +8,7 @@ namespace ostrelum::inline toolkit {
 using Colour = std::uint32_t;
 
 /// Each channel 0 to 255.
-constexpr Colour RGB(int red, int green, int blue)
+constexpr Colour rgb(int red, int green, int blue)
 {
     return static_cast<Colour>(red & 255) | static_cast<Colour>(green & 255) << 8 |
            static_cast<Colour>(blue & 255) << 16;
@@ -27,6 +27,6 @@ constexpr int blue_of(Colour colour)
     return static_cast<int>(colour >> 16 & 255);
 }
 
-inline constexpr Colour White = RGB(255, 255, 255);
+inline constexpr Colour White = rgb(255, 255, 255);
 
 } // namespace ostrelum::inline toolkit

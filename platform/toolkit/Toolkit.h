@@ -15,11 +15,11 @@ struct TextSize {
 };
 
 /// Index of the extended window style.
-inline constexpr int GWL_EXSTYLE = -20;
+inline constexpr int extended_style_index = -20;
 /// Extended style of a window that has an opacity of its own.
-inline constexpr std::int32_t WS_EX_LAYERED = 0x80000;
+inline constexpr std::int32_t layered_style = 0x80000;
 /// The window's opacity is its alpha; the colour key is unused.
-inline constexpr std::uint32_t LWA_ALPHA = 2;
+inline constexpr std::uint32_t alpha_flag = 2;
 
 /// The window toolkit. After each event that it raises it shows what the event
 /// changed in the form's data; in the middle of an event only Refresh does.

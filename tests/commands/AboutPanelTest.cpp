@@ -57,10 +57,10 @@ TEST_F(AboutPanelOpen, TheLinkLightsUpAndOpensByTheLeftButtonAlone)
     open("English");
     for (const char* way_back : {"PicInformacion", "LTra1"}) {
         F1.raise("LTra2", {.kind = EventKind::MouseMove});
-        EXPECT_EQ(F1.LTra2.ForeColor, RGB(0, 80, 210));
+        EXPECT_EQ(F1.LTra2.ForeColor, rgb(0, 80, 210));
         EXPECT_TRUE(F1.LTra2.Font.Underline);
         F1.raise(way_back, {.kind = EventKind::MouseMove});
-        EXPECT_EQ(F1.LTra2.ForeColor, RGB(32, 32, 32)) << way_back;
+        EXPECT_EQ(F1.LTra2.ForeColor, rgb(32, 32, 32)) << way_back;
         EXPECT_FALSE(F1.LTra2.Font.Underline) << way_back;
     }
     press("LTra2", 0, RightButton);

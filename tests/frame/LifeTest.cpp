@@ -38,7 +38,7 @@ TEST_F(Life, FirstRunWritesFiveDefaultsInOrderAndFadesInToOpaque)
                 ElementsAre(91, 82, 73, 64, 55, 46, 37, 28, 19, 10, 1, -8));
     EXPECT_THAT(toolkit.alphas[&F1],
                 ElementsAre(0, 22, 45, 68, 91, 114, 137, 160, 183, 206, 229, 252, 255, 255));
-    EXPECT_EQ(toolkit.GetWindowLongA(F1, GWL_EXSTYLE), WS_EX_LAYERED);
+    EXPECT_EQ(toolkit.GetWindowLongA(F1, extended_style_index), layered_style);
 }
 
 TEST_F(Life, FadesRestAtTheTransparencyAndStartOverWhenClosedAgain)
@@ -100,7 +100,7 @@ TEST_F(Life, StartFillsMenuSkinAndFirstPageBeforeTheWindowShows)
     EXPECT_EQ(stored("Language"), "  Dutch ") << "the store keeps its blanks";
     EXPECT_EQ(F1.LMenu(2).Caption, "Gebruikersaccount");
     EXPECT_EQ(F1.LMenu2.Caption, F1.LMenu(1).Caption);
-    EXPECT_EQ(F1.Titulo.ForeColor, RGB(0, 84, 189));
+    EXPECT_EQ(F1.Titulo.ForeColor, rgb(0, 84, 189));
     EXPECT_EQ(F1.Seccion, 1);
     EXPECT_TRUE(F6.created());
     EXPECT_EQ(F1.Ico.Stored, F6->Sec1.Stored);

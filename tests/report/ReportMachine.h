@@ -19,7 +19,7 @@ public:
         }
         machine.environment["UserName"] = "Ana";
         machine.processors = 4;
-        machine.metrics[SM_CMOUSEBUTTONS] = 3;
+        machine.metrics[mouse_button_count] = 3;
         store.values["HKEY_CURRENT_USER\\Software\\Install\\Ostrelum\\Mainboard\\Full"] = "Board 7";
         store.folders["Desktop"] = "/home/ana/Desktop";
     }

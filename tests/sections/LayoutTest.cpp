@@ -56,7 +56,7 @@ TEST_F(Layout, OfEachPageWipesOutThatOfAnother)
         SCOPED_TRACE(c.title);
         F1.Line1.Visible = F1.Line2.Visible = F1.LNoDrive.Visible = true;
         F1.Iaviso.Visible = F1.Laviso.Visible = true;
-        F1.Laviso.ForeColor = RGB(255, 0, 0);
+        F1.Laviso.ForeColor = rgb(255, 0, 0);
         F1.Timer1.Enabled = false;
         open(c.section);
         press("LMenu", 7, MiddleButton);
@@ -69,7 +69,7 @@ TEST_F(Layout, OfEachPageWipesOutThatOfAnother)
         EXPECT_TRUE(F1.BM.Visible && F1.TAlphaB.Enabled);
         EXPECT_EQ(seen_beside_the_rows(), c.seen);
         EXPECT_EQ(rows_with_title_tooltips(), c.title_tooltips);
-        const Colour notice = c.section == 2 ? RGB(75, 75, 75) : RGB(0, 145, 0);
+        const Colour notice = c.section == 2 ? rgb(75, 75, 75) : rgb(0, 145, 0);
         EXPECT_TRUE(F1.Laviso.ForeColor == notice || !F1.Laviso.Visible);
         if (c.line_row != 0) {
             EXPECT_EQ(F1.Line1.Y1, F1.LT(c.line_row).Top + c.line_below);
@@ -79,7 +79,7 @@ TEST_F(Layout, OfEachPageWipesOutThatOfAnother)
             SCOPED_TRACE(shown(row));
             const bool empty = c.empty_rows.contains(row);
             const bool heading = c.section == 1 && (row == 1 || row == 8);
-            const Colour colour = heading ? RGB(SkinR, SkinG, SkinB) : RGB(32, 32, 32);
+            const Colour colour = heading ? rgb(SkinR, SkinG, SkinB) : rgb(32, 32, 32);
             EXPECT_TRUE(F1.LT(row).ForeColor == colour || empty);
             EXPECT_TRUE(F1.LT(row).Font.Italic == heading || empty);
             EXPECT_EQ(F1.L(row).Caption.empty(), empty || heading);
@@ -123,7 +123,7 @@ TEST_F(Layout, WithoutAMediumTheNoticeStandsAloneOnThePage)
         EXPECT_EQ(seen_beside_the_rows(), " LNoDrive Iaviso Laviso");
         EXPECT_EQ(F1.LNoDrive.Caption, c.notice);
         EXPECT_EQ(F1.Laviso.Caption, c.request);
-        EXPECT_EQ(F1.Laviso.ForeColor, RGB(75, 75, 75));
+        EXPECT_EQ(F1.Laviso.ForeColor, rgb(75, 75, 75));
         EXPECT_EQ(F1.MediaCount, 0);
         EXPECT_EQ(script.asked.size(), 1U) << "nothing else is asked";
     }

@@ -155,7 +155,7 @@ TEST_F(Rows, TakeFiguresFromTheSystemToo)
     };
     for (const auto& c : cases) {
         machine.processors = c.processors;
-        machine.metrics[SM_CMOUSEBUTTONS] = c.buttons;
+        machine.metrics[mouse_button_count] = c.buttons;
         regional.sign = c.sign;
         expect(std::array{Case{1, "Processor", c.speed, c.rows}}, value);
         open(10);

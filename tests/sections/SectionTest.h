@@ -46,7 +46,7 @@ protected:
     {
         for (auto& [class_name, objects] : recorded_objects("sections/machine.tsv"))
             has[class_name] = objects;
-        platform.GetObject = [this](const std::string&) -> std::unique_ptr<ManagementService> {
+        platform.get_object = [this](const std::string&) -> std::unique_ptr<ManagementService> {
             return std::make_unique<Answers>(*this);
         };
         machine.environment["UserName"] = "  ana ";

@@ -58,7 +58,7 @@ TEST_F(CustomisePanelOpen, ShowsTheSettingsOfTheRunAndTouchesNeitherSkinNorStore
     EXPECT_EQ(F1.Scroll2.Value, 4) << "5 halves to 2, the even neighbour";
     EXPECT_EQ(F1.CheckTrans.Value, 0);
     EXPECT_FALSE(F1.Scroll3.Enabled);
-    EXPECT_EQ(F1.LPers3.ForeColor, RGB(96, 96, 96));
+    EXPECT_EQ(F1.LPers3.ForeColor, rgb(96, 96, 96));
     EXPECT_EQ(F1.LPers3.Caption, "30 %");
     EXPECT_EQ(F1.S(1).Surface, skin);
     EXPECT_FALSE(F1.Timer1.Enabled);
@@ -72,7 +72,7 @@ TEST_F(CustomisePanelOpen, ShowsTheSettingsOfTheRunAndTouchesNeitherSkinNorStore
     EXPECT_EQ(F1.Titulo.Caption, Trad[Text::Ram]);
     EXPECT_TRUE(F1.LineInf.Visible && F1.LMenu(1).TabStop);
     EXPECT_EQ(F1.LMenu(13).ForeColor, White);
-    EXPECT_EQ(F1.LOpc.ForeColor, RGB(250, 250, 250));
+    EXPECT_EQ(F1.LOpc.ForeColor, rgb(250, 250, 250));
     EXPECT_EQ(F1.MenuLogo.MousePointer, MouseCursor::Hand);
     EXPECT_TRUE(F1.LangList.List.empty());
     click("Personalizar");
@@ -94,7 +94,7 @@ TEST_F(CustomisePanelOpen, SlidersActAtOnceAndTheArrowFollows)
         slide(F1.Scroll1, row.column);
         EXPECT_EQ(ColorValue, row.colour) << row.column;
         EXPECT_EQ(F1.Arrow.Left, 13 + row.column);
-        EXPECT_EQ(F1.Titulo.ForeColor, RGB(SkinR, SkinG, SkinB));
+        EXPECT_EQ(F1.Titulo.ForeColor, rgb(SkinR, SkinG, SkinB));
         EXPECT_NE(F1.BM.Surface, before);
     }
     const std::pair<int, int> shines[] = {{47, 24}, {7, 4}, {5, 2}, {1, 0}, {48, 24}};
@@ -131,7 +131,7 @@ TEST_F(CustomisePanelOpen, TheBoxSwitchesOpacityAndKeepsThePercent)
     set_value(F1, F1.CheckTrans, 1);
     EXPECT_EQ(toolkit.alphas[&F1].back(), 204);
     EXPECT_TRUE(TransEnabled && F1.Scroll3.Enabled);
-    EXPECT_EQ(F1.LPers3.ForeColor, RGB(32, 32, 32));
+    EXPECT_EQ(F1.LPers3.ForeColor, rgb(32, 32, 32));
 }
 
 TEST_F(CustomisePanelOpen, AcceptWritesWhatDiffersInOrder)
@@ -205,7 +205,7 @@ TEST_F(CustomisePanelOpen, LocksWhatLiesAroundItUntilItCloses)
     EXPECT_EQ(F1.Seccion, CustomisePanel);
     EXPECT_TRUE(toolkit.popups.empty());
     EXPECT_FALSE(F1.LMenu(8).TabStop || F1.LOpc.TabStop);
-    EXPECT_TRUE(F1.LMenu(13).ForeColor == RGB(215, 215, 215) &&
+    EXPECT_TRUE(F1.LMenu(13).ForeColor == rgb(215, 215, 215) &&
                 F1.LOpc.ForeColor == F1.LMenu(13).ForeColor);
     EXPECT_TRUE(F1.BM.MousePointer == MouseCursor::Arrow &&
                 F1.S(1).MousePointer == MouseCursor::Arrow);

@@ -22,7 +22,7 @@ namespace ostrelum::linux_platform {
 
 namespace {
 
-constexpr int ATTR_DIRECTORY = 16;
+constexpr int directory_attribute = 16;
 
 /// Programs that remap keys make devices of their own, with every button there is.
 bool made_by_program(const Sysroot& root, const std::string& device)
@@ -100,7 +100,7 @@ SystemInfo LinuxMachine::GetOstrelum()
 
 int LinuxMachine::GetSystemMetrics(int index)
 {
-    return files_ && index == SM_CMOUSEBUTTONS ? mouse_buttons(input_devices(*files_)) : 0;
+    return files_ && index == mouse_button_count ? mouse_buttons(input_devices(*files_)) : 0;
 }
 
 std::string LinuxMachine::Environ(const std::string& name)
@@ -127,9 +127,9 @@ int LinuxMachine::GetAttr(const std::string& path)
     if (!found || ::stat(found->c_str(), &status) != 0)
         throw Failure("no such file: " + path);
     if (S_ISDIR(status.st_mode))
-        return ATTR_DIRECTORY;
+        return directory_attribute;
     const bool readable = S_ISREG(status.st_mode) && ::access(found->c_str(), R_OK) == 0;
-    return readable ? ATTR_ARCHIVE : 0;
+    return readable ? archive_attribute : 0;
 }
 
 bool LinuxMachine::PrevInstance()

@@ -76,9 +76,9 @@ TEST(Machine, TellsAFilesAttribute)
     folder.file("fonts/SegoeUI.ttf");
     fs::create_symlink("/dev/null", folder / "fonts/null");
     LinuxMachine machine("/", {});
-    EXPECT_EQ(machine.GetAttr(folder / "fonts\\segoeui.ttf"), ATTR_ARCHIVE);
-    EXPECT_NE(machine.GetAttr(folder / "fonts"), ATTR_ARCHIVE);
-    EXPECT_NE(machine.GetAttr(folder / "fonts\\null"), ATTR_ARCHIVE);
+    EXPECT_EQ(machine.GetAttr(folder / "fonts\\segoeui.ttf"), archive_attribute);
+    EXPECT_NE(machine.GetAttr(folder / "fonts"), archive_attribute);
+    EXPECT_NE(machine.GetAttr(folder / "fonts\\null"), archive_attribute);
     for (const char* missing : {"fonts\\segoeuil.ttf", "none\\segoeui.ttf"})
         EXPECT_THROW(machine.GetAttr(folder / missing), Failure) << missing;
 }

@@ -48,7 +48,7 @@ constexpr Handler handlers[] = {
 void design(SampleForm& form)
 {
     Designer put(form);
-    put.place("Column", form.Column, {.Width = 100, .Height = 200, .Stored = Picture(plain_bitmap(100, 200, RGB(40, 40, 40), RGB(250, 120, 0)))});
+    put.place("Column", form.Column, {.Width = 100, .Height = 200, .Stored = Picture(plain_bitmap(100, 200, rgb(40, 40, 40), rgb(250, 120, 0)))});
     put.inside(form.Column);
     put.place("Menu", form.Menu, [](int i) { return Label{.Caption = "Entry", .Left = 10, .Top = 10 + 40 * (i - 1), .Width = 60, .Height = 20, .ForeColor = White, .AutoSize = false, .MousePointer = MouseCursor::Hand, .TabStop = true}; });
     put.place("Bar", form.Bar, {.Top = 45, .Width = 100, .Height = 30});
@@ -56,7 +56,7 @@ void design(SampleForm& form)
     put.place("Silent", form.Silent, {.Caption = "Quiet", .Left = 5, .Top = 5, .Width = 50, .Height = 20, .AutoSize = false});
     put.on_the_form();
     put.place("Free", form.Free, {.Caption = "Free text", .Left = 120, .Top = 10});
-    put.place("Rule", form.Rule, {.X1 = 120, .Y1 = 40, .X2 = 180, .Y2 = 40, .BorderColor = RGB(200, 0, 0)});
+    put.place("Rule", form.Rule, {.X1 = 120, .Y1 = 40, .X2 = 180, .Y2 = 40, .BorderColor = rgb(200, 0, 0)});
     put.place("Ok", form.Ok, {.Caption = "Fine", .Left = 120, .Top = 150, .Width = 80, .Height = 25, .Default = true});
     put.place("No", form.No, {.Caption = "Not", .Left = 210, .Top = 150, .Width = 80, .Height = 25, .Cancel = true});
     put.place("Slide", form.Slide, {.Left = 120, .Top = 50, .Width = 150, .Height = 17, .Max = 100, .LargeChange = 10, .Value = 50});

@@ -106,7 +106,7 @@ TEST_F(InputTest, TheFocusFrameLiesOverTheBarAndGoesWithTheMouse)
     const auto corner = [&] { return window().grab().toImage().pixelColor(6, 46); };
     EXPECT_EQ(corner(), QColor(Qt::white));
     EXPECT_EQ(window().grab().toImage().pixelColor(7, 47), QColor(Qt::black));
-    form.Bar.BackColor = RGB(5, 5, 5);
+    form.Bar.BackColor = rgb(5, 5, 5);
     toolkit().Refresh(form);
     QTest::mouseClick(&widget("Column"), Qt::MiddleButton, {}, {90, 190});
     EXPECT_EQ(corner(), QColor(5, 5, 5));

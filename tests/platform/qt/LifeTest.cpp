@@ -10,9 +10,9 @@ class LifeTest : public Desk {};
 
 void make_transparent(Toolkit& toolkit, Form& form, std::uint8_t alpha)
 {
-    toolkit.SetWindowLongA(form, GWL_EXSTYLE,
-                           toolkit.GetWindowLongA(form, GWL_EXSTYLE) | WS_EX_LAYERED);
-    toolkit.SetLayeredWindowAttributes(form, 0, alpha, LWA_ALPHA);
+    toolkit.SetWindowLongA(form, extended_style_index,
+                           toolkit.GetWindowLongA(form, extended_style_index) | layered_style);
+    toolkit.SetLayeredWindowAttributes(form, 0, alpha, alpha_flag);
 }
 
 TEST_F(LifeTest, TheWindowHasItsSizeForGood)
@@ -37,21 +37,21 @@ TEST_F(LifeTest, ClosingAsksTheForm)
 TEST_F(LifeTest, OpacitySetBeforeTheWindowHoldsAndGoesWithIt)
 {
     toolkit().Hide(form);
-    EXPECT_EQ(toolkit().GetWindowLongA(form, GWL_EXSTYLE), 0);
-    toolkit().SetLayeredWindowAttributes(form, 0, 10, LWA_ALPHA);
+    EXPECT_EQ(toolkit().GetWindowLongA(form, extended_style_index), 0);
+    toolkit().SetLayeredWindowAttributes(form, 0, 10, alpha_flag);
     make_transparent(toolkit(), form, 51);
     toolkit().Show(form);
     EXPECT_NEAR(window().windowOpacity(), 0.2, 0.01);
-    EXPECT_EQ(toolkit().GetWindowLongA(form, GWL_EXSTYLE), WS_EX_LAYERED);
+    EXPECT_EQ(toolkit().GetWindowLongA(form, extended_style_index), layered_style);
     make_transparent(toolkit(), form, 0);
     EXPECT_EQ(window().windowOpacity(), 0);
 
     toolkit().Hide(form);
     toolkit().Show(form);
     EXPECT_EQ(window().windowOpacity(), 1) << "a new window starts opaque";
-    EXPECT_EQ(toolkit().GetWindowLongA(form, GWL_EXSTYLE), 0);
-    toolkit().SetLayeredWindowAttributes(form, 0, 10, LWA_ALPHA);
-    toolkit().SetWindowLongA(form, GWL_EXSTYLE, WS_EX_LAYERED);
+    EXPECT_EQ(toolkit().GetWindowLongA(form, extended_style_index), 0);
+    toolkit().SetLayeredWindowAttributes(form, 0, 10, alpha_flag);
+    toolkit().SetWindowLongA(form, extended_style_index, layered_style);
     EXPECT_EQ(window().windowOpacity(), 1) << "it was not a layered window then";
 }
 

@@ -23,7 +23,7 @@ TEST_F(SyncTest, RefreshShowsWhatTheDataSays)
 {
     form.Caption = "Other";
     form.Free.Caption = "a <b>device</b> & more";
-    form.Free.ForeColor = RGB(1, 2, 3);
+    form.Free.ForeColor = rgb(1, 2, 3);
     form.Free.Left = 130;
     form.Free.ToolTipText = "tip";
     form.Ok.Enabled = false;
@@ -64,14 +64,14 @@ TEST_F(SyncTest, PicturesArePixelExact)
     EXPECT_EQ(colour_at(widget("Column"), 99, 199), QColor(40, 40, 40));
 
     // A width whose rows are filled up, and a picture smaller than its box.
-    form.Bar.Surface = Picture(plain_bitmap(3, 3, RGB(0, 0, 255), RGB(0, 255, 0)));
-    form.Bar.BackColor = RGB(9, 8, 7);
+    form.Bar.Surface = Picture(plain_bitmap(3, 3, rgb(0, 0, 255), rgb(0, 255, 0)));
+    form.Bar.BackColor = rgb(9, 8, 7);
     toolkit().Refresh(form);
     EXPECT_EQ(colour_at(widget("Bar"), 0, 0), QColor(0, 255, 0));
     EXPECT_EQ(colour_at(widget("Bar"), 2, 2), QColor(0, 0, 255));
     EXPECT_EQ(colour_at(widget("Bar"), 3, 2), QColor(9, 8, 7));
 
-    Bitmap holed = plain_bitmap(2, 1, RGB(0, 0, 255), RGB(255, 0, 0));
+    Bitmap holed = plain_bitmap(2, 1, rgb(0, 0, 255), rgb(255, 0, 0));
     holed.coverage = {255, 0};
     form.Bar.Surface = Picture(holed);
     form.Bar.Transparent = true;
