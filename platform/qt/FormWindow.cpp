@@ -2,6 +2,7 @@
 
 #include "platform/qt/Colours.h"
 #include "platform/qt/Images.h"
+#include "platform/qt/Keys.h"
 #include "platform/qt/MouseEventFilter.h"
 #include "platform/qt/Text.h"
 
@@ -13,7 +14,7 @@
 namespace ostrelum::qt_platform {
 namespace {
 
-Qt::WindowFlags frame_of(const Form& form, Qt::WindowType kind)
+Qt::WindowFlags flags_of(const Form& form, Qt::WindowType kind)
 {
     Qt::WindowFlags flags = kind | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                             Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
@@ -22,73 +23,80 @@ Qt::WindowFlags frame_of(const Form& form, Qt::WindowType kind)
     return flags;
 }
 
-} // namespace
-
-FormWindow::FormWindow(const WindowContext& context, Qt::WindowType kind,
-                       std::function<void()> asked_to_close)
-    : QWidget(nullptr, frame_of(context.form, kind)), context_(context),
-      asked_to_close_(std::move(asked_to_close)), keyboard_(*this, bindings_, context_)
+QIcon icon_of(const FormFrame& frame)
 {
-    // The window itself has the focus until the user moves it, so that no control starts marked.
-    setFocusPolicy(Qt::ClickFocus);
-    setFocus();
-    new MouseEventFilter(*this, nullptr, context_);
-    installEventFilter(this);
-    make_bindings();
+    QIcon icon;
+    for (const Picture& picture : frame.Icon) {
+        icon.addPixmap(pixmap_of(picture.bitmap()));
+        icon.addPixmap(pixmap_of(picture.doubled()));
+    }
+    return icon;
 }
 
-void FormWindow::make_bindings()
+} // namespace
+
+FormWindow::FormWindow(const Form& form, const Toolkit& toolkit, const Cursors& cursors,
+                       EventDispatcher& dispatcher, Qt::WindowType kind,
+                       std::function<void()> asked_to_close)
+    : QWidget(nullptr, flags_of(form, kind)), form_(form), events_(form, dispatcher),
+      mouse_(events_),
+      keyboard_(events_, mouse_, *this), context_{toolkit, cursors, events_, mouse_},
+      asked_to_close_(std::move(asked_to_close)), focus_frame_(*this)
 {
-    for (const ControlEntry& entry : context_.form.controls) {
-        QWidget* parent = this;
-        if (entry.container >= 0) {
-            const auto& holder = bindings_.at(static_cast<std::size_t>(entry.container));
-            parent = holder && holder->widget() ? holder->widget() : this;
-        }
-        bindings_.push_back(make_binding(entry, *parent, context_));
-        if (const auto& made = bindings_.back(); made && made->widget())
-            made->widget()->installEventFilter(this);
+    setFocusPolicy(Qt::ClickFocus);
+    setFocus();
+    new MouseEventFilter(*this, form_itself, context_);
+    installEventFilter(this);
+    make_widgets();
+}
+
+void FormWindow::make_widgets()
+{
+    for (const ControlEntry& entry : form_.controls) {
+        QWidget* holder = entry.container == form_itself ? nullptr : widget(entry.container);
+        controls_.push_back(
+            make_control_widget(place_of(form_, entry), holder ? *holder : *this, context_));
+        if (QWidget* made = controls_.back().widget)
+            made->installEventFilter(this);
     }
+}
+
+QWidget* FormWindow::widget(int place) const
+{
+    return controls_.at(static_cast<std::size_t>(place)).widget;
 }
 
 void FormWindow::sync()
 {
     sync_frame();
-    for (const auto& binding : bindings_) {
-        if (binding)
-            binding->sync();
+    const int focus = focus_after_change(form_, focused());
+    for (const ControlWidget& control : controls_) {
+        if (control.binding)
+            control.binding->sync();
     }
+    if (focus != focused())
+        set_focus(focus);
     keyboard_.show_focus();
 }
 
 void FormWindow::sync_frame()
 {
-    const Form& form = context_.form;
-    const Frame wanted{form.Caption,
-                       {form.ClientWidth, form.ClientHeight},
-                       form.BackColor,
-                       form.Icon,
-                       form.MousePointer};
+    FormFrame wanted = frame_of(form_);
     if (shown_ == wanted)
         return;
-    setWindowTitle(qt_text(form.Caption));
-    setFixedSize(form.ClientWidth, form.ClientHeight);
-    setPalette(window_palette(form.BackColor));
-    context_.cursors.set(*this, form.MousePointer);
-    QIcon icon;
-    for (const Picture& picture : form.Icon) {
-        icon.addPixmap(pixmap_of(picture.bitmap()));
-        icon.addPixmap(pixmap_of(picture.doubled()));
-    }
-    setWindowIcon(icon);
-    shown_ = wanted;
+    setWindowTitle(qt_text(wanted.Caption));
+    setFixedSize(wanted.ClientWidth, wanted.ClientHeight);
+    setPalette(window_palette(wanted.BackColor));
+    context_.cursors.set(*this, wanted.MousePointer);
+    setWindowIcon(icon_of(wanted));
+    shown_ = std::move(wanted);
 }
 
 void FormWindow::bring_up()
 {
     if (!isVisible()) {
-        const QScreen* under_pointer = QGuiApplication::screenAt(QCursor::pos());
-        const QScreen* screen = under_pointer ? under_pointer : QGuiApplication::primaryScreen();
+        const QScreen* under_mouse = QGuiApplication::screenAt(QCursor::pos());
+        const QScreen* screen = under_mouse ? under_mouse : QGuiApplication::primaryScreen();
         if (screen)
             move(screen->availableGeometry().center() - rect().center());
     }
@@ -99,13 +107,37 @@ void FormWindow::bring_up()
 
 void FormWindow::close_down()
 {
-    for (const auto& binding : bindings_) {
-        if (binding)
-            binding->stop();
+    events_.close();
+    for (const ControlWidget& control : controls_) {
+        if (control.binding)
+            control.binding->stop();
     }
     hide();
     if (gone)
         gone();
+}
+
+int FormWindow::focused() const
+{
+    const QWidget* focus = focusWidget();
+    for (int place = 0; focus && place < static_cast<int>(controls_.size()); ++place) {
+        if (widget(place) == focus)
+            return place;
+    }
+    return form_itself;
+}
+
+void FormWindow::set_focus(int control)
+{
+    if (control == form_itself)
+        setFocus(Qt::OtherFocusReason);
+    else
+        widget(control)->setFocus(Qt::TabFocusReason);
+}
+
+void FormWindow::mark(int control)
+{
+    focus_frame_.follow(control == form_itself ? nullptr : widget(control));
 }
 
 void FormWindow::closeEvent(QCloseEvent* event)
@@ -116,7 +148,8 @@ void FormWindow::closeEvent(QCloseEvent* event)
 
 void FormWindow::keyPressEvent(QKeyEvent* event)
 {
-    event->setAccepted(keyboard_.key(*event));
+    event->setAccepted(
+        keyboard_.key(key_of(*event), number_of(event->modifiers()), event->isAutoRepeat()));
 }
 
 /// Menus come from presses of the mouse and from keyPressEvent().
@@ -125,13 +158,10 @@ void FormWindow::contextMenuEvent(QContextMenuEvent* event)
     event->accept();
 }
 
+/// Comes for Tab and Shift+Tab, and for a control that goes with the focus, which sync() moves.
 bool FormWindow::focusNextPrevChild(bool next)
 {
-    const bool moved = QWidget::focusNextPrevChild(next);
-    // Not where a control that goes gives its focus away.
-    if (!context_.dispatcher.syncing())
-        keyboard_.set_in_use(true);
-    return moved;
+    return events_.syncing() || keyboard_.key(Key::Tab, next ? 0 : 1, false);
 }
 
 /// Sees the events of the window and of all its widgets, before they get them.

@@ -1,20 +1,29 @@
 #pragma once
 
-#include "platform/qt/Keyboard.h"
+#include "platform/qt/ControlWidget.h"
+#include "platform/qt/FocusFrame.h"
+#include "platform/toolkit/FormFrame.h"
+#include "platform/toolkit/KeyboardInput.h"
+
+#include <functional>
+#include <optional>
+#include <vector>
 
 namespace ostrelum::qt_platform {
 
 /// The window of a form, with a widget for each of its controls.
-class FormWindow : public QWidget {
+class FormWindow : public QWidget, private FocusView {
 public:
     /// `kind` is a window of its own or a dialog, which a desktop keeps over the window it came
     /// from. `asked_to_close` runs when the user closes the window by its frame.
-    FormWindow(const WindowContext& context, Qt::WindowType kind,
+    FormWindow(const Form& form, const Toolkit& toolkit, const Cursors& cursors,
+               EventDispatcher& dispatcher, Qt::WindowType kind,
                std::function<void()> asked_to_close);
 
-    const Form& form() const { return context_.form; }
-    const ControlBindings& bindings() const { return bindings_; }
-    /// Hands on what differs.
+    WindowEvents& events() { return events_; }
+    /// The widget of the control at a place of the form; nullptr for what has none.
+    QWidget* widget(int place) const;
+    /// Shows what differs.
     void sync();
     /// Brings the window up in the centre of the screen.
     void bring_up();
@@ -31,23 +40,22 @@ protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
-    void make_bindings();
+    int focused() const override;
+    void set_focus(int control) override;
+    void mark(int control) override;
+    void make_widgets();
     void sync_frame();
 
+    const Form& form_;
+    WindowEvents events_;
+    MouseInput mouse_;
+    KeyboardInput keyboard_;
     const WindowContext context_;
     std::function<void()> asked_to_close_;
-    ControlBindings bindings_;
-    Keyboard keyboard_;
-    /// Copies of what the frame shows.
-    struct Frame {
-        std::string Caption;
-        Point size;
-        Colour BackColor = White;
-        std::array<Picture, 2> Icon;
-        MouseCursor MousePointer = MouseCursor::Default;
-        bool operator==(const Frame&) const = default;
-    };
-    std::optional<Frame> shown_;
+    std::vector<ControlWidget> controls_;
+    FocusFrame focus_frame_;
+    /// What the frame shows.
+    std::optional<FormFrame> shown_;
 };
 
 } // namespace ostrelum::qt_platform

@@ -6,17 +6,18 @@
 
 namespace ostrelum::qt_platform {
 
-ButtonBinding::ButtonBinding(CommandButton& button, const ControlEntry& entry, QWidget& parent,
-                             const WindowContext& context)
-    : BindingOf(button, entry, context), widget_(new QPushButton(&parent))
+QtButtonBinding::QtButtonBinding(CommandButton& button, int place, QWidget& parent,
+                                 const WindowContext& context)
+    : CommandButtonBinding(button, place, context.events), widget_(new QPushButton(&parent))
 {
     widget_->setAutoDefault(false);
-    QObject::connect(widget_, &QPushButton::clicked, widget_, [this] { raise(EventKind::Click); });
+    QObject::connect(widget_, &QPushButton::clicked, widget_, [this] { user_clicks(); });
 }
 
-void ButtonBinding::apply()
+void QtButtonBinding::apply()
 {
-    place(*widget_);
+    if (moved())
+        set_place(*widget_, control_);
     if (changed(&CommandButton::Caption))
         widget_->setText(qt_text(control_.Caption));
     if (changed(&CommandButton::Font))
@@ -25,39 +26,26 @@ void ButtonBinding::apply()
         widget_->setDefault(control_.Default);
     if (changed(&CommandButton::Enabled))
         widget_->setEnabled(control_.Enabled);
-    appear(*widget_);
+    if (changed(&CommandButton::Visible))
+        widget_->setVisible(control_.Visible);
 }
 
-ScrollBarBinding::ScrollBarBinding(ScrollBar& bar, const ControlEntry& entry, QWidget& parent,
-                                   const WindowContext& context)
-    : BindingOf(bar, entry, context), widget_(new SliderWidget(&parent))
+QtScrollBarBinding::QtScrollBarBinding(ScrollBar& bar, int place, QWidget& parent,
+                                       const WindowContext& context)
+    : ScrollBarBinding(bar, place, context.events), widget_(new SliderWidget(&parent))
 {
     widget_->setFocusPolicy(Qt::StrongFocus);
     widget_->setContextMenuPolicy(Qt::NoContextMenu);
     QObject::connect(widget_, &QScrollBar::valueChanged, widget_,
-                     [this](int value) { user_moved(value); });
-    QObject::connect(widget_, &QScrollBar::sliderPressed, widget_,
-                     [this] { value_when_grabbed_ = control_.Value; });
-    QObject::connect(widget_, &QScrollBar::sliderReleased, widget_, [this] { user_let_go(); });
+                     [this](int value) { user_moves(value); });
+    QObject::connect(widget_, &QScrollBar::sliderPressed, widget_, [this] { user_grabs(); });
+    QObject::connect(widget_, &QScrollBar::sliderReleased, widget_, [this] { user_lets_go(); });
 }
 
-void ScrollBarBinding::user_moved(int value)
+void QtScrollBarBinding::apply()
 {
-    if (context_.dispatcher.syncing())
-        return;
-    take(&ScrollBar::Value, value);
-    raise(widget_->isSliderDown() ? EventKind::Scroll : EventKind::Change);
-}
-
-void ScrollBarBinding::user_let_go()
-{
-    if (control_.Value != value_when_grabbed_)
-        raise(EventKind::Change);
-}
-
-void ScrollBarBinding::apply()
-{
-    place(*widget_);
+    if (moved())
+        set_place(*widget_, control_);
     if (changed(&ScrollBar::Min, &ScrollBar::Max))
         widget_->setRange(control_.Min, control_.Max);
     if (changed(&ScrollBar::SmallChange))
@@ -70,26 +58,24 @@ void ScrollBarBinding::apply()
         widget_->setAccessibleName(qt_text(control_.AccessibleName));
     if (changed(&ScrollBar::Enabled))
         widget_->setEnabled(control_.Enabled);
-    appear(*widget_);
+    if (changed(&ScrollBar::Visible))
+        widget_->setVisible(control_.Visible);
 }
 
-CheckBoxBinding::CheckBoxBinding(CheckBox& box, const ControlEntry& entry, QWidget& parent,
-                                 const WindowContext& context)
-    : BindingOf(box, entry, context), widget_(new QCheckBox(&parent))
+QtCheckBoxBinding::QtCheckBoxBinding(CheckBox& box, int place, QWidget& parent,
+                                     const WindowContext& context)
+    : CheckBoxBinding(box, place, context.events), widget_(new QCheckBox(&parent))
 {
     widget_->setPalette(box_palette(widget_->palette()));
     // Not the click: a screen reader ticks the box without one.
-    QObject::connect(widget_, &QCheckBox::toggled, widget_, [this](bool ticked) {
-        if (context_.dispatcher.syncing())
-            return;
-        take(&CheckBox::Value, ticked ? 1 : 0);
-        raise(EventKind::Click);
-    });
+    QObject::connect(widget_, &QCheckBox::toggled, widget_,
+                     [this](bool ticked) { user_ticks(ticked); });
 }
 
-void CheckBoxBinding::apply()
+void QtCheckBoxBinding::apply()
 {
-    place(*widget_);
+    if (moved())
+        set_place(*widget_, control_);
     if (changed(&CheckBox::Caption))
         widget_->setText(qt_text(control_.Caption));
     if (changed(&CheckBox::Font))
@@ -98,23 +84,23 @@ void CheckBoxBinding::apply()
         widget_->setChecked(control_.Value != 0);
     if (changed(&CheckBox::Enabled))
         widget_->setEnabled(control_.Enabled);
-    appear(*widget_);
+    if (changed(&CheckBox::Visible))
+        widget_->setVisible(control_.Visible);
 }
 
-ComboBoxBinding::ComboBoxBinding(ComboBox& box, const ControlEntry& entry, QWidget& parent,
-                                 const WindowContext& context)
-    : BindingOf(box, entry, context), widget_(new QComboBox(&parent))
+QtComboBoxBinding::QtComboBoxBinding(ComboBox& box, int place, QWidget& parent,
+                                     const WindowContext& context)
+    : ComboBoxBinding(box, place, context.events), widget_(new QComboBox(&parent))
 {
     // Comes only from the user, and also when the entry was chosen before.
-    QObject::connect(widget_, &QComboBox::activated, widget_, [this](int index) {
-        take(&ComboBox::ListIndex, index);
-        raise(EventKind::Click);
-    });
+    QObject::connect(widget_, &QComboBox::activated, widget_,
+                     [this](int index) { user_chooses(index); });
 }
 
-void ComboBoxBinding::apply()
+void QtComboBoxBinding::apply()
 {
-    place(*widget_);
+    if (moved())
+        set_place(*widget_, control_);
     if (changed(&ComboBox::Font))
         widget_->setFont(font_of(control_.Font));
     if (changed(&ComboBox::List)) {
@@ -131,7 +117,8 @@ void ComboBoxBinding::apply()
     }
     if (changed(&ComboBox::Enabled))
         widget_->setEnabled(control_.Enabled);
-    appear(*widget_);
+    if (changed(&ComboBox::Visible))
+        widget_->setVisible(control_.Visible);
 }
 
 } // namespace ostrelum::qt_platform

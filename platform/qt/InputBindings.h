@@ -1,7 +1,8 @@
 #pragma once
 
-#include "platform/qt/ControlBinding.h"
+#include "platform/qt/ControlWidget.h"
 #include "platform/qt/SliderWidget.h"
+#include "platform/toolkit/InputBindings.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -10,11 +11,11 @@
 /// The controls of which the user changes the value.
 namespace ostrelum::qt_platform {
 
-class ButtonBinding : public BindingOf<CommandButton> {
+class QtButtonBinding : public CommandButtonBinding {
 public:
-    ButtonBinding(CommandButton& button, const ControlEntry& entry, QWidget& parent,
-                  const WindowContext& context);
-    QWidget* widget() const override { return widget_; }
+    QtButtonBinding(CommandButton& button, int place, QWidget& parent,
+                    const WindowContext& context);
+    QWidget* widget() const { return widget_; }
 
 private:
     void apply() override;
@@ -22,26 +23,21 @@ private:
     QPushButton* widget_;
 };
 
-class ScrollBarBinding : public BindingOf<ScrollBar> {
+class QtScrollBarBinding : public ScrollBarBinding {
 public:
-    ScrollBarBinding(ScrollBar& bar, const ControlEntry& entry, QWidget& parent,
-                     const WindowContext& context);
-    QWidget* widget() const override { return widget_; }
+    QtScrollBarBinding(ScrollBar& bar, int place, QWidget& parent, const WindowContext& context);
+    QWidget* widget() const { return widget_; }
 
 private:
     void apply() override;
-    void user_moved(int value);
-    void user_let_go();
 
     SliderWidget* widget_;
-    int value_when_grabbed_ = 0;
 };
 
-class CheckBoxBinding : public BindingOf<CheckBox> {
+class QtCheckBoxBinding : public CheckBoxBinding {
 public:
-    CheckBoxBinding(CheckBox& box, const ControlEntry& entry, QWidget& parent,
-                    const WindowContext& context);
-    QWidget* widget() const override { return widget_; }
+    QtCheckBoxBinding(CheckBox& box, int place, QWidget& parent, const WindowContext& context);
+    QWidget* widget() const { return widget_; }
 
 private:
     void apply() override;
@@ -49,11 +45,10 @@ private:
     QCheckBox* widget_;
 };
 
-class ComboBoxBinding : public BindingOf<ComboBox> {
+class QtComboBoxBinding : public ComboBoxBinding {
 public:
-    ComboBoxBinding(ComboBox& box, const ControlEntry& entry, QWidget& parent,
-                    const WindowContext& context);
-    QWidget* widget() const override { return widget_; }
+    QtComboBoxBinding(ComboBox& box, int place, QWidget& parent, const WindowContext& context);
+    QWidget* widget() const { return widget_; }
 
 private:
     void apply() override;

@@ -2,6 +2,7 @@
 
 #include "platform/qt/Colours.h"
 #include "platform/qt/Fonts.h"
+#include "platform/qt/MouseEventFilter.h"
 #include "platform/qt/Text.h"
 
 namespace ostrelum::qt_platform {
@@ -19,23 +20,17 @@ Qt::Alignment alignment_of(Align align)
 
 } // namespace
 
-LabelBinding::LabelBinding(Label& label, const ControlEntry& entry, QWidget& parent,
-                           const WindowContext& context)
-    : BindingOf(label, entry, context), widget_(new LabelWidget(&parent)),
-      mouse_(new MouseEventFilter(*widget_, &entry, context))
+QtLabelBinding::QtLabelBinding(Label& label, int place, QWidget& parent,
+                               const WindowContext& context)
+    : BindingOf(label, place, context.events), widget_(new LabelWidget(&parent)), context_(context)
 {
+    new MouseEventFilter(*widget_, place, context_);
     widget_->setTextFormat(Qt::PlainText);
     widget_->setIndent(0);
-    widget_->press = [this] { press(LeftButton); };
+    widget_->press = [this] { context_.mouse.press(place_, LeftButton); };
 }
 
-bool LabelBinding::press(int button)
-{
-    mouse_->press(button);
-    return true;
-}
-
-void LabelBinding::apply()
+void QtLabelBinding::apply()
 {
     apply_text();
     place_text();
@@ -47,25 +42,26 @@ void LabelBinding::apply()
         context_.cursors.set(*widget_, control_.MousePointer);
     if (changed(&Label::TabStop))
         widget_->setFocusPolicy(control_.TabStop ? Qt::StrongFocus : Qt::NoFocus);
-    appear(*widget_);
+    if (changed(&Label::Visible))
+        widget_->setVisible(control_.Visible);
 }
 
 /// A slanted letter may lean out of the text on the left, where the widget would cut it.
-void LabelBinding::place_text()
+void QtLabelBinding::place_text()
 {
     if (!changed(&Label::Left, &Label::Top, &Label::Width, &Label::Height, &Label::Caption,
                  &Label::Font))
         return;
     const int lean =
-        sizes_itself() ? left_lean(qt_text(control_.Caption), font_of(control_.Font)) : 0;
+        sizes_itself(control_) ? left_lean(qt_text(control_.Caption), font_of(control_.Font)) : 0;
     widget_->setContentsMargins(lean, 0, 0, 0);
     widget_->setGeometry(control_.Left - lean, control_.Top, control_.Width + lean,
                          control_.Height);
 }
 
-void LabelBinding::apply_text()
+void QtLabelBinding::apply_text()
 {
-    if (sizes_itself() &&
+    if (sizes_itself(control_) &&
         changed(&Label::Caption, &Label::Font, &Label::AutoSize, &Label::WordWrap))
         fit(context_.toolkit, control_);
     if (changed(&Label::Font))

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "platform/qt/ControlBinding.h"
-#include "platform/qt/MouseEventFilter.h"
+#include "platform/qt/ControlWidget.h"
 
 #include <QLabel>
+
+#include <functional>
 
 namespace ostrelum::qt_platform {
 
@@ -15,21 +16,18 @@ public:
     std::function<void()> press;
 };
 
-class LabelBinding : public BindingOf<Label> {
+class QtLabelBinding : public BindingOf<Label> {
 public:
-    LabelBinding(Label& label, const ControlEntry& entry, QWidget& parent,
-                 const WindowContext& context);
-    QWidget* widget() const override { return widget_; }
-    bool press(int button) override;
+    QtLabelBinding(Label& label, int place, QWidget& parent, const WindowContext& context);
+    QWidget* widget() const { return widget_; }
 
 private:
     void apply() override;
     void apply_text();
     void place_text();
-    bool sizes_itself() const { return control_.AutoSize && !control_.WordWrap; }
 
     LabelWidget* widget_;
-    MouseEventFilter* mouse_;
+    const WindowContext context_;
 };
 
 } // namespace ostrelum::qt_platform

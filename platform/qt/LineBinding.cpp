@@ -4,9 +4,6 @@
 
 #include <QPainter>
 
-#include <algorithm>
-#include <cstdlib>
-
 namespace ostrelum::qt_platform {
 
 LineWidget::LineWidget(QWidget* parent) : QWidget(parent)
@@ -17,9 +14,8 @@ LineWidget::LineWidget(QWidget* parent) : QWidget(parent)
 void LineWidget::set_line(const Line& line)
 {
     line_ = line;
-    // The end point is not part of the line, save where that would leave nothing.
-    setGeometry(std::min(line.X1, line.X2), std::min(line.Y1, line.Y2),
-                std::max(std::abs(line.X2 - line.X1), 1), std::max(std::abs(line.Y2 - line.Y1), 1));
+    const Area area = area_of(line);
+    setGeometry(area.left, area.top, area.width, area.height);
     update();
 }
 
@@ -36,17 +32,17 @@ void LineWidget::paintEvent(QPaintEvent*)
     painter.drawLine(line_.X1 - x(), line_.Y1 - y(), line_.X2 - x(), line_.Y2 - y());
 }
 
-LineBinding::LineBinding(Line& line, const ControlEntry& entry, QWidget& parent,
-                         const WindowContext& context)
-    : BindingOf(line, entry, context), widget_(new LineWidget(&parent))
+QtLineBinding::QtLineBinding(Line& line, int place, QWidget& parent, const WindowContext& context)
+    : BindingOf(line, place, context.events), widget_(new LineWidget(&parent))
 {
 }
 
-void LineBinding::apply()
+void QtLineBinding::apply()
 {
     if (changed(&Line::X1, &Line::Y1, &Line::X2, &Line::Y2, &Line::BorderColor))
         widget_->set_line(control_);
-    appear(*widget_);
+    if (changed(&Line::Visible))
+        widget_->setVisible(control_.Visible);
 }
 
 } // namespace ostrelum::qt_platform

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/qt/ControlBinding.h"
+#include "platform/qt/ControlWidget.h"
 
 namespace ostrelum::qt_platform {
 
@@ -17,11 +17,10 @@ private:
     Line line_;
 };
 
-class LineBinding : public BindingOf<Line> {
+class QtLineBinding : public BindingOf<Line> {
 public:
-    LineBinding(Line& line, const ControlEntry& entry, QWidget& parent,
-                const WindowContext& context);
-    QWidget* widget() const override { return widget_; }
+    QtLineBinding(Line& line, int place, QWidget& parent, const WindowContext& context);
+    QWidget* widget() const { return widget_; }
 
 private:
     void apply() override;

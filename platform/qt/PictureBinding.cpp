@@ -1,26 +1,22 @@
 #include "platform/qt/PictureBinding.h"
 
+#include "platform/qt/MouseEventFilter.h"
 #include "platform/qt/Text.h"
 
 namespace ostrelum::qt_platform {
 
-PictureBinding::PictureBinding(PictureBox& box, const ControlEntry& entry, QWidget& parent,
-                               const WindowContext& context)
-    : BindingOf(box, entry, context), widget_(new PictureWidget(&parent)),
-      mouse_(new MouseEventFilter(*widget_, &entry, context))
+QtPictureBinding::QtPictureBinding(PictureBox& box, int place, QWidget& parent,
+                                   const WindowContext& context)
+    : BindingOf(box, place, context.events), widget_(new PictureWidget(&parent)), context_(context)
 {
-    widget_->press = [this] { press(LeftButton); };
+    new MouseEventFilter(*widget_, place, context_);
+    widget_->press = [this] { context_.mouse.press(place_, LeftButton); };
 }
 
-bool PictureBinding::press(int button)
+void QtPictureBinding::apply()
 {
-    mouse_->press(button);
-    return true;
-}
-
-void PictureBinding::apply()
-{
-    place(*widget_);
+    if (moved())
+        set_place(*widget_, control_);
     if (changed(&PictureBox::Transparent, &PictureBox::BackColor))
         widget_->set_ground(control_.Transparent, control_.BackColor);
     if (changed(&PictureBox::Surface))
@@ -33,7 +29,8 @@ void PictureBinding::apply()
         context_.cursors.set(*widget_, control_.MousePointer);
     if (changed(&PictureBox::TabStop))
         widget_->setFocusPolicy(control_.TabStop ? Qt::StrongFocus : Qt::NoFocus);
-    appear(*widget_);
+    if (changed(&PictureBox::Visible))
+        widget_->setVisible(control_.Visible);
 }
 
 } // namespace ostrelum::qt_platform

@@ -1,23 +1,20 @@
 #pragma once
 
-#include "platform/qt/ControlBinding.h"
-#include "platform/qt/MouseEventFilter.h"
+#include "platform/qt/ControlWidget.h"
 #include "platform/qt/PictureWidget.h"
 
 namespace ostrelum::qt_platform {
 
-class PictureBinding : public BindingOf<PictureBox> {
+class QtPictureBinding : public BindingOf<PictureBox> {
 public:
-    PictureBinding(PictureBox& box, const ControlEntry& entry, QWidget& parent,
-                   const WindowContext& context);
-    QWidget* widget() const override { return widget_; }
-    bool press(int button) override;
+    QtPictureBinding(PictureBox& box, int place, QWidget& parent, const WindowContext& context);
+    QWidget* widget() const { return widget_; }
 
 private:
     void apply() override;
 
     PictureWidget* widget_;
-    MouseEventFilter* mouse_;
+    const WindowContext context_;
 };
 
 } // namespace ostrelum::qt_platform

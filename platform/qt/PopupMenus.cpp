@@ -1,6 +1,7 @@
 #include "platform/qt/PopupMenus.h"
 
 #include "platform/qt/Text.h"
+#include "platform/toolkit/Menus.h"
 
 #include <QMenu>
 
@@ -9,7 +10,7 @@ namespace {
 
 QAction* add_entry(QMenu& shown, const MenuItem& item)
 {
-    if (item.Caption == "-")
+    if (is_separator(item))
         return shown.addSeparator();
     QAction* action = shown.addAction(qt_text(item.Caption));
     action->setEnabled(item.Enabled);
@@ -27,27 +28,20 @@ void embolden(QMenu& shown, QAction& action)
 
 } // namespace
 
-void pop_up(FormWindow& window, EventDispatcher& dispatcher, const PopupMenu& menu, QPoint at,
-            const MenuItem* bold)
+void pop_up(FormWindow& window, const PopupMenu& menu, QPoint at, const MenuItem* bold)
 {
-    const Form& form = window.form();
-    const auto holder = &form.entry_of(&menu) - form.controls.data();
+    WindowEvents& events = window.events();
     auto* shown = new QMenu(&window);
     shown->setAttribute(Qt::WA_DeleteOnClose);
-    for (const ControlEntry& entry : form.controls) {
-        const auto* item = std::get_if<MenuItem*>(&entry.control);
-        if (!item || entry.container != holder)
-            continue;
-        QAction* action = add_entry(*shown, **item);
-        if (*item == bold)
+    for (const int place : entries_of(events.form(), menu)) {
+        const auto* item = std::get<MenuItem*>(entry_at(events.form(), place).control);
+        QAction* action = add_entry(*shown, *item);
+        if (item == bold)
             embolden(*shown, *action);
         // Queued on the window: should it go meanwhile, the choice goes with it.
         QObject::connect(
             action, &QAction::triggered, &window,
-            [&window, &dispatcher, &entry] {
-                if (window.isVisible())
-                    dispatcher.raise(window.form(), &entry, {.kind = EventKind::Click});
-            },
+            [&events, place] { events.raise(place, {.kind = EventKind::Click}); },
             Qt::QueuedConnection);
     }
     shown->popup(at);

@@ -86,12 +86,13 @@ FormWindow& QtToolkit::make_window(Form& form, Qt::WindowType kind)
 {
     if (FormWindow* window = window_of(form))
         return *window;
-    const WindowContext context{form, *this, dispatcher_, cursors_};
-    auto* window = new FormWindow(context, kind, [this, &form] { user_closes(form); });
+    auto* window = new FormWindow(form, *this, cursors_, dispatcher_, kind,
+                                  [this, &form] { user_closes(form); });
     windows_[&form] = window;
     // The native window is there before it shows, so that it comes up with its opacity.
     window->winId();
-    apply_opacity(form);
+    if (styles_.alpha(form) != WindowStyles::opaque)
+        apply_opacity(form);
     return *window;
 }
 
@@ -127,7 +128,7 @@ void QtToolkit::ShowModal(Form& form)
 
 void QtToolkit::Hide(Form& form)
 {
-    layers_.erase(&form);
+    styles_.forget(form);
     FormWindow* window = window_of(form);
     if (!window)
         return;
@@ -157,11 +158,10 @@ void QtToolkit::popup(Form& form, PopupMenu& menu, std::optional<Point> at, cons
     FormWindow* window = window_of(form);
     if (!window)
         return;
-    QPoint place = dispatcher_.keyboard_point.value_or(QCursor::pos());
-    if (at)
-        place = window->mapToGlobal(QPoint(at->x, at->y));
-    dispatcher_.keyboard_point.reset();
-    pop_up(*window, dispatcher_, menu, place, bold);
+    if (const auto keyboard = std::exchange(window->events().menu_point, std::nullopt); !at)
+        at = keyboard;
+    const QPoint place = at ? window->mapToGlobal(QPoint(at->x, at->y)) : QCursor::pos();
+    pop_up(*window, menu, place, bold);
 }
 
 void QtToolkit::set_screen_cursor(MouseCursor cursor)
@@ -171,41 +171,28 @@ void QtToolkit::set_screen_cursor(MouseCursor cursor)
 
 std::int32_t QtToolkit::GetWindowLongA(const Form& form, int index)
 {
-    const auto layer = layers_.find(&form);
-    if (layer == layers_.end() || !layer->second.longs.contains(index))
-        return 0;
-    return layer->second.longs.at(index);
+    return styles_.get(form, index);
 }
 
 void QtToolkit::SetWindowLongA(Form& form, int index, std::int32_t value)
 {
-    layers_[&form].longs[index] = value;
+    styles_.set(form, index, value);
     apply_opacity(form);
 }
 
 void QtToolkit::SetLayeredWindowAttributes(Form& form, Colour, std::uint8_t alpha,
                                            std::uint32_t flags)
 {
-    // A window that is not layered has no alpha to set.
-    if (!layers_[&form].layered() || !(flags & alpha_flag))
-        return;
-    layers_[&form].alpha = alpha;
-    apply_opacity(form);
-}
-
-bool QtToolkit::Layer::layered() const
-{
-    const auto style = longs.find(extended_style_index);
-    return style != longs.end() && style->second & layered_style;
+    if (styles_.set_alpha(form, alpha, flags))
+        apply_opacity(form);
 }
 
 void QtToolkit::apply_opacity(const Form& form)
 {
     FormWindow* window = window_of(form);
-    const auto layer = layers_.find(&form);
-    if (!window || layer == layers_.end() || !has_opacity())
+    if (!window || !has_opacity())
         return;
-    window->setWindowOpacity(layer->second.layered() ? layer->second.alpha / 255.0 : 1.0);
+    window->setWindowOpacity(static_cast<double>(styles_.alpha(form)) / WindowStyles::opaque);
     // On X11 the new opacity stays in the connection's buffer until something is painted: without
     // this, a fade that nothing else accompanies stands still after its first step.
     window->update(0, 0, 1, 1);

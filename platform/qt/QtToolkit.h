@@ -2,6 +2,7 @@
 
 #include "platform/qt/FormWindow.h"
 #include "platform/qt/QtBackEnd.h"
+#include "platform/toolkit/WindowStyles.h"
 
 #include <QApplication>
 
@@ -33,13 +34,6 @@ public:
     FormWindow* window_of(const Form& form) const;
 
 private:
-    /// Style and opacity of a form, which may be set before its window is there and go with it.
-    struct Layer {
-        std::map<int, std::int32_t> longs;
-        std::uint8_t alpha = 255;
-        bool layered() const;
-    };
-
     FormWindow& make_window(Form& form, Qt::WindowType kind);
     void user_closes(Form& form);
     void apply_opacity(const Form& form);
@@ -48,7 +42,7 @@ private:
     Cursors cursors_;
     EventDispatcher dispatcher_;
     std::map<const Form*, FormWindow*> windows_;
-    std::map<const Form*, Layer> layers_;
+    WindowStyles styles_;
 };
 
 } // namespace ostrelum::qt_platform

@@ -1,17 +1,8 @@
 #include "platform/qt/TimerBinding.h"
 
-#include <algorithm>
-
 namespace ostrelum::qt_platform {
-namespace {
-
-/// Milliseconds of a screen frame, the fastest tick.
-constexpr int FrameTime = 15;
-
-} // namespace
-
-TimerBinding::TimerBinding(Timer& timer, const ControlEntry& entry, const WindowContext& context)
-    : BindingOf(timer, entry, context)
+QtTimerBinding::QtTimerBinding(Timer& timer, int place, WindowEvents& events)
+    : BindingOf(timer, place, events)
 {
     clock_.setTimerType(Qt::PreciseTimer);
     QObject::connect(&clock_, &QTimer::timeout, &clock_, [this] {
@@ -21,10 +12,10 @@ TimerBinding::TimerBinding(Timer& timer, const ControlEntry& entry, const Window
     });
 }
 
-void TimerBinding::apply()
+void QtTimerBinding::apply()
 {
-    if (control_.Enabled && control_.Interval > 0)
-        clock_.start(std::max(control_.Interval, FrameTime));
+    if (const auto interval = tick_interval(control_))
+        clock_.start(*interval);
     else
         clock_.stop();
 }

@@ -1,15 +1,14 @@
 #pragma once
 
-#include "platform/qt/ControlBinding.h"
+#include "platform/toolkit/ControlBinding.h"
 
 #include <QTimer>
 
 namespace ostrelum::qt_platform {
 
-class TimerBinding : public BindingOf<Timer> {
+class QtTimerBinding : public BindingOf<Timer> {
 public:
-    TimerBinding(Timer& timer, const ControlEntry& entry, const WindowContext& context);
-    QWidget* widget() const override { return nullptr; }
+    QtTimerBinding(Timer& timer, int place, WindowEvents& events);
     void stop() override { clock_.stop(); }
 
 private:

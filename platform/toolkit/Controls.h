@@ -3,6 +3,8 @@
 #include "platform/toolkit/Colour.h"
 #include "platform/toolkit/Picture.h"
 
+#include <algorithm>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -170,6 +172,17 @@ struct Timer {
     bool Enabled = false;
     bool operator==(const Timer&) const = default;
 };
+
+/// What the fastest timer takes from tick to tick: a screen frame, in milliseconds.
+inline constexpr int frame_time = 15;
+
+/// Milliseconds from tick to tick; nothing for a timer that stands still.
+inline std::optional<int> tick_interval(const Timer& timer)
+{
+    if (!timer.Enabled || timer.Interval <= 0)
+        return std::nullopt;
+    return std::max(timer.Interval, frame_time);
+}
 
 using Control = std::variant<Label, PictureBox, Line, CommandButton, ScrollBar, CheckBox, ComboBox,
                              PopupMenu, MenuItem, Timer>;

@@ -13,7 +13,7 @@ bool Unload(Toolkit& toolkit, Form& form)
 
 void fit(const Toolkit& toolkit, Label& label)
 {
-    if (!label.AutoSize)
+    if (!sizes_itself(label))
         return;
     const TextSize size = toolkit.text_size(label.Caption, label.Font);
     label.Width = size.width;

@@ -64,6 +64,12 @@ public:
 /// Asks a form to close: its Form_Unload may refuse, else its window goes. True if it went.
 bool Unload(Toolkit& toolkit, Form& form);
 
+/// A label with its text on one line may be as large as its text.
+inline bool sizes_itself(const Label& label)
+{
+    return label.AutoSize && !label.WordWrap;
+}
+
 /// Gives a label that sizes itself the size of its text.
 void fit(const Toolkit& toolkit, Label& label);
 

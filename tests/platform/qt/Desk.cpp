@@ -128,8 +128,7 @@ Desk::~Desk()
 
 QWidget& Desk::find_widget(const std::string& name, int index)
 {
-    const auto place = form.find(name, index) - form.controls.data();
-    return *window().bindings().at(static_cast<std::size_t>(place))->widget();
+    return *window().widget(place_of(form, *form.find(name, index)));
 }
 
 } // namespace ostrelum::qt_platform::desk

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/toolkit/ControlTree.h"
+
+/// The way of the focus over a form. The form itself has the focus until the user moves it, so that
+/// no control starts marked.
+namespace ostrelum::inline toolkit {
+
+/// Keys that a form's window knows beyond what its controls do with keys.
+enum class Key {
+    Other,
+    Tab,
+    Up,
+    Down,
+    Left,
+    Right,
+    Home,
+    End,
+    PageUp,
+    PageDown,
+    Enter,
+    Space,
+    Escape,
+    Menu,
+    F10,
+};
+
+/// Whether the keyboard reaches a control as it stands.
+bool takes_focus(const Form& form, int control);
+
+/// Where Tab, or Shift+Tab, moves the focus: through the controls in their order, round from the
+/// last to the first. The form itself where no control takes the focus.
+int next_by_tab(const Form& form, int from, bool forward);
+
+/// Where an arrow key, Home or End moves the focus: among the controls of one array. The form
+/// itself where there is no such control.
+int next_by_arrow(const Form& form, int from, Key key);
+
+/// Where the focus goes when the program changed the form: from a control that is hidden it falls
+/// back to the form itself, from one that is disabled to the next.
+int focus_after_change(const Form& form, int focused);
+
+} // namespace ostrelum::inline toolkit

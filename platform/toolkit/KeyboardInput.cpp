@@ -1,0 +1,114 @@
+#include "platform/toolkit/KeyboardInput.h"
+
+namespace ostrelum::inline toolkit {
+namespace {
+
+constexpr int shift_key = 1;
+
+/// Labels and pictures can be pressed as the mouse would; the other controls know keys themselves.
+bool is_pressable(const Form& form, int control)
+{
+    if (control == form_itself)
+        return false;
+    const ControlPointer& which = entry_at(form, control).control;
+    return std::holds_alternative<Label*>(which) || std::holds_alternative<PictureBox*>(which);
+}
+
+const CommandButton* button_at(const Form& form, int control)
+{
+    if (control == form_itself || !takes_focus(form, control))
+        return nullptr;
+    auto* const* button = std::get_if<CommandButton*>(&entry_at(form, control).control);
+    return button ? *button : nullptr;
+}
+
+} // namespace
+
+void KeyboardInput::set_in_use(bool in_use)
+{
+    in_use_ = in_use;
+    show_focus();
+}
+
+void KeyboardInput::show_focus()
+{
+    view_.mark(in_use_ ? view_.focused() : form_itself);
+}
+
+bool KeyboardInput::key(Key key, int shift, bool repeated)
+{
+    const Form& form = events_.form();
+    switch (key) {
+    case Key::Tab: return move_focus(next_by_tab(form, view_.focused(), (shift & shift_key) == 0));
+    case Key::Up:
+    case Key::Down:
+    case Key::Home:
+    case Key::End: return move_focus(next_by_arrow(form, view_.focused(), key));
+    case Key::Enter: return repeated || enter();
+    case Key::Space: return repeated || press_focused();
+    case Key::Escape: return click_button(&CommandButton::Cancel);
+    case Key::Menu: return menu_key();
+    case Key::F10: return (shift & shift_key) != 0 && menu_key();
+    default: return false;
+    }
+}
+
+bool KeyboardInput::move_focus(int control)
+{
+    if (control == form_itself)
+        return false;
+    view_.set_focus(control);
+    set_in_use(true);
+    return true;
+}
+
+bool KeyboardInput::enter()
+{
+    // A box is ticked by Space: Enter goes to the default button.
+    if (button_at(events_.form(), view_.focused())) {
+        events_.raise(view_.focused(), {.kind = EventKind::Click});
+        return true;
+    }
+    return press_focused() || click_button(&CommandButton::Default);
+}
+
+bool KeyboardInput::press_focused()
+{
+    const int control = view_.focused();
+    if (control != form_itself)
+        set_in_use(true);
+    if (!is_pressable(events_.form(), control))
+        return false;
+    mouse_.press(control, LeftButton);
+    return true;
+}
+
+bool KeyboardInput::click_button(bool CommandButton::*mark)
+{
+    for (int control = 0; control < static_cast<int>(events_.form().controls.size()); ++control) {
+        const CommandButton* button = button_at(events_.form(), control);
+        if (button && button->*mark) {
+            events_.raise(control, {.kind = EventKind::Click});
+            return true;
+        }
+    }
+    return false;
+}
+
+/// The menu of the control with the focus; if it has none, that of the form.
+bool KeyboardInput::menu_key()
+{
+    const Form& form = events_.form();
+    const int control = view_.focused();
+    if (is_pressable(form, control) && mouse_.press(control, RightButton))
+        return true;
+    const Point middle = area_on_form(form, form_itself).middle();
+    events_.menu_point = middle;
+    events_.raise(
+        form_itself,
+        {.kind = EventKind::MouseDown, .button = RightButton, .x = middle.x, .y = middle.y});
+    events_.menu_point.reset();
+    return true;
+}
+
+} // namespace ostrelum::inline toolkit
