@@ -9,6 +9,8 @@
 namespace ostrelum::inline figures {
 namespace {
 
+using Slot = AccountSlot;
+
 /// A code and the key of its text.
 using Row = CodeRow<Text>;
 
@@ -39,17 +41,17 @@ std::string word_of(const std::array<Row, Count>& rows, const std::string& code)
 
 bool names_the_account(const Instance& item, const char* property)
 {
-    return holds([&] { return trimmed(item[property]) == Datos[1]; });
+    return holds([&] { return trimmed(item[property]) == Datos[Slot::Name]; });
 }
 
 bool read_rights(const Instance& item)
 {
     if (!names_the_account(item, "Name"))
         return false;
-    attempt([&] { Datos[2] = trimmed(item["Domain"]); });
-    attempt([&] { Datos[3] = trimmed(item["AccountType"]); });
-    attempt([&] { Datos[5] = trimmed(item["PasswordChangeable"]); });
-    attempt([&] { Datos[6] = trimmed(item["PasswordExpires"]); });
+    attempt([&] { Datos[Slot::Domain] = trimmed(item["Domain"]); });
+    attempt([&] { Datos[Slot::Type] = trimmed(item["AccountType"]); });
+    attempt([&] { Datos[Slot::PasswordChangeable] = trimmed(item["PasswordChangeable"]); });
+    attempt([&] { Datos[Slot::PasswordExpires] = trimmed(item["PasswordExpires"]); });
     return true;
 }
 
@@ -57,10 +59,10 @@ bool read_logons(const Instance& item)
 {
     if (!names_the_account(item, "Caption"))
         return false;
-    attempt([&] { Datos[4] = trimmed(item["Privileges"]); });
-    attempt([&] { Datos[7] = trimmed(item["BadPasswordCount"]); });
-    attempt([&] { Datos[8] = trimmed(item["LastLogon"]); });
-    attempt([&] { Datos[9] = trimmed(item["NumberOfLogons"]); });
+    attempt([&] { Datos[Slot::Privileges] = trimmed(item["Privileges"]); });
+    attempt([&] { Datos[Slot::BadPasswords] = trimmed(item["BadPasswordCount"]); });
+    attempt([&] { Datos[Slot::LastLogon] = trimmed(item["LastLogon"]); });
+    attempt([&] { Datos[Slot::LogonCount] = trimmed(item["NumberOfLogons"]); });
     return true;
 }
 
@@ -68,8 +70,8 @@ bool read_logons(const Instance& item)
 
 void read_account()
 {
-    clear(Datos, 1, 9);
-    attempt([] { Datos[1] = trimmed(platform.machine->Environ("UserName")); });
+    clear(Datos, Slot::Name, Slot::LogonCount);
+    attempt([] { Datos[Slot::Name] = trimmed(platform.machine->Environ("UserName")); });
     query("Select Domain, AccountType, PasswordChangeable, PasswordExpires from "
           "Win32_UserAccount");
     first_match(WmiResult, read_rights);
@@ -80,12 +82,12 @@ void read_account()
 
 std::string account_type()
 {
-    return word_of(account_types, Datos[3]);
+    return word_of(account_types, Datos[Slot::Type]);
 }
 
 std::string privilege_level()
 {
-    return word_of(privileges, Datos[4]);
+    return word_of(privileges, Datos[Slot::Privileges]);
 }
 
 std::string yes_or_no(const std::string& slot)
@@ -97,19 +99,23 @@ std::string yes_or_no(const std::string& slot)
 
 std::string bad_passwords()
 {
-    return at_least(Datos[7], 0) ? Datos[7] : "";
+    return at_least(Datos[Slot::BadPasswords], 0) ? Datos[Slot::BadPasswords] : "";
 }
 
 std::string logon_time()
 {
     std::string time;
-    attempt([&] { time = FillMark(Trad[Text::ClockTime], "(HHMMSS)", WmiTimeText(Datos[8])); });
+    attempt([&] {
+        time = FillMark(Trad[Text::ClockTime], "(HHMMSS)", WmiTimeText(Datos[Slot::LastLogon]));
+    });
     return time;
 }
 
 std::string logon_count()
 {
-    return at_least(Datos[9], 1) ? FillMark(Trad[Text::Times], "(#)", Datos[9]) : "";
+    return at_least(Datos[Slot::LogonCount], 1)
+               ? FillMark(Trad[Text::Times], "(#)", Datos[Slot::LogonCount])
+               : "";
 }
 
 } // namespace ostrelum::inline figures

@@ -8,29 +8,33 @@ namespace ostrelum::inline figures {
 
 void read_computer()
 {
-    clear(Datos, 1, 6);
+    clear(Datos, ComputerSlot::Manufacturer, ComputerSlot::Domain);
     query("Select Manufacturer, Model, SystemType, AutomaticResetBootOption, SystemStartupDelay, "
           "Domain from Win32_ComputerSystem");
     first(WmiResult, [](const Instance& item) {
-        attempt([&] { Datos[1] = trimmed(item["Manufacturer"]); });
-        attempt([&] { Datos[2] = trimmed(item["Model"]); });
-        attempt([&] { Datos[3] = trimmed(item["SystemType"]); });
-        attempt([&] { Datos[4] = trimmed(item["AutomaticResetBootOption"]); });
-        attempt([&] { Datos[5] = trimmed(item["SystemStartupDelay"]); });
-        attempt([&] { Datos[6] = trimmed(item["Domain"]); });
+        attempt([&] { Datos[ComputerSlot::Manufacturer] = trimmed(item["Manufacturer"]); });
+        attempt([&] { Datos[ComputerSlot::Model] = trimmed(item["Model"]); });
+        attempt([&] { Datos[ComputerSlot::Type] = trimmed(item["SystemType"]); });
+        attempt([&] {
+            Datos[ComputerSlot::RestartsAfterError] = trimmed(item["AutomaticResetBootOption"]);
+        });
+        attempt([&] { Datos[ComputerSlot::StartupDelay] = trimmed(item["SystemStartupDelay"]); });
+        attempt([&] { Datos[ComputerSlot::Domain] = trimmed(item["Domain"]); });
     });
 }
 
 std::string restart_option()
 {
-    if (Datos[4] == Value(true).text())
+    if (Datos[ComputerSlot::RestartsAfterError] == Value(true).text())
         return Trad[Text::On];
-    return Datos[4] == Value(false).text() ? Trad[Text::Off] : "";
+    return Datos[ComputerSlot::RestartsAfterError] == Value(false).text() ? Trad[Text::Off] : "";
 }
 
 std::string startup_delay()
 {
-    return Datos[5].empty() ? "" : FillMark(Trad[Text::Seconds], "(#)", Datos[5]);
+    return Datos[ComputerSlot::StartupDelay].empty()
+               ? ""
+               : FillMark(Trad[Text::Seconds], "(#)", Datos[ComputerSlot::StartupDelay]);
 }
 
 } // namespace ostrelum::inline figures

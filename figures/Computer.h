@@ -5,13 +5,21 @@
 /// The computer as a whole. An empty text is unknown.
 namespace ostrelum::inline figures {
 
-/// Asks for the computer: Datos 1 is its maker, 2 its model, 3 its type, 4 whether it starts again
-/// after an error, 5 the seconds for which its start waits, 6 its domain or workgroup.
+/// The slots of Datos that read_computer fills.
+enum class ComputerSlot {
+    Manufacturer = 1,
+    Model,
+    Type,
+    RestartsAfterError, ///< a truth value
+    StartupDelay,       ///< in seconds
+    Domain,             ///< or workgroup
+};
+
 void read_computer();
 
-/// Datos 4 as "On" or "Off".
+/// Whether it starts again after an error, as "On" or "Off".
 std::string restart_option();
-/// Datos 5 in seconds.
+/// How long its start waits, with the unit.
 std::string startup_delay();
 
 } // namespace ostrelum::inline figures

@@ -7,6 +7,8 @@
 namespace ostrelum::inline figures {
 namespace {
 
+using Slot = DisplaySlot;
+
 /// A property that tells something: neither 0 nor empty. One that is null fails to be tested, and
 /// so counts as telling.
 bool tells(const Instance& item, const char* property)
@@ -31,25 +33,25 @@ void read_mode(const Instance& item)
                trimmed(item["CurrentVerticalResolution"]);
     });
     fill(TempStr, TempStr, "(2)", [&] { return trimmed(item["CurrentBitsPerPixel"]); });
-    fill(Datos[3], TempStr, "(3)", [&] { return trimmed(item["CurrentRefreshRate"]); });
+    fill(Datos[Slot::Mode], TempStr, "(3)", [&] { return trimmed(item["CurrentRefreshRate"]); });
 }
 
 void read_card(const Instance& item)
 {
     read_mode(item);
-    attempt([&] { Datos[4] = trimmed(item["MinRefreshRate"]); });
-    attempt([&] { Datos[5] = trimmed(item["MaxRefreshRate"]); });
-    attempt([&] { Datos[6] = trimmed(item["Name"]); });
-    attempt([&] { Datos[7] = trimmed(item["AdapterDACType"]); });
-    attempt([&] { Datos[8] = trimmed(item["InstalledDisplayDrivers"]); });
-    attempt([&] { Datos[9] = trimmed(item["DriverVersion"]); });
-    attempt([&] { Datos[10] = trimmed(item["DriverDate"]); });
+    attempt([&] { Datos[Slot::MinimumRate] = trimmed(item["MinRefreshRate"]); });
+    attempt([&] { Datos[Slot::MaximumRate] = trimmed(item["MaxRefreshRate"]); });
+    attempt([&] { Datos[Slot::CardName] = trimmed(item["Name"]); });
+    attempt([&] { Datos[Slot::MemoryType] = trimmed(item["AdapterDACType"]); });
+    attempt([&] { Datos[Slot::Drivers] = trimmed(item["InstalledDisplayDrivers"]); });
+    attempt([&] { Datos[Slot::DriverVersion] = trimmed(item["DriverVersion"]); });
+    attempt([&] { Datos[Slot::DriverDate] = trimmed(item["DriverDate"]); });
     attempt([&] { Num1 = rounded_down(item["AdapterRAM"].number() / 1024 / 1024); });
 }
 
-double rate(int slot)
+double rate(const std::string& limit)
 {
-    return Value(Datos.at(static_cast<std::size_t>(slot))).number();
+    return Value(limit).number();
 }
 
 std::string hertz(const std::string& text)
@@ -61,13 +63,13 @@ std::string hertz(const std::string& text)
 
 void read_display()
 {
-    clear(Datos, 1, 10);
+    clear(Datos, Slot::MonitorName, Slot::DriverDate);
     TempStr.clear();
     Num1 = 0;
     query("Select Name, MonitorManufacturer from Win32_DesktopMonitor");
     first(WmiResult, [](const Instance& item) {
-        attempt([&] { Datos[1] = trimmed(item["Name"]); });
-        attempt([&] { Datos[2] = trimmed(item["MonitorManufacturer"]); });
+        attempt([&] { Datos[Slot::MonitorName] = trimmed(item["Name"]); });
+        attempt([&] { Datos[Slot::MonitorManufacturer] = trimmed(item["MonitorManufacturer"]); });
     });
     query("Select CurrentHorizontalResolution, CurrentVerticalResolution, CurrentBitsPerPixel, "
           "CurrentRefreshRate, MinRefreshRate, MaxRefreshRate, Name, AdapterDACType, "
@@ -78,20 +80,22 @@ void read_display()
 
 RefreshLimits refresh_limits()
 {
-    for (std::string* limit : {&Datos[4], &Datos[5]}) {
+    std::string& minimum = Datos[Slot::MinimumRate];
+    std::string& maximum = Datos[Slot::MaximumRate];
+    for (std::string* limit : {&minimum, &maximum}) {
         if (limit->empty())
             *limit = "0";
     }
-    if (holds([] { return rate(4) == 0 && rate(5) != 0; }))
-        return {Text::MaximumRefreshRate, Text::MaximumRefreshRateHint, hertz(Datos[5])};
-    if (holds([] { return rate(4) != 0 && rate(5) == 0; }))
-        return {Text::MinimumRefreshRate, Text::MinimumRefreshRateHint, hertz(Datos[4])};
-    if (holds([] { return rate(4) != 0 && Datos[4] != Datos[5]; }))
+    if (holds([&] { return rate(minimum) == 0 && rate(maximum) != 0; }))
+        return {Text::MaximumRefreshRate, Text::MaximumRefreshRateHint, hertz(maximum)};
+    if (holds([&] { return rate(minimum) != 0 && rate(maximum) == 0; }))
+        return {Text::MinimumRefreshRate, Text::MinimumRefreshRateHint, hertz(minimum)};
+    if (holds([&] { return rate(minimum) != 0 && minimum != maximum; }))
         return {Text::RefreshRateRange, Text::RefreshRateRangeHint,
-                hertz(Datos[4]) + " - " + hertz(Datos[5])};
-    if (holds([] { return rate(4) == 0; }))
+                hertz(minimum) + " - " + hertz(maximum)};
+    if (holds([&] { return rate(minimum) == 0; }))
         return {Text::RefreshRateRange, Text::RefreshRateRangeHint, ""};
-    return {Text::MaximumRefreshRate, Text::MaximumRefreshRateHint, hertz(Datos[5])};
+    return {Text::MaximumRefreshRate, Text::MaximumRefreshRateHint, hertz(maximum)};
 }
 
 std::string graphics_memory()
@@ -101,7 +105,7 @@ std::string graphics_memory()
 
 std::string driver_date()
 {
-    return Datos[10].empty() ? "" : WmiDateText(Datos[10]);
+    return Datos[Slot::DriverDate].empty() ? "" : WmiDateText(Datos[Slot::DriverDate]);
 }
 
 } // namespace ostrelum::inline figures

@@ -8,21 +8,22 @@ namespace ostrelum::inline figures {
 
 void read_firmware()
 {
-    clear(Datos, 1, 5);
+    clear(Datos, FirmwareSlot::Name, FirmwareSlot::SerialNumber);
     query(
         "Select Name, Manufacturer, SMBIOSBIOSVersion, ReleaseDate, SerialNumber from Win32_BIOS");
     first(WmiResult, [](const Instance& item) {
-        attempt([&] { Datos[1] = trimmed(item["Name"]); });
-        attempt([&] { Datos[2] = trimmed(item["Manufacturer"]); });
-        attempt([&] { Datos[3] = trimmed(item["SMBIOSBIOSVersion"]); });
-        attempt([&] { Datos[4] = trimmed(item["ReleaseDate"]); });
-        attempt([&] { Datos[5] = trimmed(item["SerialNumber"]); });
+        attempt([&] { Datos[FirmwareSlot::Name] = trimmed(item["Name"]); });
+        attempt([&] { Datos[FirmwareSlot::Manufacturer] = trimmed(item["Manufacturer"]); });
+        attempt([&] { Datos[FirmwareSlot::Version] = trimmed(item["SMBIOSBIOSVersion"]); });
+        attempt([&] { Datos[FirmwareSlot::ReleaseDate] = trimmed(item["ReleaseDate"]); });
+        attempt([&] { Datos[FirmwareSlot::SerialNumber] = trimmed(item["SerialNumber"]); });
     });
 }
 
 std::string release_date()
 {
-    return Datos[4].empty() ? "" : WmiDateText(Datos[4]);
+    return Datos[FirmwareSlot::ReleaseDate].empty() ? ""
+                                                    : WmiDateText(Datos[FirmwareSlot::ReleaseDate]);
 }
 
 } // namespace ostrelum::inline figures

@@ -5,26 +5,10 @@
 #include "figures/Slots.h"
 #include "figures/Volumes.h"
 
-#include <array>
-
 namespace ostrelum::inline figures {
 namespace {
 
-std::string& slot(int index)
-{
-    return Datos.at(static_cast<std::size_t>(index));
-}
-
-void empty_slots(const DriveSlots& slots)
-{
-    for (const int list : {slots.names, slots.letters, slots.internal_names, slots.file_systems,
-                           slots.serials, slots.partitions})
-        slot(list).clear();
-    for (const int list : {slots.capacities, slots.used, slots.free}) {
-        if (list != 0)
-            slot(list) = "(";
-    }
-}
+using Slot = VolumeSlot;
 
 void add_volume_name(std::string& list, const Instance& item)
 {
@@ -34,47 +18,46 @@ void add_volume_name(std::string& list, const Instance& item)
         add_name(list, item, "VolumeName");
 }
 
-void add_sizes(const DriveSlots& slots, const Instance& item)
+void add_sizes(const Instance& item)
 {
     attempt([&] { Num1 = Value(item["Size"].number() / 1024).whole(); });
-    add_capacity(slot(slots.capacities), SizeByDigits(SizeUse::DriveCapacity, Num1));
+    add_capacity(Datos[Slot::Capacities], SizeByDigits(SizeUse::DriveCapacity, Num1));
     attempt([&] { Num2 = Value(item["Freespace"].number() / 1024).whole(); });
-    if (slots.free != 0)
-        add_share(slot(slots.free), SizeByDigits(SizeUse::DriveFree, Num2), Num2, Num1);
+    add_share(Datos[Slot::Free], SizeByDigits(SizeUse::DriveFree, Num2), Num2, Num1);
     attempt([&] {
         const std::int32_t used = Value(std::int64_t{Num1} - Num2).whole();
-        add_share(slot(slots.used), SizeByDigits(SizeUse::DriveUsed, used), used, Num1);
+        add_share(Datos[Slot::Used], SizeByDigits(SizeUse::DriveUsed, used), used, Num1);
     });
 }
 
-void add_volume(const DriveSlots& slots, const Instance& item)
+void add_volume(const Instance& item)
 {
-    add_volume_name(slot(slots.names), item);
-    add_letter(slot(slots.letters), item, "Caption");
-    add_sizes(slots, item);
-    add_name(slot(slots.file_systems), item, "FileSystem");
-    add_name(slot(slots.serials), item, "VolumeSerialNumber");
+    add_volume_name(Datos[Slot::Names], item);
+    add_letter(Datos[Slot::Letters], item, "Caption");
+    add_sizes(item);
+    add_name(Datos[Slot::FileSystems], item, "FileSystem");
+    add_name(Datos[Slot::SerialNumbers], item, "VolumeSerialNumber");
 }
 
-void add_drive(const DriveSlots& slots, const Instance& item)
+void add_drive(const Instance& item)
 {
     if (!hangs_on(item, "IDE", "SCSI"))
         return;
-    add_name(slot(slots.internal_names), item, "Caption");
-    attempt([&] { slot(slots.partitions) = trimmed(item["Partitions"]); });
+    add_name(Datos[Slot::InternalNames], item, "Caption");
+    attempt([&] { Datos[Slot::Partitions] = trimmed(item["Partitions"]); });
 }
 
 } // namespace
 
-void read_hard_drives(const DriveSlots& slots)
+void read_hard_drives()
 {
-    empty_slots(slots);
+    begin_lists();
     Num1 = Num2 = 0;
     query("Select VolumeName, Caption, Size, Freespace, FileSystem, VolumeSerialNumber from "
           "Win32_LogicalDisk where DriveType = 3");
-    each(WmiResult, [&](const Instance& item) { add_volume(slots, item); });
+    each(WmiResult, add_volume);
     query("Select InterfaceType, Caption, Partitions from Win32_DiskDrive");
-    each(WmiResult, [&](const Instance& item) { add_drive(slots, item); });
+    each(WmiResult, add_drive);
 }
 
 } // namespace ostrelum::inline figures

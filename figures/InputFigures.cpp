@@ -11,6 +11,8 @@
 namespace ostrelum::inline figures {
 namespace {
 
+using Slot = InputSlot;
+
 /// The key of a text, or a text that is the same in all languages.
 struct Word {
     std::optional<Text> key;
@@ -47,36 +49,38 @@ std::string word_of(const std::array<CodeRow<Word>, Count>& rows, const std::str
 
 void read_input()
 {
-    clear(Datos, 1, 7);
+    clear(Datos, Slot::KeyboardName, Slot::MouseHandedness);
     query("Select Name, Description from Win32_Keyboard");
     first(WmiResult, [](const Instance& item) {
-        attempt([&] { Datos[1] = trimmed(item["Name"]); });
-        attempt([&] { Datos[2] = trimmed(item["Description"]); });
+        attempt([&] { Datos[Slot::KeyboardName] = trimmed(item["Name"]); });
+        attempt([&] { Datos[Slot::KeyboardType] = trimmed(item["Description"]); });
     });
     query("Select Name, Manufacturer, DeviceInterface, Handedness from Win32_PointingDevice");
     first(WmiResult, [](const Instance& item) {
-        attempt([&] { Datos[3] = trimmed(item["Name"]); });
-        attempt([&] { Datos[4] = trimmed(item["Manufacturer"]); });
-        attempt([&] { Datos[6] = trimmed(item["DeviceInterface"]); });
-        attempt([&] { Datos[7] = trimmed(item["Handedness"]); });
+        attempt([&] { Datos[Slot::MouseName] = trimmed(item["Name"]); });
+        attempt([&] { Datos[Slot::MouseManufacturer] = trimmed(item["Manufacturer"]); });
+        attempt([&] { Datos[Slot::MouseInterface] = trimmed(item["DeviceInterface"]); });
+        attempt([&] { Datos[Slot::MouseHandedness] = trimmed(item["Handedness"]); });
     });
-    attempt(
-        [] { Datos[5] = std::to_string(platform.machine->GetSystemMetrics(mouse_button_count)); });
+    attempt([] {
+        Datos[Slot::MouseButtons] =
+            std::to_string(platform.machine->GetSystemMetrics(mouse_button_count));
+    });
 }
 
 std::string mouse_buttons()
 {
-    return at_least(Datos[5], 2) ? Datos[5] : "";
+    return at_least(Datos[Slot::MouseButtons], 2) ? Datos[Slot::MouseButtons] : "";
 }
 
 std::string pointer_interface()
 {
-    return word_of(interfaces, Datos[6]);
+    return word_of(interfaces, Datos[Slot::MouseInterface]);
 }
 
 std::string handedness()
 {
-    return word_of(hands, Datos[7]);
+    return word_of(hands, Datos[Slot::MouseHandedness]);
 }
 
 } // namespace ostrelum::inline figures

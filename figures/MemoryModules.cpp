@@ -8,22 +8,24 @@
 namespace ostrelum::inline figures {
 namespace {
 
+using Slot = MemorySlot;
+
 void add_module(const Instance& item)
 {
-    attempt([&] { Datos[1] = trimmed(item["MemoryType"]); });
-    attempt([&] { Datos[2] = trimmed(item["FormFactor"]); });
-    attempt([&] { Datos[4] = trimmed(item["TotalWidth"]); });
+    attempt([&] { Datos[Slot::Type] = trimmed(item["MemoryType"]); });
+    attempt([&] { Datos[Slot::FormFactor] = trimmed(item["FormFactor"]); });
+    attempt([&] { Datos[Slot::Width] = trimmed(item["TotalWidth"]); });
     attempt([&] { Num1 = Value(Num1 + item["Capacity"].number() / 1024).whole(); });
     if (holds([&] { return !trimmed(item["DeviceLocator"]).empty(); }))
-        Datos[3] = Value(Value(Datos[3]).whole() + 1).text();
+        Datos[Slot::ModuleCount] = Value(Value(Datos[Slot::ModuleCount]).whole() + 1).text();
 }
 
 } // namespace
 
 void read_memory_modules()
 {
-    clear(Datos, 1, 5);
-    Datos[3] = "0";
+    clear(Datos, Slot::Type, Slot::FavouredUse);
+    Datos[Slot::ModuleCount] = "0";
     Num1 = 0;
     query("Select MemoryType, FormFactor, Capacity, DeviceLocator, TotalWidth from "
           "Win32_PhysicalMemory");
@@ -37,19 +39,19 @@ std::string total_memory()
 
 std::string modules_installed()
 {
-    return at_least(Datos[3], 1) ? Datos[3] : "";
+    return at_least(Datos[Slot::ModuleCount], 1) ? Datos[Slot::ModuleCount] : "";
 }
 
 std::string memory_width()
 {
-    return at_least(Datos[4], 1) ? Datos[4] + " Bits" : "";
+    return at_least(Datos[Slot::Width], 1) ? Datos[Slot::Width] + " Bits" : "";
 }
 
 std::string favoured_use()
 {
-    if (Datos[5] == "0")
+    if (Datos[Slot::FavouredUse] == "0")
         return Trad[Text::Applications];
-    return Datos[5] == "1" ? Trad[Text::SystemCache] : "";
+    return Datos[Slot::FavouredUse] == "1" ? Trad[Text::SystemCache] : "";
 }
 
 } // namespace ostrelum::inline figures

@@ -13,6 +13,8 @@
 namespace ostrelum::inline figures {
 namespace {
 
+using Slot = SystemSlot;
+
 /// "6.1.7601" as "6.1, 7601".
 std::string version_and_build(const std::string& version)
 {
@@ -21,15 +23,21 @@ std::string version_and_build(const std::string& version)
 
 /// The last statement is the one that only MemoryFigures::TotalAndUsed asks for.
 constexpr std::array<Statement, 11> walk{
-    [](const Instance& item) { Datos[1] = trimmed(item["Caption"]); },
-    [](const Instance& item) { Datos[2] = version_and_build(trimmed(item["Version"])); },
-    [](const Instance& item) { Datos[3] = trimmed(item["ServicePackMajorVersion"]); },
-    [](const Instance& item) { Datos[4] = TempStr == "1" ? trimmed(item["OSArchitecture"]) : ""; },
-    [](const Instance& item) { Datos[5] = trimmed(item["SerialNumber"]); },
-    [](const Instance& item) { Datos[7] = trimmed(item["OSLanguage"]); },
-    [](const Instance& item) { Datos[8] = trimmed(item["RegisteredUser"]); },
-    [](const Instance& item) { Datos[9] = trimmed(item["NumberOfProcesses"]); },
-    [](const Instance& item) { Datos[10] = trimmed(item["InstallDate"]); },
+    [](const Instance& item) { Datos[Slot::Name] = trimmed(item["Caption"]); },
+    [](const Instance& item) {
+        Datos[Slot::Version] = version_and_build(trimmed(item["Version"]));
+    },
+    [](const Instance& item) {
+        Datos[Slot::ServicePack] = trimmed(item["ServicePackMajorVersion"]);
+    },
+    [](const Instance& item) {
+        Datos[Slot::Architecture] = TempStr == "1" ? trimmed(item["OSArchitecture"]) : "";
+    },
+    [](const Instance& item) { Datos[Slot::SerialNumber] = trimmed(item["SerialNumber"]); },
+    [](const Instance& item) { Datos[Slot::Language] = trimmed(item["OSLanguage"]); },
+    [](const Instance& item) { Datos[Slot::RegisteredUser] = trimmed(item["RegisteredUser"]); },
+    [](const Instance& item) { Datos[Slot::ProcessCount] = trimmed(item["NumberOfProcesses"]); },
+    [](const Instance& item) { Datos[Slot::InstallDate] = trimmed(item["InstallDate"]); },
     [](const Instance& item) { Num1 = virtual_memory(item); },
     [](const Instance& item) { Num2 = virtual_memory_in_use(item); },
 };
@@ -38,7 +46,7 @@ constexpr std::array<Statement, 11> walk{
 
 bool read_operating_system(MemoryFigures figures)
 {
-    clear(Datos, 1, 10);
+    clear(Datos, Slot::Name, Slot::InstallDate);
     Num1 = Num2 = 0;
     const bool all = read_long_or_short(
         "Select Caption, FreeVirtualMemory, InstallDate, NumberOfProcesses, OSLanguage, "
@@ -48,7 +56,7 @@ bool read_operating_system(MemoryFigures figures)
         "RegisteredUser, SerialNumber, ServicePackMajorVersion, TotalVirtualMemorySize, Version "
         "from Win32_OperatingSystem",
         std::span(walk).first(figures == MemoryFigures::Total ? walk.size() - 1 : walk.size()));
-    attempt([] { Datos[6] = trimmed(ProductKeyText()); });
+    attempt([] { Datos[Slot::ProductKey] = trimmed(ProductKeyText()); });
     return all;
 }
 
@@ -64,8 +72,9 @@ std::int32_t virtual_memory_in_use(const Instance& item)
 
 std::string service_pack()
 {
-    return at_least(Datos[3], 1) ? FillMark(Trad[Text::ServicePackVersion], "(#)", Datos[3])
-                                 : Trad[Text::NoServicePack];
+    return at_least(Datos[Slot::ServicePack], 1)
+               ? FillMark(Trad[Text::ServicePackVersion], "(#)", Datos[Slot::ServicePack])
+               : Trad[Text::NoServicePack];
 }
 
 std::string process_count(const std::string& count)
@@ -77,8 +86,9 @@ std::string install_date()
 {
     std::string date;
     attempt([&] {
-        TempStr = FillMark(Trad[Text::DateAndTime], "(DDMMYYYY)", WmiDateText(Datos[10]));
-        date = FillMark(TempStr, "(HHMMSS)", WmiTimeText(Datos[10]));
+        TempStr =
+            FillMark(Trad[Text::DateAndTime], "(DDMMYYYY)", WmiDateText(Datos[Slot::InstallDate]));
+        date = FillMark(TempStr, "(HHMMSS)", WmiTimeText(Datos[Slot::InstallDate]));
     });
     return date;
 }

@@ -8,13 +8,25 @@
 /// The operating system. An empty text is unknown.
 namespace ostrelum::inline figures {
 
+/// The slots of Datos that read_operating_system fills.
+enum class SystemSlot {
+    Name = 1,
+    Version, ///< and build
+    ServicePack,
+    Architecture, ///< the word size
+    SerialNumber,
+    ProductKey,
+    Language, ///< a code
+    RegisteredUser,
+    ProcessCount,
+    InstallDate, ///< a datetime of the service
+};
+
 enum class MemoryFigures { Total, TotalAndUsed };
 
-/// Asks for the operating system: Datos 1 is its name, 2 its version and build, 3 its service pack,
-/// 4 its word size, 5 its serial number, 6 its product key, 7 the code of its language, 8 its
-/// owner, 9 its processes, 10 its installation date as the service delivers it. Num1 is the virtual
-/// memory in MB; Num2 the part in use, if that is asked for, else 0. Where the service does not
-/// tell all of it, what it tells is taken in, and the result is false.
+/// Asks for the operating system. Num1 is the virtual memory in MB; Num2 the part in use, if that
+/// is asked for, else 0. Where the service does not tell all of it, what it tells is taken in, and
+/// the result is false.
 bool read_operating_system(MemoryFigures figures);
 
 /// Virtual memory in whole MB, from TotalVirtualMemorySize. Throws Failure without it.
@@ -22,11 +34,11 @@ std::int32_t virtual_memory(const Instance& item);
 /// The part of Num1 MB that is not free by FreeVirtualMemory. Throws Failure without it.
 std::int32_t virtual_memory_in_use(const Instance& item);
 
-/// Datos 3 as a version, or that there is none.
+/// The version of the service pack, or that there is none.
 std::string service_pack();
 /// A number of processes, from 1 on.
 std::string process_count(const std::string& count);
-/// The date and the time in Datos 10. TempStr is its scratch.
+/// The date and the time of the installation. TempStr is its scratch.
 std::string install_date();
 
 } // namespace ostrelum::inline figures

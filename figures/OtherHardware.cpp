@@ -6,13 +6,15 @@
 namespace ostrelum::inline figures {
 namespace {
 
+using Slot = HardwareSlot;
+
 void read_board()
 {
-    attempt([] { Datos[1] = mainboard_name(); });
+    attempt([] { Datos[Slot::BoardFullName] = mainboard_name(); });
     query("Select Manufacturer, Product from Win32_BaseBoard");
     first(WmiResult, [](const Instance& item) {
-        attempt([&] { Datos[2] = trimmed(item["Manufacturer"]); });
-        attempt([&] { Datos[3] = trimmed(item["Product"]); });
+        attempt([&] { Datos[Slot::BoardManufacturer] = trimmed(item["Manufacturer"]); });
+        attempt([&] { Datos[Slot::BoardProduct] = trimmed(item["Product"]); });
     });
 }
 
@@ -20,8 +22,8 @@ void read_sound_card()
 {
     query("Select Name, Manufacturer from Win32_SoundDevice");
     first(WmiResult, [](const Instance& item) {
-        attempt([&] { Datos[4] = trimmed(item["Name"]); });
-        attempt([&] { Datos[5] = trimmed(item["Manufacturer"]); });
+        attempt([&] { Datos[Slot::SoundCardName] = trimmed(item["Name"]); });
+        attempt([&] { Datos[Slot::SoundCardManufacturer] = trimmed(item["Manufacturer"]); });
     });
 }
 
@@ -44,17 +46,17 @@ std::string mainboard_name()
 
 void read_other_hardware()
 {
-    clear(Datos, 1, 10);
+    clear(Datos, Slot::BoardFullName, Slot::BatteryMinutes);
     read_board();
     read_sound_card();
     query("Select DesignVoltage, DeviceID, EstimatedChargeRemaining, EstimatedRunTime, Name from "
           "Win32_Battery");
     first(WmiResult, [](const Instance& item) {
-        attempt([&] { Datos[6] = battery_name(item["Name"]); });
-        attempt([&] { Datos[7] = trimmed(item["DeviceID"]); });
-        attempt([&] { Datos[8] = trimmed(item["DesignVoltage"]); });
-        attempt([&] { Datos[9] = trimmed(item["EstimatedChargeRemaining"]); });
-        attempt([&] { Datos[10] = trimmed(item["EstimatedRunTime"]); });
+        attempt([&] { Datos[Slot::BatteryName] = battery_name(item["Name"]); });
+        attempt([&] { Datos[Slot::BatterySerial] = trimmed(item["DeviceID"]); });
+        attempt([&] { Datos[Slot::BatteryVoltage] = trimmed(item["DesignVoltage"]); });
+        attempt([&] { Datos[Slot::BatteryCharge] = trimmed(item["EstimatedChargeRemaining"]); });
+        attempt([&] { Datos[Slot::BatteryMinutes] = trimmed(item["EstimatedRunTime"]); });
     });
 }
 

@@ -8,10 +8,21 @@ namespace ostrelum::inline figures {
 /// Failure where nobody did.
 std::string mainboard_name();
 
-/// Takes in the mainboard, the first sound device and the first battery: Datos 1 the board's full
-/// name, 2 and 3 its maker and product; 4 and 5 the name and the maker of the sound device; 6 and 7
-/// the battery's name and serial number, 8 its voltage in millivolts, 9 its charge in percent and
-/// 10 the minutes that it lasts.
+/// The slots of Datos that read_other_hardware fills.
+enum class HardwareSlot {
+    BoardFullName = 1,
+    BoardManufacturer,
+    BoardProduct,
+    SoundCardName,
+    SoundCardManufacturer,
+    BatteryName,
+    BatterySerial,
+    BatteryVoltage, ///< in millivolts
+    BatteryCharge,  ///< in percent
+    BatteryMinutes, ///< that it lasts
+};
+
+/// Takes in the mainboard, the first sound device and the first battery.
 void read_other_hardware();
 
 } // namespace ostrelum::inline figures

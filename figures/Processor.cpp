@@ -10,16 +10,20 @@
 namespace ostrelum::inline figures {
 namespace {
 
+using Slot = ProcessorSlot;
+
 constexpr std::array<Statement, 9> walk{
-    [](const Instance& item) { Datos[1] = trimmed(item["Name"]); },
+    [](const Instance& item) { Datos[Slot::Name] = trimmed(item["Name"]); },
     [](const Instance& item) { Num1 = item["CurrentClockSpeed"].whole(); },
     [](const Instance& item) { Num2 = item["MaxClockSpeed"].whole(); },
-    [](const Instance& item) { Datos[3] = trimmed(item["Manufacturer"]); },
-    [](const Instance& item) { Datos[4] = trimmed(item["Caption"]); },
-    [](const Instance& item) { Datos[5] = trimmed(item["SocketDesignation"]); },
-    [](const Instance& item) { Datos[6] = trimmed(item["Architecture"]); },
-    [](const Instance& item) { Datos[7] = trimmed(item["L2CacheSize"]); },
-    [](const Instance& item) { Datos[8] = TempStr == "1" ? trimmed(item["L3CacheSize"]) : ""; },
+    [](const Instance& item) { Datos[Slot::Manufacturer] = trimmed(item["Manufacturer"]); },
+    [](const Instance& item) { Datos[Slot::Type] = trimmed(item["Caption"]); },
+    [](const Instance& item) { Datos[Slot::Socket] = trimmed(item["SocketDesignation"]); },
+    [](const Instance& item) { Datos[Slot::Architecture] = trimmed(item["Architecture"]); },
+    [](const Instance& item) { Datos[Slot::L2Cache] = trimmed(item["L2CacheSize"]); },
+    [](const Instance& item) {
+        Datos[Slot::L3Cache] = TempStr == "1" ? trimmed(item["L3CacheSize"]) : "";
+    },
 };
 
 /// DMTF CIM schema as the service extends it, Win32_Processor.Architecture: the two kinds of which
@@ -36,7 +40,7 @@ std::string megahertz(std::int32_t speed)
 
 void read_processor()
 {
-    clear(Datos, 1, 8);
+    clear(Datos, Slot::Name, Slot::L3Cache);
     Num1 = Num2 = 0;
     read_long_or_short("Select Architecture, Caption, CurrentClockSpeed, L2CacheSize, L3CacheSize, "
                        "Manufacturer, MaxClockSpeed, Name, SocketDesignation from Win32_Processor",
@@ -45,7 +49,7 @@ void read_processor()
                        walk);
     attempt([] {
         SysInfo = platform.machine->GetOstrelum();
-        Datos[2] = WholeText(SysInfo.dwNumberOfProcessors);
+        Datos[Slot::Count] = WholeText(SysInfo.dwNumberOfProcessors);
     });
 }
 
@@ -62,12 +66,12 @@ ClockFigure clock_figure()
 
 std::string processor_count()
 {
-    return at_least(Datos[2], 1) ? Datos[2] : "";
+    return at_least(Datos[Slot::Count], 1) ? Datos[Slot::Count] : "";
 }
 
 std::string architecture()
 {
-    const auto* row = find_code(architectures, Datos[6]);
+    const auto* row = find_code(architectures, Datos[Slot::Architecture]);
     return row ? std::string(row->text) : "";
 }
 

@@ -10,8 +10,8 @@ void reset_shared_state()
     ShellObject = {};
     Trad = {};
     Idioma.clear();
-    Datos.fill({});
-    DatosCD.fill({});
+    Datos = {};
+    DatosCD = {};
     TempStr.clear();
     Cnt = Cnt2 = Num1 = Num2 = ram_total = 0;
     ColorValue = ColorAtOpen = 0;

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "figures/Bound.h"
+#include "figures/Slots.h"
 #include "figures/StringTable.h"
 #include "platform/system/Machine.h"
 #include "platform/system/Shell.h"
 #include "sources/ManagementService.h"
 
-#include <array>
 #include <cstdint>
 #include <string>
 
@@ -25,10 +25,10 @@ inline Bound<Shell> ShellObject;
 /// The language of the run: "English", "Spanish" or "Dutch".
 inline std::string Idioma;
 
-/// Values of the page or report stage being built, slots 0 to 11.
-inline std::array<std::string, 12> Datos;
-/// The texts of the CDs and DVDs page, slots 1 to 7, kept as long as the page stays open.
-inline std::array<std::string, 8> DatosCD;
+/// Values of the page or report stage being built. Each reader names the slots that it fills.
+inline TextSlots<12> Datos;
+/// The texts of the CDs and DVDs page, kept as long as the page stays open.
+inline TextSlots<8> DatosCD;
 /// Scratch text, meaningful only inside one operation.
 inline std::string TempStr;
 /// Loop counter; the window fades keep their level in it, in percent of transparency.

@@ -5,6 +5,13 @@
 
 namespace ostrelum::inline figures {
 
+void begin_lists()
+{
+    clear(Datos, VolumeSlot::Names, VolumeSlot::Partitions);
+    for (const VolumeSlot sizes : {VolumeSlot::Capacities, VolumeSlot::Used, VolumeSlot::Free})
+        Datos[sizes] = "(";
+}
+
 void add_name(std::string& list, const Instance& item, const char* property)
 {
     add_entry(list, [&] { return trimmed(item[property]) + " - "; });

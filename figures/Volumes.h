@@ -12,6 +12,22 @@
 /// adds its entry and a separator.
 namespace ostrelum::inline figures {
 
+/// The lists about volumes and drives in Datos, in the order of the rows of a page.
+enum class VolumeSlot {
+    Names = 1,
+    Letters,
+    Capacities,
+    Used,
+    Free,
+    InternalNames,
+    FileSystems,
+    SerialNumbers,
+    Partitions, ///< of the last internal drive; no list
+};
+
+/// Empties the slots; the lists of sizes begin with "(".
+void begin_lists();
+
 /// Adds an entry; one that cannot be made adds nothing.
 void add_entry(std::string& list, std::invocable auto make_entry)
 {

@@ -10,11 +10,11 @@ void InfBIOS()
     read_firmware();
 
     write_rows({
-        {Trad[Text::Name], known(Datos[1])},
-        {Trad[Text::Manufacturer], known(Datos[2])},
-        {Trad[Text::Version], known(Datos[3])},
+        {Trad[Text::Name], known(Datos[FirmwareSlot::Name])},
+        {Trad[Text::Manufacturer], known(Datos[FirmwareSlot::Manufacturer])},
+        {Trad[Text::Version], known(Datos[FirmwareSlot::Version])},
         {Trad[Text::ReleaseDate], known(release_date)},
-        {Trad[Text::SerialNumber], known(Datos[5])},
+        {Trad[Text::SerialNumber], known(Datos[FirmwareSlot::SerialNumber])},
     });
 }
 

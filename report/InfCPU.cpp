@@ -19,15 +19,15 @@ void InfCPU()
     read_processor();
 
     write_rows({
-        {Trad[Text::Name], known(Datos[1])},
+        {Trad[Text::Name], known(Datos[ProcessorSlot::Name])},
         speed_row(),
         {Trad[Text::CoreCount], known(processor_count())},
-        {Trad[Text::Manufacturer], known(Datos[3])},
-        {Trad[Text::Type], known(Datos[4])},
-        {Trad[Text::Socket], known(Datos[5])},
+        {Trad[Text::Manufacturer], known(Datos[ProcessorSlot::Manufacturer])},
+        {Trad[Text::Type], known(Datos[ProcessorSlot::Type])},
+        {Trad[Text::Socket], known(Datos[ProcessorSlot::Socket])},
         {Trad[Text::Architecture], known(architecture())},
-        {Trad[Text::L2CacheSize], known(cache_size(Datos[7]))},
-        {Trad[Text::L3CacheSize], known(cache_size(Datos[8]))},
+        {Trad[Text::L2CacheSize], known(cache_size(Datos[ProcessorSlot::L2Cache]))},
+        {Trad[Text::L3CacheSize], known(cache_size(Datos[ProcessorSlot::L3Cache]))},
     });
 }
 

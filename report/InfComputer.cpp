@@ -11,12 +11,12 @@ void InfComputer()
     read_computer();
 
     write_rows({
-        {Trad[Text::Manufacturer], known(Datos[1])},
-        {Trad[Text::Model], known(Datos[2])},
-        {Trad[Text::Type], known(Datos[3])},
+        {Trad[Text::Manufacturer], known(Datos[ComputerSlot::Manufacturer])},
+        {Trad[Text::Model], known(Datos[ComputerSlot::Model])},
+        {Trad[Text::Type], known(Datos[ComputerSlot::Type])},
         {Trad[Text::AutoRestart], known(restart_option())},
         {Trad[Text::StartupDelay], known(startup_delay())},
-        {Trad[Text::Workgroup], known(CapitalText(Datos[6]))},
+        {Trad[Text::Workgroup], known(CapitalText(Datos[ComputerSlot::Domain]))},
     });
 }
 

@@ -9,34 +9,28 @@ namespace ostrelum::inline report {
 namespace {
 
 /// A list of volumes or drives; unknown where it has none.
-std::string list(std::size_t slot, std::size_t tail)
+std::string list(VolumeSlot slot, std::size_t tail)
 {
-    return known([&] { return without_tail(Datos.at(slot), tail); });
+    return known([&] { return without_tail(Datos[slot], tail); });
 }
 
 } // namespace
 
 void InfDisks()
 {
-    read_hard_drives({.names = 1,
-                      .letters = 2,
-                      .capacities = 3,
-                      .used = 4,
-                      .free = 0,
-                      .internal_names = 5,
-                      .file_systems = 6,
-                      .serials = 7,
-                      .partitions = 8});
+    read_hard_drives();
 
     write_rows({
-        {Trad[Text::Name], list(1, NameTail)},
-        {Trad[Text::DriveLetter], list(2, NameTail)},
-        {Trad[Text::Capacity], list(3, SizeTail)},
-        {Trad[Text::SpaceInUse], list(4, SizeTail)},
-        {Trad[Text::InternalName], list(5, NameTail)},
-        {Trad[Text::FileSystem], list(6, NameTail)},
-        {Trad[Text::SerialNumber], list(7, NameTail)},
-        {Trad[Text::TotalPartitions], at_least(Datos[8], 1) ? Datos[8] : Trad[Text::Unknown]},
+        {Trad[Text::Name], list(VolumeSlot::Names, NameTail)},
+        {Trad[Text::DriveLetter], list(VolumeSlot::Letters, NameTail)},
+        {Trad[Text::Capacity], list(VolumeSlot::Capacities, SizeTail)},
+        {Trad[Text::SpaceInUse], list(VolumeSlot::Used, SizeTail)},
+        {Trad[Text::InternalName], list(VolumeSlot::InternalNames, NameTail)},
+        {Trad[Text::FileSystem], list(VolumeSlot::FileSystems, NameTail)},
+        {Trad[Text::SerialNumber], list(VolumeSlot::SerialNumbers, NameTail)},
+        {Trad[Text::TotalPartitions], at_least(Datos[VolumeSlot::Partitions], 1)
+                                          ? Datos[VolumeSlot::Partitions]
+                                          : Trad[Text::Unknown]},
     });
 }
 

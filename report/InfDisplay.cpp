@@ -11,9 +11,9 @@ void InfDisplay()
     const RefreshLimits limits = refresh_limits();
 
     write_rows({
-        {Trad[Text::DisplayName], known(Datos[1])},
-        {Trad[Text::Manufacturer], known(Datos[2])},
-        {Trad[Text::CurrentConfiguration], known(Datos[3])},
+        {Trad[Text::DisplayName], known(Datos[DisplaySlot::MonitorName])},
+        {Trad[Text::Manufacturer], known(Datos[DisplaySlot::MonitorManufacturer])},
+        {Trad[Text::CurrentConfiguration], known(Datos[DisplaySlot::Mode])},
         {Trad[limits.title], known(limits.text)},
     });
 }
@@ -21,11 +21,11 @@ void InfDisplay()
 void InfGraphics()
 {
     write_rows({
-        {Trad[Text::GraphicsCardName], known(Datos[6])},
+        {Trad[Text::GraphicsCardName], known(Datos[DisplaySlot::CardName])},
         {Trad[Text::MemorySize], known(graphics_memory())},
-        {Trad[Text::MemoryType], known(Datos[7])},
-        {Trad[Text::DriverName], known(Datos[8])},
-        {Trad[Text::DriverVersion], known(Datos[9])},
+        {Trad[Text::MemoryType], known(Datos[DisplaySlot::MemoryType])},
+        {Trad[Text::DriverName], known(Datos[DisplaySlot::Drivers])},
+        {Trad[Text::DriverVersion], known(Datos[DisplaySlot::DriverVersion])},
         {Trad[Text::DriverDate], known(driver_date)},
     });
 }

@@ -10,16 +10,16 @@ void InfKeyboard()
     read_input();
 
     write_rows({
-        {Trad[Text::KeyboardName], known(Datos[1])},
-        {Trad[Text::Type], known(Datos[2])},
+        {Trad[Text::KeyboardName], known(Datos[InputSlot::KeyboardName])},
+        {Trad[Text::Type], known(Datos[InputSlot::KeyboardType])},
     });
 }
 
 void InfMouse()
 {
     write_rows({
-        {Trad[Text::MouseName], known(Datos[3])},
-        {Trad[Text::Manufacturer], known(Datos[4])},
+        {Trad[Text::MouseName], known(Datos[InputSlot::MouseName])},
+        {Trad[Text::Manufacturer], known(Datos[InputSlot::MouseManufacturer])},
         {Trad[Text::ButtonCount], known(mouse_buttons())},
         {Trad[Text::Connection], known(pointer_interface())},
         {Trad[Text::Handedness], known(handedness())},

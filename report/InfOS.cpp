@@ -11,15 +11,15 @@ void InfOS()
     read_operating_system(MemoryFigures::Total);
 
     write_rows({
-        {Trad[Text::Name], known(Datos[1])},
-        {Trad[Text::VersionAndBuild], Datos[2]},
+        {Trad[Text::Name], known(Datos[SystemSlot::Name])},
+        {Trad[Text::VersionAndBuild], Datos[SystemSlot::Version]},
         {Trad[Text::ServicePack], service_pack()},
-        {Trad[Text::Type], known(Datos[4])},
-        {Trad[Text::SerialNumber], known(Datos[5])},
-        {Trad[Text::LicenseCode], known(Datos[6])},
-        {Trad[Text::SystemLanguage], known(language_name(Datos[7]))},
-        {Trad[Text::RegisteredBy], known(Datos[8])},
-        {Trad[Text::ProcessCount], known(process_count(Datos[9]))},
+        {Trad[Text::Type], known(Datos[SystemSlot::Architecture])},
+        {Trad[Text::SerialNumber], known(Datos[SystemSlot::SerialNumber])},
+        {Trad[Text::LicenseCode], known(Datos[SystemSlot::ProductKey])},
+        {Trad[Text::SystemLanguage], known(language_name(Datos[SystemSlot::Language]))},
+        {Trad[Text::RegisteredBy], known(Datos[SystemSlot::RegisteredUser])},
+        {Trad[Text::ProcessCount], known(process_count(Datos[SystemSlot::ProcessCount]))},
         {Trad[Text::InstallDate], known(install_date())},
         {Trad[Text::TotalVirtualMemory],
          Num1 >= 1 ? std::to_string(Num1) + " MB" : Trad[Text::Unknown]},

@@ -10,13 +10,13 @@ void InfOther()
     read_other_hardware();
 
     write_rows({
-        {Trad[Text::MotherboardName], known(Datos[1])},
-        {Trad[Text::Manufacturer], known(Datos[2])},
-        {Trad[Text::InternalName], known(Datos[3])},
-        {Trad[Text::SoundCardName], known(Datos[4])},
-        {Trad[Text::Manufacturer], known(Datos[5])},
-        {Trad[Text::BatteryName], known(Datos[6])},
-        {Trad[Text::SerialNumber], known(Datos[7])},
+        {Trad[Text::MotherboardName], known(Datos[HardwareSlot::BoardFullName])},
+        {Trad[Text::Manufacturer], known(Datos[HardwareSlot::BoardManufacturer])},
+        {Trad[Text::InternalName], known(Datos[HardwareSlot::BoardProduct])},
+        {Trad[Text::SoundCardName], known(Datos[HardwareSlot::SoundCardName])},
+        {Trad[Text::Manufacturer], known(Datos[HardwareSlot::SoundCardManufacturer])},
+        {Trad[Text::BatteryName], known(Datos[HardwareSlot::BatteryName])},
+        {Trad[Text::SerialNumber], known(Datos[HardwareSlot::BatterySerial])},
     });
 }
 

@@ -11,12 +11,12 @@ void InfRAM()
     read_memory_modules();
     query("Select LargeSystemCache from Win32_OperatingSystem");
     first(WmiResult, [](const Instance& item) {
-        attempt([&] { Datos[5] = trimmed(item["LargeSystemCache"]); });
+        attempt([&] { Datos[MemorySlot::FavouredUse] = trimmed(item["LargeSystemCache"]); });
     });
 
     write_rows({
-        {Trad[Text::Type], known(memory_type_text(Datos[1]))},
-        {Trad[Text::ChipType], known(form_factor_text(Datos[2]))},
+        {Trad[Text::Type], known(memory_type_text(Datos[MemorySlot::Type]))},
+        {Trad[Text::ChipType], known(form_factor_text(Datos[MemorySlot::FormFactor]))},
         {Trad[Text::TotalMemory], known(total_memory())},
         {Trad[Text::ModulesInstalled], known(modules_installed())},
         {Trad[Text::DataBusWidth], known(memory_width())},

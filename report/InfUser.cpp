@@ -11,12 +11,12 @@ void InfUser()
     read_account();
 
     write_rows({
-        {Trad[Text::Name], known(Datos[1])},
-        {Trad[Text::Domain], known(CapitalText(Datos[2]))},
+        {Trad[Text::Name], known(Datos[AccountSlot::Name])},
+        {Trad[Text::Domain], known(CapitalText(Datos[AccountSlot::Domain]))},
         {Trad[Text::AccountType], known(account_type())},
         {Trad[Text::PrivilegeLevel], known(privilege_level())},
-        {Trad[Text::PasswordChangeable], known(yes_or_no(Datos[5]))},
-        {Trad[Text::PasswordExpires], known(yes_or_no(Datos[6]))},
+        {Trad[Text::PasswordChangeable], known(yes_or_no(Datos[AccountSlot::PasswordChangeable]))},
+        {Trad[Text::PasswordExpires], known(yes_or_no(Datos[AccountSlot::PasswordExpires]))},
         {Trad[Text::BadPasswords], known(bad_passwords())},
         {Trad[Text::LogonTime], known(logon_time())},
         {Trad[Text::LogonCount], known(logon_count())},

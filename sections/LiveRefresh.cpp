@@ -10,6 +10,8 @@
 namespace ostrelum::inline sections {
 namespace {
 
+enum class BatterySlot { Voltage = 1, Charge, Minutes };
+
 void stop()
 {
     F1.Timer1.Enabled = false;
@@ -57,16 +59,18 @@ void refresh_memory()
 
 void refresh_battery()
 {
-    clear(Datos, 1, 3);
+    clear(Datos, BatterySlot::Voltage, BatterySlot::Minutes);
     query("Select DesignVoltage, EstimatedChargeRemaining, EstimatedRunTime from Win32_Battery");
     first(WmiResult, [](const Instance& item) {
-        attempt([&] { Datos[1] = trimmed(item["DesignVoltage"]); });
-        attempt([&] { Datos[2] = trimmed(item["EstimatedChargeRemaining"]); });
-        attempt([&] { Datos[3] = trimmed(item["EstimatedRunTime"]); });
+        attempt([&] { Datos[BatterySlot::Voltage] = trimmed(item["DesignVoltage"]); });
+        attempt([&] { Datos[BatterySlot::Charge] = trimmed(item["EstimatedChargeRemaining"]); });
+        attempt([&] { Datos[BatterySlot::Minutes] = trimmed(item["EstimatedRunTime"]); });
     });
-    if (Datos[1].empty() && Datos[2].empty() && Datos[3].empty())
+    if (Datos[BatterySlot::Voltage].empty() && Datos[BatterySlot::Charge].empty() &&
+        Datos[BatterySlot::Minutes].empty())
         stop();
-    set_battery_values(Datos[1], Datos[2], Datos[3]);
+    set_battery_values(Datos[BatterySlot::Voltage], Datos[BatterySlot::Charge],
+                       Datos[BatterySlot::Minutes]);
 }
 
 void Timer1_Timer()

@@ -13,12 +13,12 @@ void SecInput()
     hide(F1.LNoDrive, F1.Line1, F1.Line2, F1.Iaviso, F1.Laviso);
     plain_title(1);
     plain_title(8);
-    set_row(1, Trad[Text::KeyboardName], Datos[1]);
-    set_row(2, Trad[Text::Type], Datos[2]);
+    set_row(1, Trad[Text::KeyboardName], Datos[InputSlot::KeyboardName]);
+    set_row(2, Trad[Text::Type], Datos[InputSlot::KeyboardType]);
     empty_rows(3, 3);
     place_line(F1.Line1, 3, 9);
-    set_row(4, Trad[Text::MouseName], Datos[3]);
-    set_row(5, Trad[Text::Manufacturer], Datos[4]);
+    set_row(4, Trad[Text::MouseName], Datos[InputSlot::MouseName]);
+    set_row(5, Trad[Text::Manufacturer], Datos[InputSlot::MouseManufacturer]);
     set_row(6, Trad[Text::ButtonCount], mouse_buttons());
     set_row(7, Trad[Text::Connection], pointer_interface());
     set_row(8, Trad[Text::Handedness], handedness());

@@ -13,11 +13,11 @@ void set_version_rows(bool all_told)
 {
     set_title(2, Trad[Text::VersionAndBuild] + " ");
     if (all_told)
-        set_bare_value(2, Datos[2]);
+        set_bare_value(2, Datos[SystemSlot::Version]);
     else
-        set_value(2, Datos[2]);
+        set_value(2, Datos[SystemSlot::Version]);
     set_row(3, Trad[Text::ServicePack],
-            all_told || !Datos[3].empty() ? service_pack() : std::string());
+            all_told || !Datos[SystemSlot::ServicePack].empty() ? service_pack() : std::string());
 }
 
 } // namespace
@@ -33,14 +33,14 @@ void SecOS()
     F1.Titulo.Caption = Trad[Text::OperatingSystem];
     plain_title(1);
     plain_title(8);
-    set_row(1, Trad[Text::Name], Datos[1]);
+    set_row(1, Trad[Text::Name], Datos[SystemSlot::Name]);
     set_version_rows(all_told);
-    set_row(4, Trad[Text::Type], Datos[4]);
-    set_row(5, Trad[Text::SerialNumber], Datos[5]);
-    set_row(6, Trad[Text::LicenseCode], Datos[6]);
-    set_row(7, Trad[Text::SystemLanguage], language_name(Datos[7]));
-    set_row(8, Trad[Text::RegisteredBy], Datos[8]);
-    set_row(9, Trad[Text::ProcessCount], process_count(Datos[9]));
+    set_row(4, Trad[Text::Type], Datos[SystemSlot::Architecture]);
+    set_row(5, Trad[Text::SerialNumber], Datos[SystemSlot::SerialNumber]);
+    set_row(6, Trad[Text::LicenseCode], Datos[SystemSlot::ProductKey]);
+    set_row(7, Trad[Text::SystemLanguage], language_name(Datos[SystemSlot::Language]));
+    set_row(8, Trad[Text::RegisteredBy], Datos[SystemSlot::RegisteredUser]);
+    set_row(9, Trad[Text::ProcessCount], process_count(Datos[SystemSlot::ProcessCount]));
     set_row(10, Trad[Text::InstallDate], install_date());
     set_virtual_memory_row();
     clear_title_tooltips(3, 5);

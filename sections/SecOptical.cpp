@@ -7,10 +7,22 @@
 namespace ostrelum::inline sections {
 namespace {
 
+/// The lists in DatosCD.
+enum class DiscSlot {
+    Names = 1,
+    Letters,
+    Capacities,
+    InternalNames,
+    DriveTypes,
+    FileSystems,
+    SerialNumbers
+};
+
 /// Whether the page is open with discs on it: it is then drawn again from what it holds.
 bool values_are_kept()
 {
-    return F1.Seccion == 12 && !DatosCD[1].empty() && !DatosCD[2].empty() && !DatosCD[4].empty();
+    return F1.Seccion == 12 && !DatosCD[DiscSlot::Names].empty() &&
+           !DatosCD[DiscSlot::Letters].empty() && !DatosCD[DiscSlot::InternalNames].empty();
 }
 
 /// A drive or volume without a disc has no size.
@@ -22,12 +34,12 @@ bool is_loaded(const Instance& item)
 void add_disc(const Instance& item)
 {
     count_up(F1.MediaCount);
-    add_name(DatosCD[1], item, "VolumeName");
-    add_letter(DatosCD[2], item, "Name");
+    add_name(DatosCD[DiscSlot::Names], item, "VolumeName");
+    add_letter(DatosCD[DiscSlot::Letters], item, "Name");
     attempt([&] { Num1 = whole_kilobytes(item["Size"]); });
-    add_capacity(DatosCD[3], SizeByDigits(SizeUse::DiscCapacity, Num1));
-    add_name(DatosCD[6], item, "FileSystem");
-    add_name(DatosCD[7], item, "VolumeSerialNumber");
+    add_capacity(DatosCD[DiscSlot::Capacities], SizeByDigits(SizeUse::DiscCapacity, Num1));
+    add_name(DatosCD[DiscSlot::FileSystems], item, "FileSystem");
+    add_name(DatosCD[DiscSlot::SerialNumbers], item, "VolumeSerialNumber");
 }
 
 void read_discs()
@@ -48,16 +60,16 @@ void read_loaded_drives()
     each(WmiResult, [](const Instance& item) {
         if (!is_loaded(item))
             return;
-        add_name(DatosCD[4], item, "Name");
-        add_name(DatosCD[5], item, "MediaType");
+        add_name(DatosCD[DiscSlot::InternalNames], item, "Name");
+        add_name(DatosCD[DiscSlot::DriveTypes], item, "MediaType");
     });
 }
 
 void collect()
 {
     announce_section(12);
-    DatosCD.fill({});
-    DatosCD[3] = "(";
+    DatosCD = {};
+    DatosCD[DiscSlot::Capacities] = "(";
     F1.EmptyDrives = F1.MediaCount = 0;
     Num1 = 0;
     read_discs();
@@ -101,13 +113,13 @@ void show_discs()
     F1.Titulo.Caption = Trad[Text::Discs];
     hide(F1.LNoDrive);
     plain_title(1);
-    set_list_row(1, Trad[Text::Name], DatosCD[1], NameTail);
-    set_list_row(2, Trad[Text::DriveLetter], DatosCD[2], NameTail);
-    set_list_row(3, Trad[Text::Size], DatosCD[3], SizeTail);
-    set_list_row(4, Trad[Text::InternalName], DatosCD[4], NameTail);
-    set_list_row(5, Trad[Text::DriveType], DatosCD[5], NameTail);
-    set_list_row(6, Trad[Text::FileSystem], DatosCD[6], NameTail);
-    set_list_row(7, Trad[Text::SerialNumber], DatosCD[7], NameTail);
+    set_list_row(1, Trad[Text::Name], DatosCD[DiscSlot::Names], NameTail);
+    set_list_row(2, Trad[Text::DriveLetter], DatosCD[DiscSlot::Letters], NameTail);
+    set_list_row(3, Trad[Text::Size], DatosCD[DiscSlot::Capacities], SizeTail);
+    set_list_row(4, Trad[Text::InternalName], DatosCD[DiscSlot::InternalNames], NameTail);
+    set_list_row(5, Trad[Text::DriveType], DatosCD[DiscSlot::DriveTypes], NameTail);
+    set_list_row(6, Trad[Text::FileSystem], DatosCD[DiscSlot::FileSystems], NameTail);
+    set_list_row(7, Trad[Text::SerialNumber], DatosCD[DiscSlot::SerialNumbers], NameTail);
     clear_title_tooltips(3, 5);
     show_alert(MediaFound, count_text());
     place_line(F1.Line1, 8, 4);

@@ -23,19 +23,20 @@ void SecOther()
     hide(F1.LNoDrive, F1.Iaviso, F1.Laviso);
     plain_title(1);
     plain_title(8);
-    set_row(1, Trad[Text::MotherboardName], Datos[1]);
-    set_row(2, Trad[Text::Manufacturer], Datos[2]);
-    set_row(3, Trad[Text::InternalName], Datos[3]);
+    set_row(1, Trad[Text::MotherboardName], Datos[HardwareSlot::BoardFullName]);
+    set_row(2, Trad[Text::Manufacturer], Datos[HardwareSlot::BoardManufacturer]);
+    set_row(3, Trad[Text::InternalName], Datos[HardwareSlot::BoardProduct]);
     leave_out(4, F1.Line1);
-    set_row(5, Trad[Text::SoundCardName], Datos[4]);
-    set_row(6, Trad[Text::Manufacturer], Datos[5]);
+    set_row(5, Trad[Text::SoundCardName], Datos[HardwareSlot::SoundCardName]);
+    set_row(6, Trad[Text::Manufacturer], Datos[HardwareSlot::SoundCardManufacturer]);
     leave_out(7, F1.Line2);
-    set_row(8, Trad[Text::BatteryName], Datos[6]);
-    set_row(9, Trad[Text::SerialNumber], Datos[7]);
+    set_row(8, Trad[Text::BatteryName], Datos[HardwareSlot::BatteryName]);
+    set_row(9, Trad[Text::SerialNumber], Datos[HardwareSlot::BatterySerial]);
     set_title(10, Trad[Text::CurrentVoltage] + " ");
     set_title(11, Trad[Text::LoadPercentage] + " ");
     set_title(12, Trad[Text::RemainingTime] + " ");
-    set_battery_values(Datos[8], Datos[9], Datos[10]);
+    set_battery_values(Datos[HardwareSlot::BatteryVoltage], Datos[HardwareSlot::BatteryCharge],
+                       Datos[HardwareSlot::BatteryMinutes]);
     clear_title_tooltips(3, 5);
     F1.Timer1.Enabled = true;
 }

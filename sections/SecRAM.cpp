@@ -13,7 +13,7 @@ void read_use_of_memory()
     query("Select FreePhysicalMemory, LargeSystemCache from Win32_OperatingSystem");
     first(WmiResult, [](const Instance& item) {
         attempt([&] { Num2 = item["FreePhysicalMemory"].whole(); });
-        attempt([&] { Datos[5] = trimmed(item["LargeSystemCache"]); });
+        attempt([&] { Datos[MemorySlot::FavouredUse] = trimmed(item["LargeSystemCache"]); });
     });
 }
 
@@ -33,8 +33,8 @@ void SecRAM()
     F1.Titulo.Caption = Trad[Text::Ram];
     plain_title(1);
     plain_title(8);
-    set_row(1, Trad[Text::Type], memory_type_text(Datos[1]));
-    set_row(2, Trad[Text::ChipType], form_factor_text(Datos[2]));
+    set_row(1, Trad[Text::Type], memory_type_text(Datos[MemorySlot::Type]));
+    set_row(2, Trad[Text::ChipType], form_factor_text(Datos[MemorySlot::FormFactor]));
     set_row(3, Trad[Text::TotalMemory], total_memory());
     set_title(4, Trad[Text::MemoryInUse] + " ");
     set_title(5, Trad[Text::AvailableMemory] + " ");

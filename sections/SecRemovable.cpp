@@ -34,7 +34,7 @@ void show_no_drive()
 
 void add_volume_name(const Instance& item)
 {
-    add_entry(Datos[1], [&] {
+    add_entry(Datos[VolumeSlot::Names], [&] {
         const Value& name = item["VolumeName"];
         if (name.is_null())
             return std::string(" - ");
@@ -46,12 +46,12 @@ void add_volume_name(const Instance& item)
 void add_sizes(const Instance& item)
 {
     attempt([&] { Num1 = whole_kilobytes(item["Size"]); });
-    add_capacity(Datos[3], SizeByDigits(SizeUse::RemovableCapacity, Num1));
+    add_capacity(Datos[VolumeSlot::Capacities], SizeByDigits(SizeUse::RemovableCapacity, Num1));
     attempt([&] { Num2 = whole_kilobytes(item["Freespace"]); });
-    add_share(Datos[5], SizeByDigits(SizeUse::RemovableFree, Num2), Num2, Num1);
+    add_share(Datos[VolumeSlot::Free], SizeByDigits(SizeUse::RemovableFree, Num2), Num2, Num1);
     attempt([&] {
         const std::int32_t used = Value(std::int64_t{Num1} - Num2).whole();
-        add_share(Datos[4], SizeByDigits(SizeUse::RemovableUsed, used), used, Num1);
+        add_share(Datos[VolumeSlot::Used], SizeByDigits(SizeUse::RemovableUsed, used), used, Num1);
     });
 }
 
@@ -61,15 +61,15 @@ void read_volumes()
           "Win32_LogicalDisk where DriveType = 2");
     each(WmiResult, [](const Instance& item) {
         add_volume_name(item);
-        add_letter(Datos[2], item, "Caption");
+        add_letter(Datos[VolumeSlot::Letters], item, "Caption");
         add_sizes(item);
-        add_name(Datos[7], item, "FileSystem");
-        add_name(Datos[8], item, "VolumeSerialNumber");
+        add_name(Datos[VolumeSlot::FileSystems], item, "FileSystem");
+        add_name(Datos[VolumeSlot::SerialNumbers], item, "VolumeSerialNumber");
     });
     query("Select InterfaceType, Caption from Win32_DiskDrive");
     each(WmiResult, [](const Instance& item) {
         if (hangs_on(item, "USB", "1394"))
-            add_name(Datos[6], item, "Caption");
+            add_name(Datos[VolumeSlot::InternalNames], item, "Caption");
     });
 }
 
@@ -95,8 +95,7 @@ void show_drives()
 void SecRemovable()
 {
     enter_section(11);
-    clear(Datos, 1, 8);
-    Datos[3] = Datos[4] = Datos[5] = "(";
+    begin_lists();
     Num1 = Num2 = 0;
 
     count_media();

@@ -8,6 +8,8 @@
 namespace ostrelum::inline sections {
 namespace {
 
+enum class SummarySlot { GraphicsCard = 1, System, Motherboard };
+
 /// A number of bytes in whole MB.
 double megabytes(const Instance& item, const char* property)
 {
@@ -57,16 +59,16 @@ void show_memory()
     set_value(4, Num1 == 0 ? "" : SizeWhole(Num1));
 }
 
-/// Datos 1 keeps the card's name for a row further down.
+/// The card's name is kept for a row further down.
 void show_graphics_memory()
 {
     Num1 = 0;
-    Datos[1].clear();
+    Datos[SummarySlot::GraphicsCard].clear();
     set_title(5, Trad[Text::GraphicsCardMemory] + " ");
     query("Select AdapterRAM, Name from Win32_VideoController");
     first(WmiResult, [](const Instance& item) {
         attempt([&] { Num1 = Value(megabytes(item, "AdapterRAM")).whole(); });
-        attempt([&] { Datos[1] = trimmed(item["Name"]); });
+        attempt([&] { Datos[SummarySlot::GraphicsCard] = trimmed(item["Name"]); });
     });
     set_value(5, Num1 == 0 ? "" : SizeWhole(Num1));
 }
@@ -89,20 +91,21 @@ void show_free_space()
 
 void show_system()
 {
-    Datos[2].clear();
+    Datos[SummarySlot::System].clear();
     set_title(10, Trad[Text::OperatingSystem] + ": ");
     query("Select Caption from Win32_OperatingSystem");
-    first(WmiResult,
-          [](const Instance& item) { attempt([&] { Datos[2] = trimmed(item["Caption"]); }); });
-    set_value(10, Datos[2]);
+    first(WmiResult, [](const Instance& item) {
+        attempt([&] { Datos[SummarySlot::System] = trimmed(item["Caption"]); });
+    });
+    set_value(10, Datos[SummarySlot::System]);
 }
 
 void show_mainboard()
 {
-    Datos[1].clear();
+    Datos[SummarySlot::Motherboard].clear();
     set_title(12, Trad[Text::Motherboard] + " ");
-    attempt([] { Datos[1] = mainboard_name(); });
-    set_value(12, Datos[1]);
+    attempt([] { Datos[SummarySlot::Motherboard] = mainboard_name(); });
+    set_value(12, Datos[SummarySlot::Motherboard]);
 }
 
 } // namespace
@@ -126,7 +129,7 @@ void SecSummary()
     empty_rows(9, 9);
     show_system();
     set_title(11, Trad[Text::GraphicsCard] + ": ");
-    set_value(11, Datos[1]);
+    set_value(11, Datos[SummarySlot::GraphicsCard]);
     show_mainboard();
 }
 

@@ -28,12 +28,12 @@ void SecUser()
     hide(F1.LNoDrive, F1.Line1);
     plain_title(1);
     plain_title(8);
-    set_row(1, Trad[Text::Name], Datos[1]);
-    set_row(2, Trad[Text::Domain], CapitalText(Datos[2]));
+    set_row(1, Trad[Text::Name], Datos[AccountSlot::Name]);
+    set_row(2, Trad[Text::Domain], CapitalText(Datos[AccountSlot::Domain]));
     set_row(3, Trad[Text::AccountType], account_type());
     set_row(4, Trad[Text::PrivilegeLevel], privilege_level());
-    set_row(5, Trad[Text::PasswordChangeable], yes_or_no(Datos[5]));
-    set_row(6, Trad[Text::PasswordExpires], yes_or_no(Datos[6]));
+    set_row(5, Trad[Text::PasswordChangeable], yes_or_no(Datos[AccountSlot::PasswordChangeable]));
+    set_row(6, Trad[Text::PasswordExpires], yes_or_no(Datos[AccountSlot::PasswordExpires]));
     set_row(7, Trad[Text::BadPasswords], bad_passwords());
     set_row(8, Trad[Text::LogonTime], logon_time());
     set_row(9, Trad[Text::UsageTime], usage_time);
