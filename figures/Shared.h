@@ -61,7 +61,9 @@ inline std::int32_t SkinB = 0;
 inline std::int32_t Transparency = 0;
 /// The window may be transparent, and fades in and out.
 inline bool TransEnabled = false;
-/// 32 when the preferred fonts are installed, else 0.
+/// What FontsOk is when the preferred fonts are installed.
+inline constexpr std::uint8_t preferred_fonts = 32;
+/// preferred_fonts, else 0.
 inline std::uint8_t FontsOk = 0;
 
 /// What the last GetOstrelum told.

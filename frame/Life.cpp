@@ -38,7 +38,7 @@ void test_fonts()
             return platform.machine->GetAttr(folder + file) == archive_attribute;
         };
         if (plain("\\segoeui.ttf") && plain("\\segoeuil.ttf"))
-            FontsOk = 32;
+            FontsOk = preferred_fonts;
     });
 }
 
@@ -70,7 +70,7 @@ void Form_Load()
     attempt([] { WmiService = platform.get_object("WINMGMTS:\\\\.\\root\\cimv2"); });
     attempt([] { ShellObject = platform.create_object("WScript.Shell"); });
     test_fonts();
-    if (FontsOk != 32)
+    if (FontsOk != preferred_fonts)
         use_other_fonts();
     read_language();
     read_colour();

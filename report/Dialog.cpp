@@ -51,7 +51,7 @@ void write_captions()
 
 void Form_Load()
 {
-    if (FontsOk != 32)
+    if (FontsOk != preferred_fonts)
         use_other_fonts();
     F2.Icon = F1.Icon;
     write_captions();

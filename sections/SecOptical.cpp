@@ -79,7 +79,7 @@ void collect()
 
 int notice_top()
 {
-    if (FontsOk != 32)
+    if (FontsOk != preferred_fonts)
         return 220;
     if (Idioma == "English")
         return 210;

@@ -21,12 +21,12 @@ void count_media()
 
 void show_no_drive()
 {
+    const bool preferred = FontsOk == preferred_fonts;
     F1.Titulo.Caption = Trad[Text::RemovableMemory];
     if (Idioma == "Dutch")
-        show_notice(Text::NoRemovableDriveNotice, FontsOk == 32 ? 135 : 160,
-                    FontsOk == 32 ? 280 : 260);
+        show_notice(Text::NoRemovableDriveNotice, preferred ? 135 : 160, preferred ? 280 : 260);
     else
-        show_notice(Text::NoRemovableDriveNotice, FontsOk == 32 ? 170 : 190, 220);
+        show_notice(Text::NoRemovableDriveNotice, preferred ? 170 : 190, 220);
     show_alert(NothingFound,
                Trad[Text::NoRemovableDrive] + "\r\n" + Trad[Text::ConnectRemovableDrive]);
     F1.Line1.Visible = false;

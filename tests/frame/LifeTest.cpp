@@ -119,7 +119,7 @@ TEST_F(Life, PreferredFontsNeedBothFilesWithTheArchiveFlagAlone)
         if (c.light < 0)
             machine.attributes.erase("F\\segoeuil.ttf");
         start_program();
-        EXPECT_EQ(FontsOk, c.preferred ? 32 : 0) << c.text << " " << c.light;
+        EXPECT_EQ(FontsOk, c.preferred ? preferred_fonts : 0) << c.text << " " << c.light;
         EXPECT_EQ(F1.Titulo.Top, c.preferred ? 48 : 58);
         EXPECT_EQ(F1.LT(12).Font.Name, c.preferred ? "Segoe UI" : "Arial");
         EXPECT_TRUE(F1.LT(12).Font.Bold);

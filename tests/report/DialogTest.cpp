@@ -53,7 +53,7 @@ TEST(Handlers, HaveTheirControls)
 TEST_F(ReportDialog, WithoutTransparencyBuildsAtTheFirstTickAndCrossesItsPictureOver)
 {
     TransEnabled = false;
-    FontsOk = 32;
+    FontsOk = preferred_fonts;
     F1.Timer1.Enabled = true;
     open([&] {
         EXPECT_FALSE(F1.Timer1.Enabled);
