@@ -3,8 +3,8 @@
 #include "figures/Figures.h"
 #include "figures/Numbers.h"
 #include "figures/PassOver.h"
+#include "figures/QueryFallback.h"
 #include "figures/Slots.h"
-#include "figures/TwoForms.h"
 #include "sources/Characters.h"
 
 #include <array>
@@ -23,23 +23,31 @@ std::string version_and_build(const std::string& version)
 
 /// The last statement is the one that only MemoryFigures::TotalAndUsed asks for.
 constexpr std::array<Statement, 11> walk{
-    [](const Instance& item) { Datos[Slot::Name] = trimmed(item["Caption"]); },
-    [](const Instance& item) {
+    [](const Instance& item, QueryForm) { Datos[Slot::Name] = trimmed(item["Caption"]); },
+    [](const Instance& item, QueryForm) {
         Datos[Slot::Version] = version_and_build(trimmed(item["Version"]));
     },
-    [](const Instance& item) {
+    [](const Instance& item, QueryForm) {
         Datos[Slot::ServicePack] = trimmed(item["ServicePackMajorVersion"]);
     },
-    [](const Instance& item) {
-        Datos[Slot::Architecture] = TempStr == "1" ? trimmed(item["OSArchitecture"]) : "";
+    [](const Instance& item, QueryForm form) {
+        Datos[Slot::Architecture] = form == QueryForm::Full ? trimmed(item["OSArchitecture"]) : "";
     },
-    [](const Instance& item) { Datos[Slot::SerialNumber] = trimmed(item["SerialNumber"]); },
-    [](const Instance& item) { Datos[Slot::Language] = trimmed(item["OSLanguage"]); },
-    [](const Instance& item) { Datos[Slot::RegisteredUser] = trimmed(item["RegisteredUser"]); },
-    [](const Instance& item) { Datos[Slot::ProcessCount] = trimmed(item["NumberOfProcesses"]); },
-    [](const Instance& item) { Datos[Slot::InstallDate] = trimmed(item["InstallDate"]); },
-    [](const Instance& item) { Num1 = virtual_memory(item); },
-    [](const Instance& item) { Num2 = virtual_memory_in_use(item); },
+    [](const Instance& item, QueryForm) {
+        Datos[Slot::SerialNumber] = trimmed(item["SerialNumber"]);
+    },
+    [](const Instance& item, QueryForm) { Datos[Slot::Language] = trimmed(item["OSLanguage"]); },
+    [](const Instance& item, QueryForm) {
+        Datos[Slot::RegisteredUser] = trimmed(item["RegisteredUser"]);
+    },
+    [](const Instance& item, QueryForm) {
+        Datos[Slot::ProcessCount] = trimmed(item["NumberOfProcesses"]);
+    },
+    [](const Instance& item, QueryForm) {
+        Datos[Slot::InstallDate] = trimmed(item["InstallDate"]);
+    },
+    [](const Instance& item, QueryForm) { Num1 = virtual_memory(item); },
+    [](const Instance& item, QueryForm) { Num2 = virtual_memory_in_use(item); },
 };
 
 } // namespace
@@ -48,7 +56,7 @@ bool read_operating_system(MemoryFigures figures)
 {
     clear(Datos, Slot::Name, Slot::InstallDate);
     Num1 = Num2 = 0;
-    const bool all = read_long_or_short(
+    const bool all = read_with_fallback(
         "Select Caption, FreeVirtualMemory, InstallDate, NumberOfProcesses, OSLanguage, "
         "RegisteredUser, SerialNumber, ServicePackMajorVersion, TotalVirtualMemorySize, Version, "
         "OSArchitecture from Win32_OperatingSystem",

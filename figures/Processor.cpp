@@ -3,8 +3,8 @@
 #include "figures/Figures.h"
 #include "figures/Numbers.h"
 #include "figures/PassOver.h"
+#include "figures/QueryFallback.h"
 #include "figures/Slots.h"
-#include "figures/TwoForms.h"
 #include "sources/CodeTable.h"
 
 namespace ostrelum::inline figures {
@@ -13,16 +13,22 @@ namespace {
 using Slot = ProcessorSlot;
 
 constexpr std::array<Statement, 9> walk{
-    [](const Instance& item) { Datos[Slot::Name] = trimmed(item["Name"]); },
-    [](const Instance& item) { Num1 = item["CurrentClockSpeed"].whole(); },
-    [](const Instance& item) { Num2 = item["MaxClockSpeed"].whole(); },
-    [](const Instance& item) { Datos[Slot::Manufacturer] = trimmed(item["Manufacturer"]); },
-    [](const Instance& item) { Datos[Slot::Type] = trimmed(item["Caption"]); },
-    [](const Instance& item) { Datos[Slot::Socket] = trimmed(item["SocketDesignation"]); },
-    [](const Instance& item) { Datos[Slot::Architecture] = trimmed(item["Architecture"]); },
-    [](const Instance& item) { Datos[Slot::L2Cache] = trimmed(item["L2CacheSize"]); },
-    [](const Instance& item) {
-        Datos[Slot::L3Cache] = TempStr == "1" ? trimmed(item["L3CacheSize"]) : "";
+    [](const Instance& item, QueryForm) { Datos[Slot::Name] = trimmed(item["Name"]); },
+    [](const Instance& item, QueryForm) { Num1 = item["CurrentClockSpeed"].whole(); },
+    [](const Instance& item, QueryForm) { Num2 = item["MaxClockSpeed"].whole(); },
+    [](const Instance& item, QueryForm) {
+        Datos[Slot::Manufacturer] = trimmed(item["Manufacturer"]);
+    },
+    [](const Instance& item, QueryForm) { Datos[Slot::Type] = trimmed(item["Caption"]); },
+    [](const Instance& item, QueryForm) {
+        Datos[Slot::Socket] = trimmed(item["SocketDesignation"]);
+    },
+    [](const Instance& item, QueryForm) {
+        Datos[Slot::Architecture] = trimmed(item["Architecture"]);
+    },
+    [](const Instance& item, QueryForm) { Datos[Slot::L2Cache] = trimmed(item["L2CacheSize"]); },
+    [](const Instance& item, QueryForm form) {
+        Datos[Slot::L3Cache] = form == QueryForm::Full ? trimmed(item["L3CacheSize"]) : "";
     },
 };
 
@@ -42,7 +48,7 @@ void read_processor()
 {
     clear(Datos, Slot::Name, Slot::L3Cache);
     Num1 = Num2 = 0;
-    read_long_or_short("Select Architecture, Caption, CurrentClockSpeed, L2CacheSize, L3CacheSize, "
+    read_with_fallback("Select Architecture, Caption, CurrentClockSpeed, L2CacheSize, L3CacheSize, "
                        "Manufacturer, MaxClockSpeed, Name, SocketDesignation from Win32_Processor",
                        "Select Architecture, Caption, CurrentClockSpeed, L2CacheSize, "
                        "Manufacturer, MaxClockSpeed, Name, SocketDesignation from Win32_Processor",
