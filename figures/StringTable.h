@@ -25,6 +25,4 @@ private:
     std::array<std::string, last_key + 1> texts_;
 };
 
-inline StringTable Trad;
-
 } // namespace ostrelum::inline figures

@@ -191,6 +191,7 @@ void place_controls()
 
 void load_main_form()
 {
+    F1 = MainForm();
     F1.Name = "F1";
     F1.Caption = "Dervalin Ostrelum";
     F1.ClientWidth = 777;
@@ -198,15 +199,8 @@ void load_main_form()
     F1.BackColor = White;
     F1.Icon = {art_picture("Icon32"), art_picture("Icon16")};
     F1.MinButton = true;
-    F1.MousePointer = MouseCursor::Default;
     place_controls();
     F1.handlers = main_form_handlers();
-    F1.Seccion = F1.SeccionPrev = 0;
-    F1.PanelOpen = F1.PanelReady = false;
-    F1.CopyRow = F1.MediaCount = F1.EmptyDrives = 0;
-    F1.LangAtOpen.clear();
-    F1.HueAtOpen = F1.ShineAtOpen = F1.TransAtOpen = 0;
-    F1.ChkAtOpen = false;
 }
 
 } // namespace ostrelum::inline frame

@@ -1,5 +1,5 @@
 #include "figures/Program.h"
-#include "figures/StringTable.h"
+#include "figures/Shared.h"
 #include "report/Documents.h"
 
 namespace ostrelum::inline report {

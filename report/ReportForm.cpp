@@ -43,6 +43,7 @@ void place_controls()
 
 void load_report_form()
 {
+    F2 = ReportForm();
     F2.Name = "F2";
     F2.Caption = "Dervalin Ostrelum";
     F2.ClientWidth = 417;
@@ -50,11 +51,6 @@ void load_report_form()
     F2.BackColor = White;
     place_controls();
     F2.handlers = report_form_handlers();
-    F2.Tb.clear();
-    for (std::string* document : report_documents())
-        document->clear();
-    F2.BlendLevel = 0;
-    F2.MayClose = false;
 }
 
 } // namespace ostrelum::inline report

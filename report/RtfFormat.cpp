@@ -1,5 +1,5 @@
 #include "figures/Program.h"
-#include "figures/StringTable.h"
+#include "figures/Shared.h"
 #include "report/Documents.h"
 
 /// Rich text. Colour 1 is the skin colour, colour 2 a grey, colour 3 the blue of the link.

@@ -70,6 +70,10 @@ public:
     bool raise(const ControlEntry& entry, Event event) const;
     /// Whether somebody listens to an event.
     bool listens(std::string_view name, EventKind kind) const;
+
+protected:
+    /// A form is put back to its first state by assigning a new one, which lists no controls yet.
+    Form& operator=(Form&&) = default;
 };
 
 /// The control that an entry points to, as any type.

@@ -1,4 +1,4 @@
-#include "figures/StringTable.h"
+#include "figures/Shared.h"
 #include "frame/Language.h"
 
 #include <gtest/gtest.h>
