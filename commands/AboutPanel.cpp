@@ -6,6 +6,7 @@
 #include "frame/Language.h"
 #include "frame/MainForm.h"
 #include "frame/Navigation.h"
+#include "frame/Page.h"
 
 /// What the program says about itself, and the two links into the user's browser.
 namespace ostrelum::inline commands {
@@ -59,7 +60,7 @@ void open_address(std::string_view address)
 void Informacion_Click()
 {
     open_panel(AboutPanel);
-    F1.Titulo.Caption = Trad[Text::About];
+    show_title();
     set_info(F1.LTInfo1, F1.LInfo1, Trad[Text::Version], version_text());
     set_info(F1.LTInfo2, F1.LInfo2, Trad[Text::Programmer], std::string(Author));
     set_info(F1.LTInfo3, F1.LInfo3, Trad[Text::Contact], std::string(ContactAddress));

@@ -22,9 +22,6 @@ std::string with_lf(std::string text);
 /// the options say so.
 std::unique_ptr<ManagementService> service_of(const Options& options, const Sysroot& files);
 
-/// Number of the last section.
-inline constexpr int SectionCount = 13;
-
 /// The program on a terminal: the collectors run as in the window, on the memory toolkit, and
 /// answer from one machine. One can be at a time.
 class ConsoleMachine {

@@ -1,6 +1,7 @@
 #include "console/Record.h"
 
 #include "console/Machine.h"
+#include "frame/MainForm.h"
 #include "platform/linux/recording/MaskedMachine.h"
 #include "platform/linux/recording/Recorder.h"
 #include "sources/Schema.h"
@@ -18,7 +19,7 @@ namespace {
 std::vector<std::string> ask_everything(const Options& options, const Sysroot& files)
 {
     ConsoleMachine machine(options, files);
-    for (int section = 1; section <= SectionCount; ++section)
+    for (int section = 1; section <= section_count; ++section)
         machine.page(section);
     machine.report("text");
     const auto service = service_of(options, files);

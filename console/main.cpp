@@ -2,6 +2,7 @@
 #include "console/Machine.h"
 #include "console/Options.h"
 #include "console/Record.h"
+#include "frame/MainForm.h"
 #include "report/Report.h"
 #include "sources/Schema.h"
 
@@ -35,7 +36,7 @@ int section_of(const std::string& word)
     int number = 0;
     const auto end = std::from_chars(word.data(), word.data() + word.size(), number);
     const bool whole = end.ec == std::errc() && end.ptr == word.data() + word.size();
-    return whole && number >= 1 && number <= SectionCount ? number : 0;
+    return whole && number >= 1 && number <= section_count ? number : 0;
 }
 
 int run_page(const Options& options, const Arguments& arguments)
@@ -45,8 +46,8 @@ int run_page(const Options& options, const Arguments& arguments)
     if (!all && section == 0)
         return WrongUsage;
     ConsoleMachine machine(options);
-    for (int n = all ? 1 : section; n <= (all ? SectionCount : section); ++n)
-        std::cout << machine.page(n) << (all && n < SectionCount ? "\n" : "");
+    for (int n = all ? 1 : section; n <= (all ? section_count : section); ++n)
+        std::cout << machine.page(n) << (all && n < section_count ? "\n" : "");
     return Done;
 }
 

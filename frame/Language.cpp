@@ -4,6 +4,8 @@
 #include "frame/F1Events.h"
 #include "frame/LanguageTable.h"
 #include "frame/MainForm.h"
+#include "frame/Page.h"
+#include "frame/PageTable.h"
 
 #include <array>
 
@@ -52,7 +54,7 @@ void LangList_Click()
         Idioma = languages[chosen].name;
         languages[chosen].fill();
     }
-    F1.Titulo.Caption = Trad[Text::Customize];
+    show_title();
     TraduPrincipal();
     F1.PicPersonalizar.Cls();
 }
@@ -69,11 +71,6 @@ void set_texts(std::span<const TextRow> table)
         Trad[static_cast<Text>(key)].clear();
     for (const TextRow& row : table)
         Trad[row.key] = row.text;
-}
-
-Text section_name(int section)
-{
-    return static_cast<Text>(static_cast<int>(Text::Summary) + section - 1);
 }
 
 bool fill_string_table(const std::string& language)
@@ -106,7 +103,7 @@ void TraduPrincipal()
         translate_customise_panel();
     translate_options_menu();
     for (int n = 1; n <= F1.LMenu.count; ++n) {
-        F1.LMenu(n).Caption = Trad[section_name(n)];
+        F1.LMenu(n).Caption = Trad[find_page(static_cast<std::uint8_t>(n))->title];
         if (n == F1.SeccionPrev)
             F1.LMenu2.Caption = F1.LMenu(n).Caption;
     }

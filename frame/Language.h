@@ -1,7 +1,5 @@
 #pragma once
 
-#include "figures/Text.h"
-
 #include <string>
 
 namespace ostrelum::inline frame {
@@ -11,9 +9,6 @@ namespace ostrelum::inline frame {
 void LangEnglish();
 void LangSpanish();
 void LangDutch();
-
-/// The key of a section's name, 1 to 13.
-Text section_name(int section);
 
 /// Fills Trad by the routine of a language: "English", "Spanish" or "Dutch". False for any other
 /// name, which changes nothing.

@@ -7,7 +7,9 @@
 
 namespace ostrelum::inline frame {
 
-/// Values of MainForm::Seccion besides the sections 1 to 13.
+/// The sections count from 1.
+inline constexpr int section_count = 13;
+/// Values of MainForm::Seccion besides the sections.
 inline constexpr std::uint8_t CustomisePanel = 90;
 inline constexpr std::uint8_t AboutPanel = 91;
 
@@ -18,7 +20,7 @@ public:
     ControlArray<PictureBox, 4> Corner;
     PictureBox MenuLogo;
     Label LOpc;
-    ControlArray<Label, 13> LMenu;
+    ControlArray<Label, section_count> LMenu;
     PictureBox BM;
     Label LMenu2;
     PictureBox PesBMenu;
@@ -85,7 +87,7 @@ public:
     Timer TUnload;
     Timer TAlphaB;
 
-    /// Page on show: 1 to 13, CustomisePanel or AboutPanel; 0 until the first section has run.
+    /// Page on show: a section, CustomisePanel or AboutPanel; 0 until the first section has run.
     std::uint8_t Seccion = 0;
     /// Section to go back to when a panel closes.
     std::uint8_t SeccionPrev = 0;

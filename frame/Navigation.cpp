@@ -2,13 +2,10 @@
 
 #include "figures/Platform.h"
 #include "frame/F1Events.h"
-#include "frame/Language.h"
 #include "frame/MainForm.h"
 #include "frame/Page.h"
-#include "sections/Sections.h"
+#include "frame/PageTable.h"
 #include "skin/Skin.h"
-
-#include <array>
 
 namespace ostrelum::inline frame {
 namespace {
@@ -16,19 +13,14 @@ namespace {
 /// The column's rows: where the first begins, and how high each is, in pixels.
 constexpr int FirstRowTop = 49;
 constexpr int RowHeight = 35;
-constexpr int SectionCount = 13;
 /// The options tab at the top of the column.
 constexpr int TabWidth = 135;
 constexpr int TabHeight = 31;
 
-constexpr std::array<void (*)(), SectionCount> collectors{
-    SecSummary, SecUser,    SecComputer, SecOS,        SecCPU,     SecRAM,  SecDisks,
-    SecBIOS,    SecDisplay, SecInput,    SecRemovable, SecOptical, SecOther};
-
 /// The row of the column at a height; 0 above and below the rows.
 int row_at(int y)
 {
-    if (y < FirstRowTop || y >= FirstRowTop + RowHeight * SectionCount)
+    if (y < FirstRowTop || y >= FirstRowTop + RowHeight * section_count)
         return 0;
     return (y - FirstRowTop) / RowHeight + 1;
 }
@@ -40,10 +32,11 @@ bool in_tab(int x, int y)
 
 void collect(int index)
 {
+    const PageEntry& page = *find_page(static_cast<std::uint8_t>(index));
     F1.BM.Top = FirstRowTop + RowHeight * (index - 1);
-    F1.LMenu2.Caption = Trad[section_name(index)];
+    F1.LMenu2.Caption = Trad[page.title];
     F1.BM.Visible = true;
-    collectors[static_cast<std::size_t>(index - 1)]();
+    page.collect();
 }
 
 void S_MouseDown(int index, int button, int shift, int x, int y)
@@ -96,7 +89,7 @@ void set_navigation(bool live, Colour options, Colour names, MouseCursor cursor)
     F1.LMenu2.ForeColor = names;
     F1.LOpc.MousePointer = F1.MenuLogo.MousePointer = cursor;
     F1.BM.MousePointer = F1.LMenu2.MousePointer = cursor;
-    for (int n = 1; n <= SectionCount; ++n) {
+    for (int n = 1; n <= section_count; ++n) {
         F1.LMenu(n).ForeColor = names;
         F1.LMenu(n).MousePointer = cursor;
         F1.LMenu(n).TabStop = live;
@@ -119,7 +112,7 @@ void LMenu_MouseDown(int index, int button, int, int, int)
         return;
     platform.toolkit->set_screen_cursor(MouseCursor::Hourglass);
     F1.BM.Visible = false;
-    if (index >= 1 && index <= SectionCount)
+    if (index >= 1 && index <= section_count)
         collect(index);
     platform.toolkit->set_screen_cursor(MouseCursor::Default);
     F1.Labelmi.Caption = Trad[Text::Done];

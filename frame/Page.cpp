@@ -1,6 +1,7 @@
 #include "frame/Page.h"
 
 #include "figures/Platform.h"
+#include "frame/PageTable.h"
 
 namespace ostrelum::inline frame {
 namespace {
@@ -36,6 +37,11 @@ void announce_section(std::uint8_t section)
     write(F1.Labelmi, Trad[Text::GettingInformation]);
     F1.Seccion = section;
     F1.Line2.Visible = false;
+}
+
+void show_title()
+{
+    F1.Titulo.Caption = Trad[page_on_show()->title];
 }
 
 void place_line(Line& line, int row, int below)

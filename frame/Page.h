@@ -18,6 +18,9 @@ void enter_section(std::uint8_t section);
 /// The same for a page that is filled anew, also when it is the one on show.
 void announce_section(std::uint8_t section);
 
+/// Writes the title of the page that is on show.
+void show_title();
+
 /// Shows a line across the page, `below` pixels under the top of a row's title; its ends stay where
 /// they are from left to right.
 void place_line(Line& line, int row, int below);

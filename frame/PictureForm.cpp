@@ -49,11 +49,11 @@ PictureForm::PictureForm()
     PICTURE(Made, SmallSide);
 }
 
-PictureForm* FirstUse::operator->()
+PictureForm& FirstUse::get()
 {
     if (!form_)
         form_ = std::make_unique<PictureForm>();
-    return form_.get();
+    return *form_;
 }
 
 } // namespace ostrelum::inline frame

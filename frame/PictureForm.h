@@ -27,7 +27,8 @@ public:
 /// F6 comes into being at the first use of one of its pictures.
 class FirstUse {
 public:
-    PictureForm* operator->();
+    PictureForm& get();
+    PictureForm* operator->() { return &get(); }
     bool created() const { return form_ != nullptr; }
     void reset() { form_.reset(); }
 

@@ -1,5 +1,6 @@
 #include "figures/OperatingSystem.h"
 #include "frame/Page.h"
+#include "frame/PageTable.h"
 #include "sections/BatteryRows.h"
 #include "sections/MemoryRows.h"
 #include "sections/Sections.h"
@@ -16,6 +17,21 @@ void stop()
 {
     F1.Timer1.Enabled = false;
 }
+
+void Timer1_Timer()
+{
+    const PageEntry* page = page_on_show();
+    if (page && page->tick)
+        page->tick();
+    else
+        stop();
+}
+
+constexpr Handler table[] = {OSTRELUM_ON(Timer1_Timer)};
+
+} // namespace
+
+const HandlerTable live_refresh_handlers{table};
 
 void refresh_user()
 {
@@ -72,22 +88,5 @@ void refresh_battery()
     set_battery_values(Datos[BatterySlot::Voltage], Datos[BatterySlot::Charge],
                        Datos[BatterySlot::Minutes]);
 }
-
-void Timer1_Timer()
-{
-    switch (F1.Seccion) {
-    case 2: return refresh_user();
-    case 4: return refresh_system();
-    case 6: return refresh_memory();
-    case 13: return refresh_battery();
-    default: return stop();
-    }
-}
-
-constexpr Handler table[] = {OSTRELUM_ON(Timer1_Timer)};
-
-} // namespace
-
-const HandlerTable live_refresh_handlers{table};
 
 } // namespace ostrelum::inline sections

@@ -9,7 +9,7 @@ void SecBIOS()
     enter_section(8);
     read_firmware();
 
-    F1.Titulo.Caption = Trad[Text::Bios];
+    show_title();
     hide(F1.LNoDrive, F1.Line1, F1.Iaviso, F1.Laviso);
     plain_title(1);
     set_row(1, Trad[Text::Name], Datos[FirmwareSlot::Name]);

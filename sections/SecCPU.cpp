@@ -21,7 +21,7 @@ void SecCPU()
     enter_section(5);
     read_processor();
 
-    F1.Titulo.Caption = Trad[Text::Processor];
+    show_title();
     hide(F1.LNoDrive, F1.Iaviso, F1.Laviso, F1.Line1);
     plain_title(1);
     plain_title(8);

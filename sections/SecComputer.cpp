@@ -10,7 +10,7 @@ void SecComputer()
     enter_section(3);
     read_computer();
 
-    F1.Titulo.Caption = Trad[Text::Computer];
+    show_title();
     hide(F1.LNoDrive, F1.Line1, F1.Iaviso, F1.Laviso);
     plain_title(1);
     set_row(1, Trad[Text::Manufacturer], Datos[ComputerSlot::Manufacturer]);

@@ -12,7 +12,7 @@ void SecDisks()
     hide(F1.LNoDrive, F1.Iaviso, F1.Laviso);
     read_hard_drives();
 
-    F1.Titulo.Caption = Trad[Text::HardDrives];
+    show_title();
     hide(F1.Line1, F1.Iaviso, F1.Laviso);
     set_volume_rows();
     set_row(9, Trad[Text::TotalPartitions],

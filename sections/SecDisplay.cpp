@@ -19,7 +19,7 @@ void SecDisplay()
     enter_section(9);
     read_display();
 
-    F1.Titulo.Caption = Trad[Text::Display];
+    show_title();
     hide(F1.LNoDrive, F1.Line1, F1.Iaviso, F1.Laviso);
     plain_title(1);
     plain_title(8);

@@ -9,7 +9,7 @@ void SecInput()
     enter_section(10);
     read_input();
 
-    F1.Titulo.Caption = Trad[Text::KeyboardAndMouse];
+    show_title();
     hide(F1.LNoDrive, F1.Line1, F1.Line2, F1.Iaviso, F1.Laviso);
     plain_title(1);
     plain_title(8);

@@ -30,7 +30,7 @@ void SecOS()
     hide(F1.LNoDrive, F1.Iaviso, F1.Laviso);
     const bool all_told = read_operating_system(MemoryFigures::TotalAndUsed);
 
-    F1.Titulo.Caption = Trad[Text::OperatingSystem];
+    show_title();
     plain_title(1);
     plain_title(8);
     set_row(1, Trad[Text::Name], Datos[SystemSlot::Name]);

@@ -88,7 +88,7 @@ int notice_top()
 
 void show_no_disc()
 {
-    F1.Titulo.Caption = Trad[Text::Discs];
+    show_title();
     show_notice(Text::NoDiscNotice, notice_top(), 180);
     show_alert(NothingFound, Trad[Text::NoDisc] + "\r\n" + Trad[Text::InsertDisc]);
     F1.Line1.Visible = false;
@@ -110,7 +110,7 @@ std::string count_text()
 
 void show_discs()
 {
-    F1.Titulo.Caption = Trad[Text::Discs];
+    show_title();
     hide(F1.LNoDrive);
     plain_title(1);
     set_list_row(1, Trad[Text::Name], DatosCD[DiscSlot::Names], NameTail);

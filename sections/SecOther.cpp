@@ -19,7 +19,7 @@ void SecOther()
     enter_section(13);
     read_other_hardware();
 
-    F1.Titulo.Caption = Trad[Text::OtherHardware];
+    show_title();
     hide(F1.LNoDrive, F1.Iaviso, F1.Laviso);
     plain_title(1);
     plain_title(8);

@@ -30,7 +30,7 @@ void SecRAM()
     ram_total = Num1;
     read_use_of_memory();
 
-    F1.Titulo.Caption = Trad[Text::Ram];
+    show_title();
     plain_title(1);
     plain_title(8);
     set_row(1, Trad[Text::Type], memory_type_text(Datos[MemorySlot::Type]));

@@ -22,7 +22,7 @@ void count_media()
 void show_no_drive()
 {
     const bool preferred = FontsOk == preferred_fonts;
-    F1.Titulo.Caption = Trad[Text::RemovableMemory];
+    show_title();
     if (Idioma == "Dutch")
         show_notice(Text::NoRemovableDriveNotice, preferred ? 135 : 160, preferred ? 280 : 260);
     else
@@ -82,7 +82,7 @@ std::string count_text()
 
 void show_drives()
 {
-    F1.Titulo.Caption = Trad[Text::RemovableMemory];
+    show_title();
     hide(F1.LNoDrive);
     set_volume_rows();
     clear_title_tooltips(3, 5);

@@ -112,10 +112,10 @@ void show_mainboard()
 
 void SecSummary()
 {
-    F1.Titulo.Caption = Trad[Text::Summary];
     if (F1.Seccion != 1)
         hide(F1.LNoDrive, F1.Iaviso, F1.Laviso, F1.Line1);
     enter_section(1);
+    show_title();
 
     set_heading(1, Trad[Text::MainFeatures]);
     empty_rows(2, 2);

@@ -24,7 +24,7 @@ void SecUser()
     enter_section(2);
     read_account();
 
-    F1.Titulo.Caption = Trad[Text::UserAccount];
+    show_title();
     hide(F1.LNoDrive, F1.Line1);
     plain_title(1);
     plain_title(8);

@@ -20,7 +20,13 @@ void SecRemovable();
 void SecOptical();
 void SecOther();
 
-/// The tick that keeps the figures of the open page current.
+/// The ticks of the pages whose figures change while they are open.
+void refresh_user();
+void refresh_system();
+void refresh_memory();
+void refresh_battery();
+
+/// The timer that runs the tick of the page on show.
 extern const HandlerTable live_refresh_handlers;
 
 } // namespace ostrelum::inline sections
