@@ -2,7 +2,7 @@
 #include "report/Body.h"
 #include "report/Documents.h"
 #include "report/Report.h"
-#include "tests/report/ReportMachine.h"
+#include "tests/report/ReportProgram.h"
 
 #include <benchmark/benchmark.h>
 
@@ -38,11 +38,11 @@ BENCHMARK(AssembleDocuments)->Unit(benchmark::kMicrosecond);
 /// A whole report of a scripted machine: what the program itself adds to seventeen queries.
 void MakeReport(benchmark::State& state)
 {
-    ReportMachine machine;
+    ReportProgram program;
     load_program();
     for (auto _ : state) {
         make_report();
-        machine.script.asked.clear();
+        program.script.asked.clear();
     }
 }
 BENCHMARK(MakeReport)->Unit(benchmark::kMicrosecond);

@@ -55,8 +55,8 @@ std::unique_ptr<ManagementService> service_of(const Options& options, const Sysr
     auto service = make_linux_management_service(files, SessionFactsSource());
     if (!options.mask)
         return service;
-    LinuxMachine machine(files, environment_of(options, files));
-    return std::make_unique<MaskedService>(std::move(service), machine.Environ(UserName));
+    LinuxSystemApi system_api(files, environment_of(options, files));
+    return std::make_unique<MaskedService>(std::move(service), system_api.Environ(UserName));
 }
 
 ConsoleMachine::ConsoleMachine(const Options& options)
@@ -76,7 +76,7 @@ ConsoleMachine::ConsoleMachine(const Options& options, const Sysroot& files)
                 .browser = &browser_,
                 .clock = &system_.clock,
                 .regional = &system_.regional,
-                .machine = &system_.machine,
+                .system_api = &system_.system_api,
                 .get_object = [=](const std::string&) { return service_of(options, files); },
                 .create_object =
                     [this, files](const std::string&) {
@@ -94,7 +94,7 @@ ConsoleMachine::~ConsoleMachine()
 
 std::string ConsoleMachine::user()
 {
-    return system_.machine.Environ(UserName);
+    return system_.system_api.Environ(UserName);
 }
 
 std::string ConsoleMachine::page(int section)

@@ -2,7 +2,7 @@
 
 #include "console/Machine.h"
 #include "frame/MainForm.h"
-#include "platform/linux/recording/MaskedMachine.h"
+#include "platform/linux/recording/MaskedRecording.h"
 #include "platform/linux/recording/Recorder.h"
 #include "sources/Schema.h"
 
@@ -45,8 +45,8 @@ void record_machine(const Options& options, const std::string& folder)
     Options open = options;
     open.mask = false;
     const auto accounts = ask_everything(open, Sysroot(files, recorder));
-    const RecordedMachine& machine = recorder->machine();
-    write_machine(options.mask ? masked_machine(machine, accounts) : machine, folder);
+    const Recording& recording = recorder->recording();
+    write_recording(options.mask ? masked_recording(recording, accounts) : recording, folder);
 }
 
 } // namespace ostrelum::console

@@ -71,7 +71,7 @@ bool read_logons(const Instance& item)
 void read_account()
 {
     clear(Datos, Slot::Name, Slot::LogonCount);
-    attempt([] { Datos[Slot::Name] = trimmed(platform.machine->Environ("UserName")); });
+    attempt([] { Datos[Slot::Name] = trimmed(platform.system_api->Environ("UserName")); });
     query("Select Domain, AccountType, PasswordChangeable, PasswordExpires from "
           "Win32_UserAccount");
     first_match(WmiResult, read_rights);

@@ -64,7 +64,7 @@ void read_input()
     });
     attempt([] {
         Datos[Slot::MouseButtons] =
-            std::to_string(platform.machine->GetSystemMetrics(mouse_button_count));
+            std::to_string(platform.system_api->GetSystemMetrics(mouse_button_count));
     });
 }
 

@@ -4,11 +4,11 @@
 #include "platform/system/Clipboard.h"
 #include "platform/system/Clock.h"
 #include "platform/system/FileWriter.h"
-#include "platform/system/Machine.h"
 #include "platform/system/Regional.h"
 #include "platform/system/Registry.h"
 #include "platform/system/SaveDialog.h"
 #include "platform/system/Shell.h"
+#include "platform/system/SystemApi.h"
 #include "platform/toolkit/Toolkit.h"
 #include "sources/ManagementService.h"
 
@@ -29,7 +29,7 @@ struct Platform {
     Browser* browser = nullptr;
     Clock* clock = nullptr;
     Regional* regional = nullptr;
-    Machine* machine = nullptr;
+    SystemApi* system_api = nullptr;
 
     /// The object behind a moniker. Throws Failure if it cannot be bound.
     std::function<std::unique_ptr<ManagementService>(const std::string& moniker)> get_object;

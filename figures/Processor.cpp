@@ -54,7 +54,7 @@ void read_processor()
                        "Manufacturer, MaxClockSpeed, Name, SocketDesignation from Win32_Processor",
                        walk);
     attempt([] {
-        SysInfo = platform.machine->GetOstrelum();
+        SysInfo = platform.system_api->GetOstrelum();
         Datos[Slot::Count] = WholeText(SysInfo.dwNumberOfProcessors);
     });
 }

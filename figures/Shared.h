@@ -3,8 +3,8 @@
 #include "figures/Bound.h"
 #include "figures/Slots.h"
 #include "figures/StringTable.h"
-#include "platform/system/Machine.h"
 #include "platform/system/Shell.h"
+#include "platform/system/SystemApi.h"
 #include "sources/ManagementService.h"
 
 #include <cstdint>

@@ -24,8 +24,8 @@ void set_level()
 
 void Form_Initialize()
 {
-    if (platform.machine->PrevInstance())
-        platform.machine->End();
+    if (platform.system_api->PrevInstance())
+        platform.system_api->End();
     platform.toolkit->InitCommonControls();
 }
 
@@ -35,7 +35,7 @@ void test_fonts()
     attempt([] {
         const std::string folder = ShellObject->SpecialFolders("Fonts");
         const auto plain = [&](const char* file) {
-            return platform.machine->GetAttr(folder + file) == archive_attribute;
+            return platform.system_api->GetAttr(folder + file) == archive_attribute;
         };
         if (plain("\\segoeui.ttf") && plain("\\segoeuil.ttf"))
             FontsOk = preferred_fonts;
@@ -103,7 +103,7 @@ void Quit_Click()
 void Form_Unload(bool& cancel)
 {
     if (!TransEnabled)
-        platform.machine->End();
+        platform.system_api->End();
     cancel = true;
     Cnt = Transparency;
     F1.TUnload.Enabled = true;
@@ -115,7 +115,7 @@ void TUnload_Timer()
     set_level();
     if (Cnt >= 100) {
         F1.TUnload.Enabled = false;
-        platform.machine->End();
+        platform.system_api->End();
     }
 }
 

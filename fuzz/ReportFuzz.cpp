@@ -1,6 +1,6 @@
 #include "console/Machine.h"
 #include "fuzz/Cleanness.h"
-#include "fuzz/NamedMachine.h"
+#include "fuzz/RenamedSysroot.h"
 #include "platform/linux/LinuxManagementService.h"
 #include "report/Report.h"
 #include "sources/Schema.h"
@@ -57,11 +57,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string folder = OSTRELUM_TESTS_DIR "/machines/";
-    static const std::array<NamedMachine, 3> machines{NamedMachine(folder + "removable"),
-                                                      NamedMachine(folder + "desktop"),
-                                                      NamedMachine(folder + "notebook")};
-    const NamedMachine& machine = machines[size > 0 ? data[0] % machines.size() : 0];
-    machine.name_all(std::string(data, data + size));
+    static const std::array<RenamedSysroot, 3> machines{RenamedSysroot(folder + "removable"),
+                                                        RenamedSysroot(folder + "desktop"),
+                                                        RenamedSysroot(folder + "notebook")};
+    const RenamedSysroot& machine = machines[size > 0 ? data[0] % machines.size() : 0];
+    machine.rename_all(std::string(data, data + size));
     check_service(machine.root());
     check_program(machine.root());
     return 0;

@@ -45,7 +45,7 @@ void show_speed()
     first(WmiResult,
           [](const Instance& item) { attempt([&] { Num1 = item["MaxClockSpeed"].whole(); }); });
     attempt([] {
-        SysInfo = platform.machine->GetOstrelum();
+        SysInfo = platform.system_api->GetOstrelum();
         Num2 = Value(SysInfo.dwNumberOfProcessors).whole();
     });
     set_value(3, speed_text);

@@ -27,7 +27,7 @@ public:
                     .browser = &browser,
                     .clock = &clock,
                     .regional = &regional,
-                    .machine = &machine,
+                    .system_api = &system_api,
                     .get_object = [this](const std::string& moniker) { return bind(moniker); },
                     .create_object = [this](const std::string& name) { return create(name); }};
     }
@@ -66,7 +66,7 @@ public:
     MemoryBrowser browser;
     MemoryClock clock;
     MemoryRegional regional;
-    MemoryMachine machine;
+    MemorySystemApi system_api;
     MemoryStore store;
     ServiceScript script;
     bool service_gone = false;

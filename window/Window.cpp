@@ -14,39 +14,39 @@ using namespace linux_platform;
 using namespace qt_platform;
 namespace {
 
-/// The machine of a process that has a window: what the window leaves to the desktop is handed over
+/// The system of a process that has a window: what the window leaves to the desktop is handed over
 /// before the end.
-class WindowMachine : public LinuxMachine {
+class WindowSystemApi : public LinuxSystemApi {
 public:
-    using LinuxMachine::LinuxMachine;
+    using LinuxSystemApi::LinuxSystemApi;
 
     void End() override
     {
         prepare_end();
-        LinuxMachine::End();
+        LinuxSystemApi::End();
     }
 };
 
-Environment environment_of(const ShownMachine& shown)
+Environment environment_of(const MachineSource& source)
 {
     Environment environment = process_environment();
-    if (shown.user)
-        environment["UserName"] = *shown.user;
+    if (source.user)
+        environment["UserName"] = *source.user;
     return environment;
 }
 
-/// The screens that we are on are none of a recorded machine's.
-SessionFactsSource session_of(const ShownMachine& shown)
+/// This desktop's screens do not belong to a recorded machine.
+SessionFactsSource session_of(const MachineSource& source)
 {
-    return shown.root == "/" ? qt_session_facts() : SessionFactsSource();
+    return source.root == "/" ? qt_session_facts() : SessionFactsSource();
 }
 
 } // namespace
 
-int run_window(int& argc, char** argv, const ShownMachine& shown)
+int run_window(int& argc, char** argv, const MachineSource& source)
 {
-    LinuxSystem system(shown.root, environment_of(shown));
-    WindowMachine machine(shown.root, system.environment);
+    LinuxSystem system(source.root, environment_of(source));
+    WindowSystemApi system_api(source.root, system.environment);
     const QtLook look{
         .hand = art_picture("Hand"), .hot_spot = {10, 3}, .desktop_entry = "dervalin-ostrelum"};
     const auto toolkit = make_qt_toolkit(argc, argv, look);
@@ -62,14 +62,14 @@ int run_window(int& argc, char** argv, const ShownMachine& shown)
                 .browser = browser.get(),
                 .clock = &system.clock,
                 .regional = &system.regional,
-                .machine = &machine,
+                .system_api = &system_api,
                 .get_object =
                     [&](const std::string&) {
-                        return make_linux_management_service(shown.root, session_of(shown));
+                        return make_linux_management_service(source.root, session_of(source));
                     },
                 .create_object =
                     [&](const std::string& class_name) {
-                        return std::make_unique<MachineShell>(shown.root,
+                        return std::make_unique<MachineShell>(source.root,
                                                               system.create_object(class_name));
                     }};
     start_program();

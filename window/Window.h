@@ -6,7 +6,7 @@
 namespace ostrelum::window {
 
 /// The machine that the window shows.
-struct ShownMachine {
+struct MachineSource {
     /// "/" or the folder of a recorded machine.
     std::string root = "/";
     /// Account whose page is shown; nothing for the user's own.
@@ -15,6 +15,6 @@ struct ShownMachine {
 
 /// Shows the window on Qt and Linux until it is closed; the process's exit code. A second run of
 /// the same user ends at once with 0. A root that is no folder shows "Unknown" everywhere.
-int run_window(int& argc, char** argv, const ShownMachine& shown);
+int run_window(int& argc, char** argv, const MachineSource& source);
 
 } // namespace ostrelum::window

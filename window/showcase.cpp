@@ -18,38 +18,38 @@ constexpr const char* usage = "Usage: ostrelum-showcase --sysroot DIR [--user NA
                               "  --user NAME    the account of the user page\n";
 
 /// What the command line asks for; nothing if it is wrong.
-std::optional<ShownMachine> read_options(int argc, char** argv)
+std::optional<MachineSource> read_options(int argc, char** argv)
 {
-    ShownMachine shown;
+    MachineSource source;
     for (int i = 1; i < argc; i += 2) {
         const std::string_view name = argv[i];
         const std::string value = i + 1 < argc ? argv[i + 1] : "";
         if (value.empty() || (name != "--sysroot" && name != "--user"))
             return std::nullopt;
         if (name == "--sysroot")
-            shown.root = value;
+            source.root = value;
         else
-            shown.user = value;
+            source.user = value;
     }
-    return argc > 1 ? std::optional(shown) : std::nullopt;
+    return argc > 1 ? std::optional(source) : std::nullopt;
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
-    const auto shown = read_options(argc, argv);
-    if (!shown) {
+    const auto source = read_options(argc, argv);
+    if (!source) {
         std::cerr << usage;
         return 2;
     }
     try {
         // Opened here, since the window passes over a machine that is not there.
-        const Sysroot there(shown->root);
+        const Sysroot there(source->root);
     } catch (const Failure& failure) {
         std::cerr << "ostrelum-showcase: " << failure.what() << '\n';
         return 1;
     }
     int own_name = 1;
-    return run_window(own_name, argv, *shown);
+    return run_window(own_name, argv, *source);
 }

@@ -3,10 +3,10 @@
 #include "platform/linux/services/Clock.h"
 #include "platform/linux/services/Environment.h"
 #include "platform/linux/services/FileWriter.h"
-#include "platform/linux/services/Machine.h"
 #include "platform/linux/services/Regional.h"
 #include "platform/linux/services/Registry.h"
 #include "platform/linux/services/Shell.h"
+#include "platform/linux/services/SystemApi.h"
 #include "platform/system/Failure.h"
 #include "sources/Ascii.h"
 
@@ -20,11 +20,11 @@ namespace ostrelum::linux_platform {
 struct LinuxSystem {
     explicit LinuxSystem(const std::string& root = "/",
                          const Environment& variables = process_environment())
-        : environment(variables), clock(root), regional(variables), machine(root, variables)
+        : environment(variables), clock(root), regional(variables), system_api(root, variables)
     {
     }
     LinuxSystem(const Sysroot& root, const Environment& variables)
-        : environment(variables), clock(root), regional(variables), machine(root, variables)
+        : environment(variables), clock(root), regional(variables), system_api(root, variables)
     {
     }
 
@@ -39,7 +39,7 @@ struct LinuxSystem {
     Environment environment;
     LinuxClock clock;
     LinuxRegional regional;
-    LinuxMachine machine;
+    LinuxSystemApi system_api;
     LinuxRegistry registry;
     LinuxFileWriter file_writer;
 };

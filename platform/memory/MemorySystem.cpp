@@ -113,24 +113,24 @@ std::string MemoryRegional::long_time(const TimeOfDay& time)
     return digits(time.hour, 2) + ":" + digits(time.minute, 2) + ":" + digits(time.second, 2);
 }
 
-int MemoryMachine::GetSystemMetrics(int index)
+int MemorySystemApi::GetSystemMetrics(int index)
 {
     const auto metric = metrics.find(index);
     return metric == metrics.end() ? 0 : metric->second;
 }
 
-std::string MemoryMachine::Environ(const std::string& name)
+std::string MemorySystemApi::Environ(const std::string& name)
 {
     const auto value = environment.find(name);
     return value == environment.end() ? "" : value->second;
 }
 
-int MemoryMachine::GetAttr(const std::string& path)
+int MemorySystemApi::GetAttr(const std::string& path)
 {
     return found(attributes, path);
 }
 
-void MemoryMachine::End()
+void MemorySystemApi::End()
 {
     ended = true;
     throw ProcessEnded();

@@ -4,11 +4,11 @@
 #include "platform/system/Clipboard.h"
 #include "platform/system/Clock.h"
 #include "platform/system/FileWriter.h"
-#include "platform/system/Machine.h"
 #include "platform/system/Regional.h"
 #include "platform/system/Registry.h"
 #include "platform/system/SaveDialog.h"
 #include "platform/system/Shell.h"
+#include "platform/system/SystemApi.h"
 
 #include <map>
 #include <optional>
@@ -21,7 +21,7 @@
 /// program does can be read back.
 namespace ostrelum::memory_platform {
 
-/// Thrown by MemoryMachine::End: nothing of the program runs behind it, as with a process that
+/// Thrown by MemorySystemApi::End: nothing of the program runs behind it, as with a process that
 /// ends.
 struct ProcessEnded {};
 
@@ -125,7 +125,7 @@ public:
     std::string sign = ".";
 };
 
-class MemoryMachine : public Machine {
+class MemorySystemApi : public SystemApi {
 public:
     SystemInfo GetOstrelum() override { return {processors}; }
     int GetSystemMetrics(int index) override;

@@ -56,7 +56,7 @@ TEST_F(Life, FadesRestAtTheTransparencyAndStartOverWhenClosedAgain)
     EXPECT_EQ(Cnt, 89);
     EXPECT_FALSE(Unload(toolkit, F1));
     EXPECT_THAT(levels_of_fade("TUnload", F1.TUnload), ElementsAre(89, 98, 107));
-    EXPECT_TRUE(machine.ended);
+    EXPECT_TRUE(system_api.ended);
     EXPECT_EQ(toolkit.alphas[&F1].back(), 0);
     EXPECT_EQ(store.writes.size(), 4U) << "nothing is saved at the end";
 }
@@ -68,12 +68,12 @@ TEST_F(Life, WithoutTransparencyTheWindowIsNeverLayeredAndEndsAtOnce)
     EXPECT_TRUE(toolkit.alphas[&F1].empty());
     EXPECT_FALSE(F1.TLoad.Enabled);
     EXPECT_THROW(click("Quit"), ProcessEnded);
-    EXPECT_TRUE(machine.ended);
+    EXPECT_TRUE(system_api.ended);
 }
 
 TEST_F(Life, ASecondInstanceEndsBeforeAnythingElse)
 {
-    machine.second_instance = true;
+    system_api.second_instance = true;
     EXPECT_THROW(start_program(), ProcessEnded);
     EXPECT_TRUE(toolkit.shown.empty());
     EXPECT_FALSE(toolkit.common_controls);
@@ -115,9 +115,9 @@ TEST_F(Life, PreferredFontsNeedBothFilesWithTheArchiveFlagAlone)
     } cases[] = {{32, 32, true}, {32, 33, false}, {34, 32, false}, {32, -1, false}};
     for (const auto& c : cases) {
         store.folders["Fonts"] = "F";
-        machine.attributes = {{"F\\segoeui.ttf", c.text}, {"F\\segoeuil.ttf", c.light}};
+        system_api.attributes = {{"F\\segoeui.ttf", c.text}, {"F\\segoeuil.ttf", c.light}};
         if (c.light < 0)
-            machine.attributes.erase("F\\segoeuil.ttf");
+            system_api.attributes.erase("F\\segoeuil.ttf");
         start_program();
         EXPECT_EQ(FontsOk, c.preferred ? preferred_fonts : 0) << c.text << " " << c.light;
         EXPECT_EQ(F1.Titulo.Top, c.preferred ? 48 : 58);

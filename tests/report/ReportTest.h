@@ -3,14 +3,14 @@
 #include "frame/Life.h"
 #include "frame/MainForm.h"
 #include "report/Report.h"
-#include "tests/report/ReportMachine.h"
+#include "tests/report/ReportProgram.h"
 
 #include <gtest/gtest.h>
 
 namespace ostrelum {
 
 /// The program on the recorded machine, loaded and not shown.
-class ReportTest : public ::testing::Test, public ReportMachine {
+class ReportTest : public ::testing::Test, public ReportProgram {
 protected:
     ReportTest() { load_program(); }
 

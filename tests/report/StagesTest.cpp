@@ -53,8 +53,8 @@ TEST_F(Stages, WithoutAServiceAReportHasAllSectionsAndItsFoot)
     make_report();
     script.results.clear();
     store.values.clear();
-    machine.metrics.clear();
-    machine.environment.clear();
+    system_api.metrics.clear();
+    system_api.environment.clear();
     make_report();
     EXPECT_EQ(count(F2.Tb4, "\r\n------------------\r\n"), 12);
     EXPECT_EQ(count(F2.Tb1, "\\b0  \\i "), 78);

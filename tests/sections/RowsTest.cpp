@@ -154,8 +154,8 @@ TEST_F(Rows, TakeFiguresFromTheSystemToo)
         {4, 3, ",", "MaxClockSpeed", "3=Unknown"},
     };
     for (const auto& c : cases) {
-        machine.processors = c.processors;
-        machine.metrics[mouse_button_count] = c.buttons;
+        system_api.processors = c.processors;
+        system_api.metrics[mouse_button_count] = c.buttons;
         regional.sign = c.sign;
         expect(std::array{Case{1, "Processor", c.speed, c.rows}}, value);
         open(10);
@@ -169,7 +169,7 @@ TEST_F(Rows, TakeFiguresFromTheSystemToo)
     clock.milliseconds += 1;
     open(2);
     EXPECT_EQ(shown(9), "Usage time: Unknown");
-    machine.processors = 0;
+    system_api.processors = 0;
     open(5);
     EXPECT_EQ(shown(3), "Number of cores: Unknown");
 }

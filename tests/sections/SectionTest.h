@@ -49,7 +49,7 @@ protected:
         platform.get_object = [this](const std::string&) -> std::unique_ptr<ManagementService> {
             return std::make_unique<Answers>(*this);
         };
-        machine.environment["UserName"] = "  ana ";
+        system_api.environment["UserName"] = "  ana ";
         start_program();
     }
 

@@ -22,15 +22,15 @@ void put_first(std::vector<std::string>& names, std::string_view path)
 void Recorder::keep(const std::string& place, PlaceKind kind, const std::string& content,
                     const std::string& asked)
 {
-    const auto [known, is_new] = machine_.places.try_emplace(place, Place{kind, content, asked});
+    const auto [known, is_new] = recording_.places.try_emplace(place, Place{kind, content, asked});
     if (!is_new && known->second.kind < kind)
         known->second = {kind, content, asked};
 }
 
 std::optional<std::string> Recorder::link_at(const std::string& place, const std::string& asked)
 {
-    const auto known = machine_.places.find(place);
-    if (known != machine_.places.end() && known->second.kind >= PlaceKind::Folder)
+    const auto known = recording_.places.find(place);
+    if (known != recording_.places.end() && known->second.kind >= PlaceKind::Folder)
         return known->second.kind == PlaceKind::Link ? std::optional(known->second.content)
                                                      : std::nullopt;
     auto target = files_.link(place);
@@ -87,7 +87,7 @@ void Recorder::on_read(const std::string& path, const std::optional<std::string>
 void Recorder::on_read_piece(const std::string& path, std::uint64_t at, const std::string& bytes)
 {
     if (const auto place = walk(path, LastLink::Follow))
-        machine_.pieces.try_emplace({*place, at}, bytes);
+        recording_.pieces.try_emplace({*place, at}, bytes);
 }
 
 void Recorder::on_list(const std::string& path, const std::vector<std::string>& names)
@@ -107,7 +107,7 @@ void Recorder::on_link(const std::string& path)
 
 void Recorder::on_answer(const std::string& list, const std::string& key, const std::string& value)
 {
-    machine_.answers[list].try_emplace(key, value);
+    recording_.answers[list].try_emplace(key, value);
 }
 
 } // namespace ostrelum::linux_platform

@@ -2,7 +2,7 @@
 
 #include "platform/linux/files/AccessObserver.h"
 #include "platform/linux/files/Sysroot.h"
-#include "platform/linux/recording/RecordedMachine.h"
+#include "platform/linux/recording/Recording.h"
 
 #include <string>
 #include <vector>
@@ -26,7 +26,7 @@ public:
     void on_answer(const std::string& list, const std::string& key,
                    const std::string& value) override;
 
-    const RecordedMachine& machine() const { return machine_; }
+    const Recording& recording() const { return recording_; }
 
 private:
     std::optional<std::string> walk(const std::string& path, LastLink last);
@@ -35,7 +35,7 @@ private:
               const std::string& asked);
 
     Sysroot files_;
-    RecordedMachine machine_;
+    Recording recording_;
 };
 
 } // namespace ostrelum::linux_platform

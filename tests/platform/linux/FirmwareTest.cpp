@@ -1,7 +1,7 @@
 #include "platform/linux/formats/Placeholder.h"
 #include "platform/system/Failure.h"
 #include "tests/Split.h"
-#include "tests/platform/linux/MadeMachine.h"
+#include "tests/platform/linux/MadeSysroot.h"
 
 #include <gmock/gmock.h>
 
@@ -13,7 +13,7 @@ using testing::IsEmpty;
 
 TEST(Firmware, OfASourceWithoutTextsIsAnObjectWithoutValues)
 {
-    const MadeMachine machine;
+    const MadeSysroot machine;
     machine.file("sys/firmware/dmi/tables/DMI", std::string(14, '\0'));
     EXPECT_THAT(machine.rows("Select * from Win32_BIOS"), IsEmpty()) << "a table that is cut";
     machine.file("sys/class/dmi/id/board_name", "Default string\n");
@@ -22,7 +22,7 @@ TEST(Firmware, OfASourceWithoutTextsIsAnObjectWithoutValues)
 
 TEST(Firmware, HasADayOfReleaseOrNone)
 {
-    const MadeMachine machine;
+    const MadeSysroot machine;
     for (const auto& [date, expected] :
          pairs("02/29/2020=20200229000000.000000+000|12/31/99=19991231000000.000000+000|"
                "01/02/03=19030102000000.000000+000|02/29/2021|13/01/2020|00/10/2020|7/31/2013|"

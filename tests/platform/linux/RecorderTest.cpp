@@ -22,7 +22,7 @@ TEST(Recorder, KeepsLinksAsLinks)
     EXPECT_EQ(machine.text("/class/sda/../maker"), "ACME");
     EXPECT_EQ(machine.read_piece("/class/sda/model", 1, 2), "SD");
     EXPECT_EQ(machine.list("/class").size(), 2U);
-    write_machine(recorder->machine(), folder / "recording");
+    write_recording(recorder->recording(), folder / "recording");
     const Sysroot recording(folder / "recording");
     EXPECT_EQ(recording.link("/class/sda"), "../devices/bus/disk");
     EXPECT_EQ(recording.text("/class/sda/../maker"), "ACME");

@@ -1,5 +1,5 @@
 #include "tests/platform/linux/MadeEdid.h"
-#include "tests/platform/linux/MadeMachine.h"
+#include "tests/platform/linux/MadeSysroot.h"
 
 #include <gmock/gmock.h>
 
@@ -13,7 +13,7 @@ const std::string Mode = "Select CurrentHorizontalResolution, CurrentVerticalRes
                          "CurrentBitsPerPixel, CurrentRefreshRate from Win32_VideoController";
 const std::string Monitors = "Select * from Win32_DesktopMonitor";
 
-void pci_card(const MadeMachine& machine, const std::string& slot, const std::string& boot_vga,
+void pci_card(const MadeSysroot& machine, const std::string& slot, const std::string& boot_vga,
               const std::string& drm)
 {
     machine.device(slot, "drm/" + drm, {});
@@ -22,7 +22,7 @@ void pci_card(const MadeMachine& machine, const std::string& slot, const std::st
     machine.link("sys/bus/pci/devices/" + slot, "../../../devices/" + slot);
 }
 
-void monitor_at(const MadeMachine& machine, const std::string& slot, const std::string& connector,
+void monitor_at(const MadeSysroot& machine, const std::string& slot, const std::string& connector,
                 const std::string& edid)
 {
     machine.device(slot + "/drm", "drm/" + connector, {{"status", "connected"}});
@@ -36,7 +36,7 @@ SessionFactsSource screens(std::vector<ScreenFact> screens)
 
 TEST(Session, ScreensStandForMonitorsThatTellNothing)
 {
-    const MadeMachine machine;
+    const MadeSysroot machine;
     pci_card(machine, "0000:01:00.0", "1", "card0");
     monitor_at(machine, "0000:01:00.0", "card0-Virtual-1", "");
     EXPECT_THAT(machine.rows(Monitors), IsEmpty());
@@ -49,7 +49,7 @@ TEST(Session, ScreensStandForMonitorsThatTellNothing)
 
 TEST(Session, TheModeIsTheSessionsThenTheKernelsThenTheConsoles)
 {
-    const MadeMachine machine;
+    const MadeSysroot machine;
     pci_card(machine, "0000:01:00.0", "1", "card0");
     EXPECT_THAT(machine.rows(Mode), ElementsAre("null|null|null|null"));
 
@@ -82,7 +82,7 @@ TEST(Session, TheModeIsTheSessionsThenTheKernelsThenTheConsoles)
 
 TEST(Session, EachCardHasItsScreen)
 {
-    const MadeMachine machine;
+    const MadeSysroot machine;
     pci_card(machine, "0000:01:00.0", "1", "card0");
     pci_card(machine, "0000:02:00.0", "0", "card1");
     monitor_at(machine, "0000:01:00.0", "card0-DP-1", monitor(descriptor(0xFD, "\x30\x4B")));
@@ -102,7 +102,7 @@ TEST(Session, EachCardHasItsScreen)
 
 TEST(Session, PointersAreForTheHandOfTheSession)
 {
-    const MadeMachine machine;
+    const MadeSysroot machine;
     machine.device("platform/i8042/serio1", "input/input0",
                    {{"capabilities/key", "70000 0 0 0 0"}, {"capabilities/rel", "3"}});
     for (const auto& [left_handed, row] : {std::pair(std::optional(true), "3"),

@@ -18,10 +18,10 @@ inline constexpr int mouse_button_count = 43;
 /// File attribute of an ordinary file: the archive flag alone.
 inline constexpr int archive_attribute = 32;
 
-/// System calls about the machine, the process and its files.
-class Machine {
+/// What the program asks the operating system about the machine, the process and its files.
+class SystemApi {
 public:
-    virtual ~Machine() = default;
+    virtual ~SystemApi() = default;
     virtual SystemInfo GetOstrelum() = 0;
     /// The figure of an SM_ index; 0 for an index that the machine does not know.
     virtual int GetSystemMetrics(int index) = 0;

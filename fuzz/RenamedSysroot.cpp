@@ -1,4 +1,4 @@
-#include "fuzz/NamedMachine.h"
+#include "fuzz/RenamedSysroot.h"
 
 #include "tests/platform/linux/MadeHardwareDatabase.h"
 
@@ -81,7 +81,7 @@ std::string renamed(const std::string& path, const std::string& content, const s
 
 } // namespace
 
-NamedMachine::NamedMachine(const std::string& recorded)
+RenamedSysroot::RenamedSysroot(const std::string& recorded)
 {
     fs::copy(recorded, root(), fs::copy_options::recursive | fs::copy_options::copy_symlinks);
     for (const auto& entry : fs::recursive_directory_iterator(root())) {
@@ -95,7 +95,7 @@ NamedMachine::NamedMachine(const std::string& recorded)
     }
 }
 
-void NamedMachine::name_all(const std::string& name) const
+void RenamedSysroot::rename_all(const std::string& name) const
 {
     for (const File& file : files_) {
         // A file system may wait for the disk when a file is made empty, but not for a new one.

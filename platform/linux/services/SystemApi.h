@@ -3,7 +3,7 @@
 #include "platform/linux/files/Sysroot.h"
 #include "platform/linux/services/Environment.h"
 #include "platform/linux/services/SingleInstance.h"
-#include "platform/system/Machine.h"
+#include "platform/system/SystemApi.h"
 
 #include <optional>
 #include <string>
@@ -15,13 +15,13 @@ namespace ostrelum::linux_platform {
 /// Numbers of 65536 and more are none of a processor.
 std::uint32_t count_in_list(std::string_view list);
 
-/// System calls on Linux. Facts about the hardware are read under `root`: "/" or the folder of a
+/// SystemApi on Linux. What concerns the hardware is read under `root`: "/" or the folder of a
 /// recorded machine.
-class LinuxMachine : public Machine {
+class LinuxSystemApi : public SystemApi {
 public:
-    LinuxMachine(const std::string& root, Environment environment);
+    LinuxSystemApi(const std::string& root, Environment environment);
     /// Nothing in `files`: a machine without any.
-    LinuxMachine(std::optional<Sysroot> files, Environment environment);
+    LinuxSystemApi(std::optional<Sysroot> files, Environment environment);
 
     SystemInfo GetOstrelum() override;
     int GetSystemMetrics(int index) override;

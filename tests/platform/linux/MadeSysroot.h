@@ -9,7 +9,7 @@
 namespace ostrelum::linux_platform {
 
 /// A machine that a test makes of a few files.
-class MadeMachine {
+class MadeSysroot {
 public:
     std::string file(const std::string& name, const std::string& content) const
     {

@@ -1,4 +1,4 @@
-#include "platform/linux/recording/MaskedMachine.h"
+#include "platform/linux/recording/MaskedRecording.h"
 
 #include "platform/linux/recording/MaskedBytes.h"
 #include "platform/linux/recording/MaskedTexts.h"
@@ -78,7 +78,7 @@ std::string masked_path(const std::string& path, MachinePseudonyms& given)
     return path.starts_with("/dev/") ? given.names.of_path(path) : path;
 }
 
-using Answers = decltype(RecordedMachine::answers);
+using Answers = decltype(Recording::answers);
 
 Answers masked_answers(Answers answers, MachinePseudonyms& given)
 {
@@ -106,15 +106,14 @@ Answers masked_answers(Answers answers, MachinePseudonyms& given)
 
 } // namespace
 
-RecordedMachine masked_machine(const RecordedMachine& machine,
-                               const std::vector<std::string>& accounts)
+Recording masked_recording(const Recording& recording, const std::vector<std::string>& accounts)
 {
     MachinePseudonyms given{.shown = accounts};
     for (const std::string& account : accounts)
         given.accounts.of(account);
-    RecordedMachine masked;
-    masked.answers = masked_answers(machine.answers, given);
-    for (const auto& [path, place] : machine.places) {
+    Recording masked;
+    masked.answers = masked_answers(recording.answers, given);
+    for (const auto& [path, place] : recording.places) {
         const bool file = place.kind == PlaceKind::File;
         const Rule* rule = file ? rule_of(place) : nullptr;
         if (names_accounts(path) || (file && !rule))

@@ -12,15 +12,15 @@ using namespace linux_platform;
 
 /// A copy of a recorded machine in which whatever has a name can be given another one: devices in
 /// sysfs, in udev's and in the hardware database, the processor, the system, a user, a volume.
-class NamedMachine {
+class RenamedSysroot {
 public:
     /// `recorded` is the machine's folder.
-    explicit NamedMachine(const std::string& recorded);
+    explicit RenamedSysroot(const std::string& recorded);
 
     std::string root() const { return folder_ / "machine"; }
 
     /// Gives everything that name, whatever bytes it has.
-    void name_all(const std::string& name) const;
+    void rename_all(const std::string& name) const;
 
 private:
     struct File {

@@ -28,7 +28,7 @@ struct Place {
 };
 
 /// A machine on its way into a folder.
-struct RecordedMachine {
+struct Recording {
     /// By path, which leads over no link.
     std::map<std::string, Place> places;
     /// Pieces of files too long to be taken whole, by path and first byte.
@@ -43,6 +43,6 @@ void check_unused(const std::string& folder);
 /// Writes the machine into a folder that is empty or not there, and that only its owner can then
 /// read: whole, or not at all. What could not be read becomes an empty folder, and what is but a
 /// name an empty file. Throws Failure if that does not succeed.
-void write_machine(const RecordedMachine& machine, const std::string& folder);
+void write_recording(const Recording& recording, const std::string& folder);
 
 } // namespace ostrelum::linux_platform

@@ -9,17 +9,17 @@
 namespace ostrelum {
 
 /// A machine that answers the queries of golden/machine.tsv: those of a report, in their order.
-class ReportMachine : public MemoryProgram {
+class ReportProgram : public MemoryProgram {
 public:
-    ReportMachine()
+    ReportProgram()
     {
         for (auto& [query, objects] : recorded_objects("report/golden/machine.tsv")) {
             queries.push_back(query);
             script.results[query] = std::move(objects);
         }
-        machine.environment["UserName"] = "Ana";
-        machine.processors = 4;
-        machine.metrics[mouse_button_count] = 3;
+        system_api.environment["UserName"] = "Ana";
+        system_api.processors = 4;
+        system_api.metrics[mouse_button_count] = 3;
         store.values["HKEY_CURRENT_USER\\Software\\Install\\Ostrelum\\Mainboard\\Full"] = "Board 7";
         store.folders["Desktop"] = "/home/ana/Desktop";
     }

@@ -1,4 +1,4 @@
-#include "platform/linux/services/Machine.h"
+#include "platform/linux/services/SystemApi.h"
 
 #include "platform/linux/formats/MouseButtons.h"
 #include "platform/linux/services/UserFolders.h"
@@ -78,17 +78,17 @@ std::uint32_t count_in_list(std::string_view list)
     return list.empty() ? count : 0;
 }
 
-LinuxMachine::LinuxMachine(const std::string& root, Environment environment)
-    : LinuxMachine(Sysroot::find(root), std::move(environment))
+LinuxSystemApi::LinuxSystemApi(const std::string& root, Environment environment)
+    : LinuxSystemApi(Sysroot::find(root), std::move(environment))
 {
 }
 
-LinuxMachine::LinuxMachine(std::optional<Sysroot> files, Environment environment)
+LinuxSystemApi::LinuxSystemApi(std::optional<Sysroot> files, Environment environment)
     : files_(std::move(files)), environment_(std::move(environment)), instance_(environment_)
 {
 }
 
-SystemInfo LinuxMachine::GetOstrelum()
+SystemInfo LinuxSystemApi::GetOstrelum()
 {
     const auto online = files_ ? files_->read("/sys/devices/system/cpu/online") : std::nullopt;
     std::uint32_t count = count_in_list(online.value_or(""));
@@ -98,12 +98,12 @@ SystemInfo LinuxMachine::GetOstrelum()
     return {std::max(count, 1U)};
 }
 
-int LinuxMachine::GetSystemMetrics(int index)
+int LinuxSystemApi::GetSystemMetrics(int index)
 {
     return files_ && index == mouse_button_count ? mouse_buttons(input_devices(*files_)) : 0;
 }
 
-std::string LinuxMachine::Environ(const std::string& name)
+std::string LinuxSystemApi::Environ(const std::string& name)
 {
     const auto same = [&](const auto& entry) {
         return same_ascii_letters(entry.first, name) && !entry.second.empty();
@@ -117,7 +117,7 @@ std::string LinuxMachine::Environ(const std::string& name)
     return made_valid_utf8(value);
 }
 
-int LinuxMachine::GetAttr(const std::string& path)
+int LinuxSystemApi::GetAttr(const std::string& path)
 {
     std::string slashes = path;
     std::replace(slashes.begin(), slashes.end(), '\\', '/');
@@ -132,12 +132,12 @@ int LinuxMachine::GetAttr(const std::string& path)
     return readable ? archive_attribute : 0;
 }
 
-bool LinuxMachine::PrevInstance()
+bool LinuxSystemApi::PrevInstance()
 {
     return instance_.another_runs();
 }
 
-void LinuxMachine::End()
+void LinuxSystemApi::End()
 {
 #ifdef __SANITIZE_ADDRESS__
     // What an ordinary end would check.

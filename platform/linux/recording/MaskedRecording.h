@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/recording/RecordedMachine.h"
+#include "platform/linux/recording/Recording.h"
 
 #include <string>
 #include <vector>
@@ -11,7 +11,6 @@ namespace ostrelum::linux_platform {
 /// machines, networks, folders and volumes and for serial numbers, in what the files hold and in
 /// their own names. Files in a form that is not known are left out, and so are the records of
 /// logins. `accounts` are those that are shown, the user's own first.
-RecordedMachine masked_machine(const RecordedMachine& machine,
-                               const std::vector<std::string>& accounts);
+Recording masked_recording(const Recording& recording, const std::vector<std::string>& accounts);
 
 } // namespace ostrelum::linux_platform

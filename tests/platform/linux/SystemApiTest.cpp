@@ -1,4 +1,4 @@
-#include "platform/linux/services/Machine.h"
+#include "platform/linux/services/SystemApi.h"
 
 #include "platform/linux/formats/MouseButtons.h"
 #include "platform/linux/services/Clock.h"
@@ -21,7 +21,7 @@ const InputDevice keyboard_32{"4 2000002 3803078 f800d001 feffffdf ffefffff ffff
 const InputDevice mouse_64{"1f0000 0 0 0 0\n", "903\n", "0\n", "0\n"};
 const InputDevice mouse_32{"70000 0 0 0 0 0 0 0 0", "103", "0", "0"};
 
-TEST(Machine, CountsTheButtonsOfPointers)
+TEST(SystemApi, CountsTheButtonsOfPointers)
 {
     const std::pair<std::vector<InputDevice>, int> cases[] = {
         {{}, 0},
@@ -41,7 +41,7 @@ TEST(Machine, CountsTheButtonsOfPointers)
         EXPECT_EQ(mouse_buttons(devices), buttons) << (devices.empty() ? "" : devices.back().key);
 }
 
-TEST(Machine, CountsAKernelList)
+TEST(SystemApi, CountsAKernelList)
 {
     const std::pair<std::string_view, std::uint32_t> cases[] = {
         {"0\n", 1}, {"0-1\n", 2}, {"0-3,6,8-11\n", 9}, {"0-65535", 65536}, {"", 0},
@@ -52,7 +52,7 @@ TEST(Machine, CountsAKernelList)
         EXPECT_EQ(count_in_list(list), count) << list;
 }
 
-TEST(Machine, FindsVariablesInAnyCase)
+TEST(SystemApi, FindsVariablesInAnyCase)
 {
     const passwd* const account = ::getpwuid(::getuid());
     const std::string own = account == nullptr ? "" : account->pw_name;
@@ -67,15 +67,15 @@ TEST(Machine, FindsVariablesInAnyCase)
         {{{"USER", "bob"}}, "Name", ""},
     };
     for (const auto& [environment, name, value] : cases)
-        EXPECT_EQ(LinuxMachine("/", environment).Environ(name), value) << name;
+        EXPECT_EQ(LinuxSystemApi("/", environment).Environ(name), value) << name;
 }
 
-TEST(Machine, TellsAFilesAttribute)
+TEST(SystemApi, TellsAFilesAttribute)
 {
     const TemporaryFolder folder;
     folder.file("fonts/SegoeUI.ttf");
     fs::create_symlink("/dev/null", folder / "fonts/null");
-    LinuxMachine machine("/", {});
+    LinuxSystemApi machine("/", {});
     EXPECT_EQ(machine.GetAttr(folder / "fonts\\segoeui.ttf"), archive_attribute);
     EXPECT_NE(machine.GetAttr(folder / "fonts"), archive_attribute);
     EXPECT_NE(machine.GetAttr(folder / "fonts\\null"), archive_attribute);

@@ -1,4 +1,4 @@
-#include "platform/linux/recording/RecordedMachine.h"
+#include "platform/linux/recording/Recording.h"
 
 #include "platform/system/Failure.h"
 
@@ -64,32 +64,32 @@ void write_bytes(const fs::path& path, std::uint64_t at, const std::string& byte
         fail(path, errno);
 }
 
-void write_content(const RecordedMachine& machine, const PartFolder& part)
+void write_content(const Recording& recording, const PartFolder& part)
 {
-    for (const auto& [path, place] : machine.places) {
+    for (const auto& [path, place] : recording.places) {
         const bool folder = place.kind == PlaceKind::Folder || place.kind == PlaceKind::Unreadable;
         fs::create_directories(folder ? part / path : (part / path).parent_path());
     }
-    for (const auto& [path, place] : machine.places) {
+    for (const auto& [path, place] : recording.places) {
         const bool file = place.kind == PlaceKind::File;
         if (file || (place.kind == PlaceKind::Name && !fs::exists(part / path)))
             write_bytes(part / path, 0, place.content);
     }
-    for (const auto& [where, bytes] : machine.pieces) {
+    for (const auto& [where, bytes] : recording.pieces) {
         fs::create_directories((part / where.first).parent_path());
         write_bytes(part / where.first, where.second, bytes);
     }
     // Last, so that nothing is written through one.
-    for (const auto& [path, place] : machine.places) {
+    for (const auto& [path, place] : recording.places) {
         if (place.kind == PlaceKind::Link)
             fs::create_symlink(place.content, part / path);
     }
 }
 
-void write_answers(const RecordedMachine& machine, const PartFolder& part)
+void write_answers(const Recording& recording, const PartFolder& part)
 {
     fs::create_directories(part / "/.facts");
-    for (const auto& [list, values] : machine.answers) {
+    for (const auto& [list, values] : recording.answers) {
         std::string lines;
         for (const auto& [key, value] : values)
             lines += key + (value.empty() ? "" : " " + value) + "\n";
@@ -107,12 +107,12 @@ void check_unused(const std::string& folder)
         throw Failure(folder + ": is there already, and not an empty folder");
 }
 
-void write_machine(const RecordedMachine& machine, const std::string& folder)
+void write_recording(const Recording& recording, const std::string& folder)
 {
     try {
         const PartFolder part(named(folder));
-        write_content(machine, part);
-        write_answers(machine, part);
+        write_content(recording, part);
+        write_answers(recording, part);
         part.become(named(folder));
     } catch (const fs::filesystem_error& error) {
         throw Failure(folder + ": " + error.code().message());
