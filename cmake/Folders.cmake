@@ -16,7 +16,7 @@ if(OSTRELUM_SANITIZE)
 endif()
 
 # ostrelum_folder(NAME): every source of the current folder and its rooms, as the target ostrelum_NAME. Headers are
-# checked to compile alone.
+# checked to compile alone, and for Windows behind the system's own.
 function(ostrelum_folder name)
     file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
     file(GLOB_RECURSE headers CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
@@ -28,7 +28,28 @@ function(ostrelum_folder name)
         add_library(${target} INTERFACE)
         target_link_libraries(${target} INTERFACE ostrelum_rules)
     endif()
-    ostrelum_headers_alone(${target} ${headers})
+    ostrelum_check_headers(${target} ${headers})
+endfunction()
+
+function(ostrelum_check_headers target)
+    if(WIN32)
+        ostrelum_headers_behind_windows(${target} ${ARGN})
+    else()
+        ostrelum_headers_alone(${target} ${ARGN})
+    endif()
+endfunction()
+
+# One source for each library that includes all its headers behind <windows.h>, whose macros take many short names.
+function(ostrelum_headers_behind_windows target)
+    set(includes "#include <windows.h>\n\n")
+    foreach(header ${ARGN})
+        file(RELATIVE_PATH path ${CMAKE_SOURCE_DIR} ${header})
+        string(APPEND includes "#include \"${path}\"\n")
+    endforeach()
+    set(source ${CMAKE_BINARY_DIR}/headers/${target}.cpp)
+    file(GENERATE OUTPUT ${source} CONTENT "${includes}")
+    add_library(${target}_headers OBJECT ${source})
+    target_link_libraries(${target}_headers PRIVATE ${target})
 endfunction()
 
 # One source that includes nothing but the header, for each header that no source of the same name includes before
