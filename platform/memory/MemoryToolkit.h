@@ -1,6 +1,7 @@
 #pragma once
 
-#include "platform/toolkit/Toolkit.h"
+#include "platform/memory/MemoryWindow.h"
+#include "platform/toolkit/WindowStyles.h"
 
 #include <map>
 #include <string>
@@ -8,15 +9,13 @@
 
 namespace ostrelum::memory_platform {
 
-/// A window toolkit without a window: it shows nothing, measures text with fixed widths and lets
-/// the caller move the clock. Tests and the console stand on it.
+/// A window toolkit without a screen: it measures text with fixed widths and lets the caller move
+/// the clock and the user's hands. Tests and the console stand on it.
 class MemoryToolkit : public Toolkit {
 public:
     /// Width of every character and height of every line, in pixels.
-    static constexpr int CharacterWidth = 6;
-    static constexpr int LineHeight = 16;
-    /// What the fastest timer takes from tick to tick: a screen frame, in milliseconds.
-    static constexpr int FrameTime = 15;
+    static constexpr int character_width = 6;
+    static constexpr int line_height = 16;
 
     void InitCommonControls() override { common_controls = true; }
     TextSize text_size(const std::string& text, const FontSpec& font) const override;
@@ -36,6 +35,21 @@ public:
     /// Lets time pass on a form: each timer that is on ticks when its interval is over, in the
     /// order of the form's controls.
     void advance(Form& form, int milliseconds);
+    /// Lets time pass on all forms on show.
+    void advance(int milliseconds);
+    /// Lets time pass while the program is busy: what is due ticks once, when the program next
+    /// lets events in.
+    void stay_busy(int milliseconds) { owed_ += milliseconds; }
+
+    /// The window of a form on show. It stays as long as somebody holds it, as events of its own
+    /// may take it away.
+    std::shared_ptr<MemoryWindow> window_of(const Form& form) const;
+    /// The user closes the window by its frame.
+    void close(Form& form);
+    /// The user chooses an entry of the menu that is up, or none.
+    void choose(const MenuItem* entry);
+    /// 0 to 255.
+    int opacity(const Form& form) const { return styles_.alpha(form); }
     /// Raises an event of a control as a user's action would.
     static void user(Form& form, std::string_view control, const Event& event);
 
@@ -46,8 +60,10 @@ public:
 
     struct Popup {
         const PopupMenu* menu;
+        /// Nothing for a menu at the mouse.
         std::optional<Point> at;
         const MenuItem* bold;
+        const Form* form;
     };
 
     bool common_controls = false;
@@ -56,15 +72,27 @@ public:
     /// How often each form was painted at once.
     std::map<const Form*, int> refreshes;
     std::vector<Popup> popups;
+    /// The menu that is up.
+    std::optional<Popup> menu;
     /// The cursors of the whole screen, one after the other.
     std::vector<MouseCursor> cursors;
     /// The alpha values that a form was given, one after the other.
     std::map<const Form*, std::vector<int>> alphas;
 
 private:
-    std::map<std::pair<const Form*, int>, std::int32_t> window_longs_;
+    /// Lets `milliseconds` pass at once for the timers of a form.
+    void tick(Form& form, int milliseconds);
+    void sync_all();
+    void share_input();
+
+    EventDispatcher dispatcher_{[this] { sync_all(); }};
+    std::map<const Form*, std::shared_ptr<MemoryWindow>> windows_;
+    /// Forms that are shown over all others, the last on top.
+    std::vector<const Form*> modals_;
+    WindowStyles styles_;
     /// Milliseconds that each timer has been running since its last tick.
     std::map<const Timer*, int> waited_;
+    int owed_ = 0;
 };
 
 } // namespace ostrelum::memory_platform

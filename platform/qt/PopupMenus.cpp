@@ -38,7 +38,7 @@ void pop_up(FormWindow& window, const PopupMenu& menu, QPoint at, const MenuItem
         QAction* action = add_entry(*shown, *item);
         if (item == bold)
             embolden(*shown, *action);
-        // Queued on the window: should it go meanwhile, the choice goes with it.
+        // Queued on the window: should that close meanwhile, the choice is dropped.
         QObject::connect(
             action, &QAction::triggered, &window,
             [&events, place] { events.raise(place, {.kind = EventKind::Click}); },

@@ -53,6 +53,17 @@ void SliderWidget::paintEvent(QPaintEvent*)
         draw_thumb(painter, part(QStyle::SC_ScrollBarSlider));
 }
 
+/// The toolkit's own scroll bars go left with the right arrow key.
+void SliderWidget::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Left)
+        triggerAction(SliderSingleStepSub);
+    else if (event->key() == Qt::Key_Right)
+        triggerAction(SliderSingleStepAdd);
+    else
+        QScrollBar::keyPressEvent(event);
+}
+
 void SliderWidget::draw_end(QPainter& painter, const QRectF& button, bool leftwards) const
 {
     if (button.isEmpty())

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
 
@@ -13,6 +14,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void draw_end(QPainter& painter, const QRectF& button, bool leftwards) const;

@@ -18,11 +18,6 @@ int count_of(const Form& form)
     return static_cast<int>(form.controls.size());
 }
 
-bool are_of_one_array(const ControlEntry& one, const ControlEntry& other)
-{
-    return one.index > 0 && one.name == other.name;
-}
-
 } // namespace
 
 bool takes_focus(const Form& form, int control)
@@ -55,8 +50,8 @@ int next_by_arrow(const Form& form, int from, Key key)
     if (key == Key::End)
         control = count - 1;
     for (; control >= 0 && control < count; control += step) {
-        if (are_of_one_array(entry_at(form, from), entry_at(form, control)) &&
-            takes_focus(form, control))
+        const bool same_array = entry_at(form, control).name == entry_at(form, from).name;
+        if (same_array && takes_focus(form, control))
             return control;
     }
     return form_itself;

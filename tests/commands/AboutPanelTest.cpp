@@ -43,7 +43,7 @@ TEST_F(AboutPanelOpen, LocksTheNavigationAndEndsInThePageItCoveredWithoutWriting
     EXPECT_FALSE(F1.PanelReady || F1.Timer1.Enabled);
     press("LMenu", 8);
     EXPECT_TRUE(F1.PicInformacion.Visible && F1.BAceptar.Visible);
-    toolkit.advance(F1, 20 * MemoryToolkit::FrameTime);
+    toolkit.advance(F1, 20 * frame_time);
     EXPECT_EQ(F1.Ico.Stored, F6->IAC.Stored);
     F1.CheckTrans.Value = 0;
     click("BAceptar");

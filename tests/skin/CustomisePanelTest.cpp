@@ -63,7 +63,7 @@ TEST_F(CustomisePanelOpen, ShowsTheSettingsOfTheRunAndTouchesNeitherSkinNorStore
     EXPECT_EQ(F1.S(1).Surface, skin);
     EXPECT_FALSE(F1.Timer1.Enabled);
     EXPECT_TRUE(F1.PicPersonalizar.Visible && F1.BAceptar.Visible && F1.PanelReady);
-    toolkit.advance(F1, 20 * MemoryToolkit::FrameTime);
+    toolkit.advance(F1, 20 * frame_time);
     EXPECT_EQ(F1.Ico.Stored, F6->IOpc.Stored);
 
     click("BAceptar");

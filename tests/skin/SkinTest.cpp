@@ -131,7 +131,7 @@ TEST_F(Skin, PagesChooseTheirPictures)
         F1.Seccion = c.section;
         F1.MediaCount = c.media;
         start_cross_fade();
-        toolkit.advance(F1, 20 * MemoryToolkit::FrameTime);
+        toolkit.advance(F1, 20 * frame_time);
         EXPECT_EQ(F1.Ico.Stored, c.ico->Stored) << int{c.section};
         EXPECT_EQ(F1.Iaviso.Stored, c.alert ? c.alert->Stored : Picture()) << int{c.section};
     }

@@ -1,5 +1,5 @@
 #include "platform/qt/FilterPairs.h"
-#include "tests/platform/qt/Desk.h"
+#include "tests/platform/qt/SampleWindow.h"
 
 #include <QClipboard>
 #include <QFileDialog>
@@ -8,12 +8,12 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
-namespace ostrelum::qt_platform::desk {
+namespace ostrelum::qt_platform {
 namespace {
 
 using namespace std::string_literals;
 
-class ServicesTest : public Desk {};
+class ServicesTest : public SampleWindow {};
 
 QStringList messages;
 
@@ -114,4 +114,4 @@ TEST_F(ServicesTest, TheScreenInMemoryIsKnown)
 }
 
 } // namespace
-} // namespace ostrelum::qt_platform::desk
+} // namespace ostrelum::qt_platform

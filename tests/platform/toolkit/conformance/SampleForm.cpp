@@ -1,18 +1,16 @@
-#include "tests/platform/qt/Desk.h"
+#include "tests/platform/toolkit/conformance/SampleForm.h"
 
 #include "platform/toolkit/Designer.h"
 
-#include <QTemporaryDir>
-
 #include <sstream>
 
-namespace ostrelum::qt_platform::desk {
+namespace ostrelum::conformance {
 namespace {
 
 /// Acts go by the bare name.
 void note(const std::string& name, int index = 0, const std::string& tail = "")
 {
-    heard.push_back(name + (index ? "(" + std::to_string(index) + ")" : "") + tail);
+    calls.push_back(name + (index ? "(" + std::to_string(index) + ")" : "") + tail);
     if (const auto act = acts.find(name); act != acts.end())
         act->second();
 }
@@ -37,7 +35,7 @@ PLAIN(Tick_Click) PLAIN(Pick_Click) PLAIN(First_Click) PLAIN(Last_Click) PLAIN(C
 MOUSE(Form_MouseDown)
 void Form_Unload(bool& cancel) { note("Form_Unload"); cancel = acts.contains("refuse"); }
 
-constexpr Handler handlers[] = {
+constexpr Handler sample_handlers[] = {
     OSTRELUM_ON(Column_MouseDown), OSTRELUM_ON(Column_MouseMove), OSTRELUM_ON(Column_Click),
     OSTRELUM_ON(Menu_MouseDown), OSTRELUM_ON(Menu_MouseUp), OSTRELUM_ON(Menu_Click),
     OSTRELUM_ON(Bar_Click), OSTRELUM_ON(Ok_Click), OSTRELUM_ON(No_Click),
@@ -89,46 +87,14 @@ Bitmap plain_bitmap(int width, int height, Colour colour, Colour corner)
     return bitmap;
 }
 
-QtToolkit& Desk::toolkit()
+SampleForm::SampleForm()
 {
-    static int argc = 1;
-    static char name[] = "test";
-    static char* argv[] = {name, nullptr};
-    static QtToolkit* one = [] {
-        // The file dialog keeps settings of its own.
-        static const QTemporaryDir home;
-        qputenv("HOME", home.path().toLocal8Bit());
-        qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        // Left to the end of the process, as the program does.
-        return new QtToolkit(argc, argv, {});
-    }();
-    return *one;
+    static const HandlerTable table = sample_handlers;
+    Caption = "Sample";
+    ClientWidth = 300;
+    ClientHeight = 200;
+    handlers = {table};
+    design(*this);
 }
 
-Desk::Desk()
-{
-    toolkit();
-    static const HandlerTable table = handlers;
-    form.Caption = "Sample";
-    form.ClientWidth = 300;
-    form.ClientHeight = 200;
-    form.handlers = {table};
-    design(form);
-    acts.clear();
-    toolkit().Show(form);
-    heard.clear();
-}
-
-Desk::~Desk()
-{
-    toolkit().Hide(form);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-}
-
-QWidget& Desk::find_widget(const std::string& name, int index)
-{
-    return *window().widget(place_of(form, *form.find(name, index)));
-}
-
-} // namespace ostrelum::qt_platform::desk
+} // namespace ostrelum::conformance

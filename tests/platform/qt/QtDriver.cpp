@@ -1,0 +1,265 @@
+#include "tests/platform/qt/SampleWindow.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTest>
+
+namespace ostrelum::qt_platform {
+namespace {
+
+using namespace conformance;
+
+/// One enumerator of the toolkit for each of the program's.
+template <class Ours, class Theirs>
+struct Pair {
+    Ours ours;
+    Theirs theirs;
+};
+
+constexpr Pair<Key, Qt::Key> keys[] = {
+    {Key::Tab, Qt::Key_Tab},      {Key::Up, Qt::Key_Up},         {Key::Down, Qt::Key_Down},
+    {Key::Left, Qt::Key_Left},    {Key::Right, Qt::Key_Right},   {Key::Home, Qt::Key_Home},
+    {Key::End, Qt::Key_End},      {Key::PageUp, Qt::Key_PageUp}, {Key::PageDown, Qt::Key_PageDown},
+    {Key::Enter, Qt::Key_Return}, {Key::Space, Qt::Key_Space},   {Key::Escape, Qt::Key_Escape},
+    {Key::Menu, Qt::Key_Menu},    {Key::F10, Qt::Key_F10}};
+constexpr Pair<int, Qt::MouseButton> buttons[] = {
+    {LeftButton, Qt::LeftButton}, {RightButton, Qt::RightButton}, {MiddleButton, Qt::MiddleButton}};
+constexpr Pair<MouseCursor, Qt::CursorShape> cursors[] = {
+    {MouseCursor::Arrow, Qt::ArrowCursor},
+    {MouseCursor::Hourglass, Qt::WaitCursor},
+    {MouseCursor::Hand, Qt::PointingHandCursor}};
+
+auto theirs(const auto& pairs, auto ours)
+{
+    return std::ranges::find(pairs, ours, [](const auto& pair) { return pair.ours; })->theirs;
+}
+
+auto ours(const auto& pairs, auto theirs)
+{
+    return std::ranges::find(pairs, theirs, [](const auto& pair) { return pair.theirs; })->ours;
+}
+
+Qt::KeyboardModifiers modifiers_of(int shift)
+{
+    return (shift & 1 ? Qt::ShiftModifier : Qt::NoModifier) |
+           (shift & 2 ? Qt::ControlModifier : Qt::NoModifier) |
+           (shift & 4 ? Qt::AltModifier : Qt::NoModifier);
+}
+
+Look text_look(const QWidget& widget, const QString& text)
+{
+    const QFont font = widget.font();
+    return {.text = text.toStdString(),
+            .font = {.Name = font.families().value(0).toStdString(),
+                     .Size = font.pixelSize() * 72 / 96.0,
+                     .Bold = font.bold(),
+                     .Italic = font.italic(),
+                     .Underline = font.underline()}};
+}
+
+Look look_of(const QLabel& label)
+{
+    Look look = text_look(label, label.text());
+    const QColor colour = label.palette().color(QPalette::WindowText);
+    look.colour = rgb(colour.red(), colour.green(), colour.blue());
+    look.alignment = label.alignment() & Qt::AlignRight     ? Align::Right
+                     : label.alignment() & Qt::AlignHCenter ? Align::Centre
+                                                            : Align::Left;
+    look.wraps = label.wordWrap();
+    return look;
+}
+
+/// The fields that each kind of widget has.
+Look look_of(const QWidget& widget)
+{
+    if (const auto* label = qobject_cast<const QLabel*>(&widget))
+        return look_of(*label);
+    if (const auto* button = qobject_cast<const QPushButton*>(&widget))
+        return text_look(*button, button->text());
+    if (const auto* bar = qobject_cast<const QScrollBar*>(&widget))
+        return {.min = bar->minimum(), .max = bar->maximum(), .value = bar->value()};
+    if (const auto* box = qobject_cast<const QCheckBox*>(&widget)) {
+        Look look = text_look(*box, box->text());
+        look.value = box->isChecked() ? 1 : 0;
+        return look;
+    }
+    if (const auto* box = qobject_cast<const QComboBox*>(&widget)) {
+        Look look = text_look(*box, "");
+        look.value = box->currentIndex();
+        for (int entry = 0; entry < box->count(); ++entry)
+            look.list.push_back(box->itemText(entry).toStdString());
+        return look;
+    }
+    return {};
+}
+
+QMenu* open_menu()
+{
+    return qobject_cast<QMenu*>(QApplication::activePopupWidget());
+}
+
+class QtDriver : public Driver {
+public:
+    ~QtDriver() override { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
+    Toolkit& toolkit() override { return qt_toolkit(); }
+
+    void button_down(Form& form, Point at, int button, int shift) override
+    {
+        QTest::mousePress(native(form), theirs(buttons, button), modifiers_of(shift), {at.x, at.y});
+    }
+    void button_up(Form& form, Point at, int button, int shift) override
+    {
+        if (is_on_screen(form))
+            QTest::mouseRelease(native(form), theirs(buttons, button), modifiers_of(shift),
+                                {at.x, at.y});
+    }
+    void move_mouse(Form& form, Point at) override { QTest::mouseMove(native(form), {at.x, at.y}); }
+    void press_key(Form& form, Key key, int shift) override
+    {
+        QTest::keyClick(window(form).focusWidget(), theirs(keys, key), modifiers_of(shift));
+    }
+    void drag(Form& form, const ScrollBar& bar, const std::vector<int>& values) override
+    {
+        QWidget* widget = window(form).widget(place_of(form, form.entry_of(&bar)));
+        auto& slider = dynamic_cast<QScrollBar&>(*widget);
+        slider.setSliderDown(true);
+        for (const int value : values)
+            slider.setSliderPosition(value);
+        slider.setSliderDown(false);
+    }
+    void close(Form& form) override { window(form).close(); }
+    void choose(Form& form, const MenuItem* entry) override;
+
+    bool is_on_screen(const Form& form) const override
+    {
+        const FormWindow* window = qt_toolkit().window_of(form);
+        return window && window->isVisible();
+    }
+    std::string title(const Form& form) const override
+    {
+        return window(form).windowTitle().toStdString();
+    }
+    Point size(const Form& form) const override
+    {
+        return {window(form).width(), window(form).height()};
+    }
+    int opacity(const Form& form) const override
+    {
+        return qRound(window(form).windowOpacity() * 255);
+    }
+    Look look(const Form& form, int control) const override;
+    int focused(const Form& form) const override
+    {
+        return control_of(form, window(form).focusWidget());
+    }
+    int marked(const Form& form) const override;
+    std::vector<MenuEntry> menu() const override;
+    std::optional<Point> menu_place(const Form& form) const override
+    {
+        const QPoint place = window(form).mapFromGlobal(open_menu()->pos());
+        return Point{place.x(), place.y()};
+    }
+    MouseCursor screen_cursor() const override
+    {
+        const QCursor* cursor = QGuiApplication::overrideCursor();
+        return cursor ? ours(cursors, cursor->shape()) : MouseCursor::Default;
+    }
+
+    void let_time_pass(int milliseconds) override { QTest::qWait(milliseconds); }
+    void stay_busy(int milliseconds) override { QTest::qSleep(milliseconds); }
+    bool wait_for(const std::function<bool()>& condition) override
+    {
+        return QTest::qWaitFor(condition, 5000);
+    }
+    void show_modal(Form& form) override { qt_toolkit().ShowModal(form); }
+
+private:
+    static FormWindow& window(const Form& form) { return *qt_toolkit().window_of(form); }
+    static QWindow* native(const Form& form) { return window(form).windowHandle(); }
+    static int control_of(const Form& form, const QWidget* widget)
+    {
+        for (const ControlEntry& entry : form.controls) {
+            if (widget && window(form).widget(place_of(form, entry)) == widget)
+                return place_of(form, entry);
+        }
+        return form_itself;
+    }
+};
+
+Look QtDriver::look(const Form& form, int control) const
+{
+    const QWidget& widget = *window(form).widget(control);
+    Look look = look_of(widget);
+    const QRect place = widget.geometry().marginsRemoved(widget.contentsMargins());
+    look.area = {place.x(), place.y(), place.width(), place.height()};
+    look.visible = widget.isVisible();
+    look.enabled = widget.isEnabled();
+    look.tooltip = widget.toolTip().toStdString();
+    if (widget.testAttribute(Qt::WA_SetCursor))
+        look.cursor = ours(cursors, widget.cursor().shape());
+    return look;
+}
+
+/// The control in the frame of the focus.
+int QtDriver::marked(const Form& form) const
+{
+    for (const QObject* child : window(form).children()) {
+        const auto* frame = dynamic_cast<const FocusFrame*>(child);
+        if (!frame || !frame->isVisible())
+            continue;
+        for (const ControlEntry& entry : form.controls) {
+            const QWidget* widget = window(form).widget(place_of(form, entry));
+            if (widget &&
+                QRect(widget->mapTo(widget->window(), QPoint()), widget->size()).center() ==
+                    frame->geometry().center())
+                return place_of(form, entry);
+        }
+    }
+    return form_itself;
+}
+
+std::vector<MenuEntry> QtDriver::menu() const
+{
+    std::vector<MenuEntry> entries;
+    if (const QMenu* menu = open_menu()) {
+        for (const QAction* action : menu->actions())
+            entries.push_back({action->isSeparator() ? "-" : action->text().toStdString(),
+                               action->isEnabled(), action->font().bold()});
+    }
+    return entries;
+}
+
+void QtDriver::choose(Form&, const MenuItem* entry)
+{
+    QMenu* menu = open_menu();
+    if (!entry) {
+        QTest::keyClick(menu, Qt::Key_Escape);
+        return;
+    }
+    for (QAction* action : menu->actions()) {
+        if (action->text().toStdString() == entry->Caption)
+            QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
+    }
+    if (open_menu())
+        QTest::keyClick(menu, Qt::Key_Escape);
+    QCoreApplication::processEvents();
+}
+
+std::unique_ptr<Driver> make_qt_driver()
+{
+    return std::make_unique<QtDriver>();
+}
+
+} // namespace
+} // namespace ostrelum::qt_platform
+
+namespace ostrelum::conformance {
+
+INSTANTIATE_TEST_SUITE_P(Toolkit, Conformance,
+                         testing::Values(BackEnd{"Qt", qt_platform::make_qt_driver}));
+
+} // namespace ostrelum::conformance
