@@ -12,7 +12,7 @@ Json value_of(const Value& value)
     if (value.is_null())
         return nullptr;
     if (value.is_boolean())
-        return value.truth();
+        return value.as_bool();
     if (value.is_whole())
         return static_cast<std::int64_t>(value.number());
     if (value.is_real())

@@ -93,7 +93,7 @@ std::string privilege_level()
 std::string yes_or_no(const std::string& slot)
 {
     std::string word;
-    attempt([&] { word = Trad[Value(slot).truth() ? Text::Yes : Text::No]; });
+    attempt([&] { word = Trad[Value(slot).as_bool() ? Text::Yes : Text::No]; });
     return word;
 }
 

@@ -20,12 +20,12 @@ void add_volume_name(std::string& list, const Instance& item)
 
 void add_sizes(const Instance& item)
 {
-    attempt([&] { Num1 = Value(item["Size"].number() / 1024).whole(); });
+    attempt([&] { Num1 = Value(item["Size"].number() / 1024).as_int32(); });
     add_capacity(Datos[Slot::Capacities], SizeByDigits(SizeUse::DriveCapacity, Num1));
-    attempt([&] { Num2 = Value(item["Freespace"].number() / 1024).whole(); });
+    attempt([&] { Num2 = Value(item["Freespace"].number() / 1024).as_int32(); });
     add_share(Datos[Slot::Free], SizeByDigits(SizeUse::DriveFree, Num2), Num2, Num1);
     attempt([&] {
-        const std::int32_t used = Value(std::int64_t{Num1} - Num2).whole();
+        const std::int32_t used = Value(std::int64_t{Num1} - Num2).as_int32();
         add_share(Datos[Slot::Used], SizeByDigits(SizeUse::DriveUsed, used), used, Num1);
     });
 }

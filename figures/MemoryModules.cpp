@@ -15,9 +15,9 @@ void add_module(const Instance& item)
     attempt([&] { Datos[Slot::Type] = trimmed(item["MemoryType"]); });
     attempt([&] { Datos[Slot::FormFactor] = trimmed(item["FormFactor"]); });
     attempt([&] { Datos[Slot::Width] = trimmed(item["TotalWidth"]); });
-    attempt([&] { Num1 = Value(Num1 + item["Capacity"].number() / 1024).whole(); });
+    attempt([&] { Num1 = Value(Num1 + item["Capacity"].number() / 1024).as_int32(); });
     if (holds([&] { return !trimmed(item["DeviceLocator"]).empty(); }))
-        Datos[Slot::ModuleCount] = Value(Value(Datos[Slot::ModuleCount]).whole() + 1).text();
+        Datos[Slot::ModuleCount] = Value(Value(Datos[Slot::ModuleCount]).as_int32() + 1).text();
 }
 
 } // namespace

@@ -75,7 +75,7 @@ std::int32_t virtual_memory(const Instance& item)
 
 std::int32_t virtual_memory_in_use(const Instance& item)
 {
-    return Value(Num1 - std::floor(item["FreeVirtualMemory"].number() / 1024)).whole();
+    return Value(Num1 - std::floor(item["FreeVirtualMemory"].number() / 1024)).as_int32();
 }
 
 std::string service_pack()

@@ -14,8 +14,8 @@ using Slot = ProcessorSlot;
 
 constexpr std::array<Statement, 9> walk{
     [](const Instance& item, QueryForm) { Datos[Slot::Name] = trimmed(item["Name"]); },
-    [](const Instance& item, QueryForm) { Num1 = item["CurrentClockSpeed"].whole(); },
-    [](const Instance& item, QueryForm) { Num2 = item["MaxClockSpeed"].whole(); },
+    [](const Instance& item, QueryForm) { Num1 = item["CurrentClockSpeed"].as_int32(); },
+    [](const Instance& item, QueryForm) { Num2 = item["MaxClockSpeed"].as_int32(); },
     [](const Instance& item, QueryForm) {
         Datos[Slot::Manufacturer] = trimmed(item["Manufacturer"]);
     },

@@ -30,7 +30,7 @@ std::string time_left(const std::string& minutes)
 {
     if (minutes.empty())
         return "";
-    return FillMark(Trad[Text::ClockTime], "(HHMMSS)", MinutesText(Value(minutes).whole()));
+    return FillMark(Trad[Text::ClockTime], "(HHMMSS)", MinutesText(Value(minutes).as_int32()));
 }
 
 } // namespace

@@ -66,7 +66,7 @@ void refresh_memory()
     Num2 = 0;
     query("Select FreePhysicalMemory from Win32_OperatingSystem");
     first(WmiResult, [](const Instance& item) {
-        attempt([&] { Num2 = item["FreePhysicalMemory"].whole(); });
+        attempt([&] { Num2 = item["FreePhysicalMemory"].as_int32(); });
     });
     place_value(4);
     place_value(5);

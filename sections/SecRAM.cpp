@@ -12,7 +12,7 @@ void read_use_of_memory()
     Num2 = 0;
     query("Select FreePhysicalMemory, LargeSystemCache from Win32_OperatingSystem");
     first(WmiResult, [](const Instance& item) {
-        attempt([&] { Num2 = item["FreePhysicalMemory"].whole(); });
+        attempt([&] { Num2 = item["FreePhysicalMemory"].as_int32(); });
         attempt([&] { Datos[MemorySlot::FavouredUse] = trimmed(item["LargeSystemCache"]); });
     });
 }

@@ -50,7 +50,7 @@ void add_sizes(const Instance& item)
     attempt([&] { Num2 = whole_kilobytes(item["Freespace"]); });
     add_share(Datos[VolumeSlot::Free], SizeByDigits(SizeUse::RemovableFree, Num2), Num2, Num1);
     attempt([&] {
-        const std::int32_t used = Value(std::int64_t{Num1} - Num2).whole();
+        const std::int32_t used = Value(std::int64_t{Num1} - Num2).as_int32();
         add_share(Datos[VolumeSlot::Used], SizeByDigits(SizeUse::RemovableUsed, used), used, Num1);
     });
 }

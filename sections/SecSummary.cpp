@@ -21,7 +21,7 @@ void add_up_megabytes(const char* property)
 {
     Num1 = 0;
     each(WmiResult, [&](const Instance& item) {
-        attempt([&] { Num1 = Value(Num1 + megabytes(item, property)).whole(); });
+        attempt([&] { Num1 = Value(Num1 + megabytes(item, property)).as_int32(); });
     });
 }
 
@@ -43,10 +43,10 @@ void show_speed()
     set_title(3, Trad[Text::ProcessorSpeed] + " ");
     query("Select MaxClockSpeed from Win32_Processor");
     first(WmiResult,
-          [](const Instance& item) { attempt([&] { Num1 = item["MaxClockSpeed"].whole(); }); });
+          [](const Instance& item) { attempt([&] { Num1 = item["MaxClockSpeed"].as_int32(); }); });
     attempt([] {
         SysInfo = platform.system_api->GetOstrelum();
-        Num2 = Value(SysInfo.dwNumberOfProcessors).whole();
+        Num2 = Value(SysInfo.dwNumberOfProcessors).as_int32();
     });
     set_value(3, speed_text);
 }
@@ -67,7 +67,7 @@ void show_graphics_memory()
     set_title(5, Trad[Text::GraphicsCardMemory] + " ");
     query("Select AdapterRAM, Name from Win32_VideoController");
     first(WmiResult, [](const Instance& item) {
-        attempt([&] { Num1 = Value(megabytes(item, "AdapterRAM")).whole(); });
+        attempt([&] { Num1 = Value(megabytes(item, "AdapterRAM")).as_int32(); });
         attempt([&] { Datos[SummarySlot::GraphicsCard] = trimmed(item["Name"]); });
     });
     set_value(5, Num1 == 0 ? "" : SizeWhole(Num1));

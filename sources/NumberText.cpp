@@ -28,7 +28,7 @@ std::string RealText(double number, std::string_view decimal_sign)
 
 std::int32_t rounded_down(double number)
 {
-    return Value(std::floor(number)).whole();
+    return Value(std::floor(number)).as_int32();
 }
 
 } // namespace ostrelum::inline sources

@@ -30,7 +30,7 @@ std::int64_t PercentCut(std::int32_t part, std::int32_t whole)
 
 std::int64_t PercentRound(std::int32_t part, std::int32_t whole)
 {
-    const std::int32_t product = Value(std::int64_t{part} * 100).whole();
+    const std::int32_t product = Value(std::int64_t{part} * 100).as_int32();
     return to_even(static_cast<double>(product) / divisor(whole));
 }
 

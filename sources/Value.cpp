@@ -61,7 +61,7 @@ double Value::number() const
     throw Failure("null read as a number");
 }
 
-std::int32_t Value::whole() const
+std::int32_t Value::as_int32() const
 {
     // The rounding mode is never changed, so nearbyint rounds halves to the even neighbour.
     const double rounded = std::nearbyint(number());
@@ -71,7 +71,7 @@ std::int32_t Value::whole() const
     return static_cast<std::int32_t>(rounded);
 }
 
-bool Value::truth() const
+bool Value::as_bool() const
 {
     if (const auto* text = std::get_if<std::string>(&held_)) {
         if (same_ascii_letters(*text, "true"))

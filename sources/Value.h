@@ -14,7 +14,7 @@ namespace ostrelum::inline sources {
 class Value {
 public:
     Value() = default;
-    Value(bool truth) : held_(truth) {}
+    Value(bool boolean) : held_(boolean) {}
     template <std::integral Whole>
     requires(!std::same_as<Whole, bool>) Value(Whole whole)
         : held_(static_cast<std::int64_t>(whole))
@@ -40,11 +40,11 @@ public:
 
     /// As a signed 32-bit whole number, rounded to nearest with ties to even. Throws Failure as
     /// number() does, and for what 32 bits cannot hold.
-    std::int32_t whole() const;
+    std::int32_t as_int32() const;
 
-    /// As a truth value: a number other than 0, or the texts "True" and "False" in any case. Throws
+    /// As a boolean: a number other than 0, or the texts "True" and "False" in any case. Throws
     /// Failure on null and on other text.
-    bool truth() const;
+    bool as_bool() const;
 
     bool operator==(const Value&) const = default;
 

@@ -21,7 +21,7 @@ inline Instance recorded_object(const std::string& line, char between = '\t')
         if (sign != std::string::npos)
             value = column.substr(sign + 1);
         if (value == Value("True") || value == Value("False"))
-            value = value.truth();
+            value = value.as_bool();
         properties.emplace_back(column.substr(0, sign), value);
     }
     return Instance(std::move(properties));

@@ -13,7 +13,7 @@ Value typed_literal(const Value& literal, CimType type)
     if (literal.is_null())
         return literal;
     switch (type) {
-    case CimType::Boolean: return literal.truth();
+    case CimType::Boolean: return literal.as_bool();
     case CimType::String:
     case CimType::DateTime: return literal.text();
     default: return literal.is_whole() ? literal : literal.number();
@@ -32,7 +32,7 @@ std::partial_ordering compare_values(const Value& value, const Value& literal)
     if (literal.is_text())
         return compare_texts(value.text(), literal.text());
     if (literal.is_boolean())
-        return value.truth() <=> literal.truth();
+        return value.as_bool() <=> literal.as_bool();
     return value.number() <=> literal.number();
 }
 

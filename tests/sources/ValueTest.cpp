@@ -12,7 +12,7 @@ TEST(Values, ConvertAsTheServicesOwnDo)
     EXPECT_EQ(Value(true).text(), "True");
     EXPECT_EQ(Value(" 42 ").number(), 42);
     EXPECT_EQ(Value(true).number(), -1);
-    EXPECT_TRUE(Value("FALSE").truth() == false && Value(2).truth());
+    EXPECT_TRUE(Value("FALSE").as_bool() == false && Value(2).as_bool());
 }
 
 TEST(Values, RoundToWholeNumbersWithTiesToEvenWithin32Bits)
@@ -26,9 +26,9 @@ TEST(Values, RoundToWholeNumbersWithTiesToEvenWithin32Bits)
                                                     {2147483647.4, 2147483647},
                                                     {-2147483648.5, -2147483648}};
     for (const auto& [value, whole] : cases)
-        EXPECT_EQ(value.whole(), whole) << value.text();
+        EXPECT_EQ(value.as_int32(), whole) << value.text();
     for (const Value& wide : {Value(2147483647.5), Value("2147483648"), Value(1e300)})
-        EXPECT_THROW(wide.whole(), Failure) << wide.text();
+        EXPECT_THROW(wide.as_int32(), Failure) << wide.text();
 }
 
 TEST(Values, ThatCannotBeConvertedFail)
@@ -37,7 +37,7 @@ TEST(Values, ThatCannotBeConvertedFail)
     EXPECT_THROW(Value().number(), Failure);
     for (const char* text : {"", " ", "12 MB", "1,5", "0x10", "nan", "inf", "--1", "1e999"})
         EXPECT_THROW(Value(text).number(), Failure) << text;
-    EXPECT_THROW(Value("perhaps").truth(), Failure);
+    EXPECT_THROW(Value("perhaps").as_bool(), Failure);
 }
 
 } // namespace
