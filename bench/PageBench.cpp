@@ -1,4 +1,4 @@
-#include "frame/Life.h"
+#include "frame/Lifecycle.h"
 #include "frame/Navigation.h"
 #include "tests/MemoryProgram.h"
 

@@ -1,4 +1,4 @@
-#include "frame/Life.h"
+#include "frame/Lifecycle.h"
 #include "report/Body.h"
 #include "report/Documents.h"
 #include "report/Report.h"

@@ -1,4 +1,4 @@
-#include "frame/Life.h"
+#include "frame/Lifecycle.h"
 #include "frame/Pictures.h"
 #include "skin/Pixels.h"
 #include "skin/Skin.h"

@@ -2,7 +2,7 @@
 
 #include "figures/Platform.h"
 #include "figures/Shared.h"
-#include "frame/Life.h"
+#include "frame/Lifecycle.h"
 #include "frame/MainForm.h"
 #include "frame/Navigation.h"
 #include "frame/SettingRows.h"

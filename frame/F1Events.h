@@ -10,7 +10,7 @@ namespace ostrelum::inline frame {
 /// handlers at its foot; here they come together.
 std::vector<HandlerTable> main_form_handlers();
 
-extern const HandlerTable life_handlers;
+extern const HandlerTable lifecycle_handlers;
 extern const HandlerTable navigation_handlers;
 extern const HandlerTable page_menu_handlers;
 extern const HandlerTable language_handlers;

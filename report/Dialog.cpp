@@ -9,7 +9,7 @@
 #include "report/ReportForm.h"
 #include "skin/BlendPicture.h"
 
-/// The life of the report dialog: fade in, run the chain, offer the documents, fade out.
+/// The lifecycle of the report dialog: fade in, run the chain, offer the documents, fade out.
 namespace ostrelum::inline report {
 namespace {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/Life.h"
+#include "frame/Lifecycle.h"
 #include "frame/MainForm.h"
 #include "frame/Navigation.h"
 #include "frame/PictureForm.h"

@@ -1,7 +1,7 @@
 #include "window/Window.h"
 
 #include "figures/Platform.h"
-#include "frame/Life.h"
+#include "frame/Lifecycle.h"
 #include "frame/Pictures.h"
 #include "platform/linux/LinuxManagementService.h"
 #include "platform/linux/LinuxSystem.h"

@@ -1,4 +1,4 @@
-#include "frame/Life.h"
+#include "frame/Lifecycle.h"
 #include "frame/MainForm.h"
 #include "frame/Navigation.h"
 #include "frame/Pictures.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/Life.h"
+#include "frame/Lifecycle.h"
 #include "frame/MainForm.h"
 #include "report/Report.h"
 #include "tests/report/ReportProgram.h"

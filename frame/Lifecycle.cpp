@@ -1,4 +1,4 @@
-#include "frame/Life.h"
+#include "frame/Lifecycle.h"
 
 #include "figures/PassOver.h"
 #include "figures/Platform.h"
@@ -133,7 +133,7 @@ void put_to_first_state()
 
 } // namespace
 
-const HandlerTable life_handlers{table};
+const HandlerTable lifecycle_handlers{table};
 
 void load_program()
 {

@@ -7,7 +7,7 @@ namespace {
 
 using ::testing::ElementsAre;
 
-class Life : public Stage {
+class Lifecycle : public Stage {
 protected:
     /// Ticks a fade's timer until it stops or the process ends; the levels that it went through.
     std::vector<int> levels_of_fade(std::string_view name, const Timer& timer)
@@ -24,7 +24,7 @@ protected:
     }
 };
 
-TEST_F(Life, FirstRunWritesFiveDefaultsInOrderAndFadesInToOpaque)
+TEST_F(Lifecycle, FirstRunWritesFiveDefaultsInOrderAndFadesInToOpaque)
 {
     start_program();
     EXPECT_THAT(store.writes,
@@ -41,7 +41,7 @@ TEST_F(Life, FirstRunWritesFiveDefaultsInOrderAndFadesInToOpaque)
     EXPECT_EQ(toolkit.GetWindowLongA(F1, extended_style_index), layered_style);
 }
 
-TEST_F(Life, FadesRestAtTheTransparencyAndStartOverWhenClosedAgain)
+TEST_F(Lifecycle, FadesRestAtTheTransparencyAndStartOverWhenClosedAgain)
 {
     store_number("Transparency", 80);
     start_program();
@@ -61,7 +61,7 @@ TEST_F(Life, FadesRestAtTheTransparencyAndStartOverWhenClosedAgain)
     EXPECT_EQ(store.writes.size(), 4U) << "nothing is saved at the end";
 }
 
-TEST_F(Life, WithoutTransparencyTheWindowIsNeverLayeredAndEndsAtOnce)
+TEST_F(Lifecycle, WithoutTransparencyTheWindowIsNeverLayeredAndEndsAtOnce)
 {
     store_number("ChkTrans", 0);
     start_program();
@@ -71,7 +71,7 @@ TEST_F(Life, WithoutTransparencyTheWindowIsNeverLayeredAndEndsAtOnce)
     EXPECT_TRUE(system_api.ended);
 }
 
-TEST_F(Life, ASecondInstanceEndsBeforeAnythingElse)
+TEST_F(Lifecycle, ASecondInstanceEndsBeforeAnythingElse)
 {
     system_api.second_instance = true;
     EXPECT_THROW(start_program(), ProcessEnded);
@@ -80,7 +80,7 @@ TEST_F(Life, ASecondInstanceEndsBeforeAnythingElse)
     EXPECT_TRUE(store.writes.empty());
 }
 
-TEST_F(Life, WithoutServiceAndShellTheWindowOpensWithDefaultsInMemory)
+TEST_F(Lifecycle, WithoutServiceAndShellTheWindowOpensWithDefaultsInMemory)
 {
     service_gone = shell_gone = true;
     start_program();
@@ -93,7 +93,7 @@ TEST_F(Life, WithoutServiceAndShellTheWindowOpensWithDefaultsInMemory)
     EXPECT_EQ(toolkit.shown, std::vector<Form*>{&F1});
 }
 
-TEST_F(Life, StartFillsMenuSkinAndFirstPageBeforeTheWindowShows)
+TEST_F(Lifecycle, StartFillsMenuSkinAndFirstPageBeforeTheWindowShows)
 {
     store_text("Language", "  Dutch ");
     start_program();
@@ -107,7 +107,7 @@ TEST_F(Life, StartFillsMenuSkinAndFirstPageBeforeTheWindowShows)
     EXPECT_EQ(toolkit.cursors, (std::vector{MouseCursor::Hourglass, MouseCursor::Default}));
 }
 
-TEST_F(Life, PreferredFontsNeedBothFilesWithTheArchiveFlagAlone)
+TEST_F(Lifecycle, PreferredFontsNeedBothFilesWithTheArchiveFlagAlone)
 {
     const struct {
         int text, light;
