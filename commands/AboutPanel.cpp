@@ -99,7 +99,7 @@ void VisitWeb_Click()
     open_address(WebAddress);
 }
 
-constexpr Handler rows[] = {
+constexpr Handler handlers[] = {
     OSTRELUM_ON(Informacion_Click), OSTRELUM_ON(LTra2_MouseDown),
     OSTRELUM_ON(LTra2_MouseMove),   OSTRELUM_ON(PicInformacion_MouseMove),
     OSTRELUM_ON(LTra1_MouseMove),   OSTRELUM_ON(VisitWeb_Click),
@@ -107,6 +107,6 @@ constexpr Handler rows[] = {
 
 } // namespace
 
-const HandlerTable about_panel_handlers{rows};
+const HandlerTable about_panel_handlers{handlers};
 
 } // namespace ostrelum::inline commands

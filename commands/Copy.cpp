@@ -56,10 +56,10 @@ void CopyAll_Click()
     });
 }
 
-constexpr Handler rows[] = {OSTRELUM_ON(Copy_Click), OSTRELUM_ON(CopyAll_Click)};
+constexpr Handler handlers[] = {OSTRELUM_ON(Copy_Click), OSTRELUM_ON(CopyAll_Click)};
 
 } // namespace
 
-const HandlerTable copy_handlers{rows};
+const HandlerTable copy_handlers{handlers};
 
 } // namespace ostrelum::inline commands

@@ -59,11 +59,11 @@ void LangList_Click()
     F1.PicPersonalizar.Cls();
 }
 
-constexpr Handler table[] = {OSTRELUM_ON(LangList_Click)};
+constexpr Handler handlers[] = {OSTRELUM_ON(LangList_Click)};
 
 } // namespace
 
-const HandlerTable language_handlers{table};
+const HandlerTable language_handlers{handlers};
 
 void set_texts(std::span<const TextRow> table)
 {

@@ -119,7 +119,7 @@ void TUnload_Timer()
     }
 }
 
-constexpr Handler table[] = {
+constexpr Handler handlers[] = {
     OSTRELUM_ON(Form_Initialize), OSTRELUM_ON(Form_Load),   OSTRELUM_ON(TLoad_Timer),
     OSTRELUM_ON(Quit_Click),      OSTRELUM_ON(Form_Unload), OSTRELUM_ON(TUnload_Timer),
 };
@@ -133,7 +133,7 @@ void put_to_first_state()
 
 } // namespace
 
-const HandlerTable lifecycle_handlers{table};
+const HandlerTable lifecycle_handlers{handlers};
 
 void load_program()
 {

@@ -96,7 +96,7 @@ void set_navigation(bool live, Colour options, Colour names, MouseCursor cursor)
     }
 }
 
-constexpr Handler rows[] = {
+constexpr Handler handlers[] = {
     OSTRELUM_ON(LMenu_MouseDown), OSTRELUM_ON(S_MouseDown),      OSTRELUM_ON(S_MouseUp),
     OSTRELUM_ON(S_MouseMove),     OSTRELUM_ON(LMenu2_Click),     OSTRELUM_ON(BM_Click),
     OSTRELUM_ON(LOpc_MouseUp),    OSTRELUM_ON(MenuLogo_MouseUp),
@@ -104,7 +104,7 @@ constexpr Handler rows[] = {
 
 } // namespace
 
-const HandlerTable navigation_handlers{rows};
+const HandlerTable navigation_handlers{handlers};
 
 void LMenu_MouseDown(int index, int button, int, int, int)
 {

@@ -51,7 +51,7 @@ void L_MouseDown(int index, int button, int shift, int x, int y)
     LT_MouseDown(index, button, shift, x, y);
 }
 
-constexpr Handler table[] = {
+constexpr Handler handlers[] = {
     OSTRELUM_ON(Form_MouseDown),
     OSTRELUM_ON(TapaBorde_MouseDown),
     OSTRELUM_ON(LT_MouseDown),
@@ -60,6 +60,6 @@ constexpr Handler table[] = {
 
 } // namespace
 
-const HandlerTable page_menu_handlers{table};
+const HandlerTable page_menu_handlers{handlers};
 
 } // namespace ostrelum::inline frame

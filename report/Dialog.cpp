@@ -151,8 +151,8 @@ void TUnload_Timer()
     }
 }
 
-constexpr Handler command_rows[] = {OSTRELUM_ON(CrearInforme_Click)};
-constexpr Handler dialog_rows[] = {
+constexpr Handler command_handlers[] = {OSTRELUM_ON(CrearInforme_Click)};
+constexpr Handler dialog_handlers[] = {
     OSTRELUM_ON(Form_Load),     OSTRELUM_ON(TLoad_Timer),  OSTRELUM_ON(Descargador_Timer),
     OSTRELUM_ON(TAlphaB_Timer), OSTRELUM_ON(BClose_Click), OSTRELUM_ON(Form_Unload),
     OSTRELUM_ON(TUnload_Timer),
@@ -160,8 +160,8 @@ constexpr Handler dialog_rows[] = {
 
 } // namespace
 
-const HandlerTable report_command_handlers{command_rows};
-const HandlerTable report_dialog_handlers{dialog_rows};
+const HandlerTable report_command_handlers{command_handlers};
+const HandlerTable report_dialog_handlers{dialog_handlers};
 
 std::vector<HandlerTable> report_form_handlers()
 {

@@ -90,11 +90,11 @@ void BSave_Click()
         attempt(save);
 }
 
-constexpr Handler rows[] = {OSTRELUM_ON(BSave_Click)};
+constexpr Handler handlers[] = {OSTRELUM_ON(BSave_Click)};
 
 } // namespace
 
-const HandlerTable save_handlers{rows};
+const HandlerTable save_handlers{handlers};
 
 std::string ansi_file(const std::string& document)
 {

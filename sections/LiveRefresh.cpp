@@ -27,11 +27,11 @@ void Timer1_Timer()
         stop();
 }
 
-constexpr Handler table[] = {OSTRELUM_ON(Timer1_Timer)};
+constexpr Handler handlers[] = {OSTRELUM_ON(Timer1_Timer)};
 
 } // namespace
 
-const HandlerTable live_refresh_handlers{table};
+const HandlerTable live_refresh_handlers{handlers};
 
 void refresh_user()
 {

@@ -40,11 +40,11 @@ void TAlphaB_Timer()
         BlendPicture(F1.Iaviso, F6.get().*pictures.alert, alpha);
 }
 
-constexpr Handler rows[] = {OSTRELUM_ON(TAlphaB_Timer)};
+constexpr Handler handlers[] = {OSTRELUM_ON(TAlphaB_Timer)};
 
 } // namespace
 
-const HandlerTable cross_fade_handlers{rows};
+const HandlerTable cross_fade_handlers{handlers};
 
 void start_cross_fade()
 {

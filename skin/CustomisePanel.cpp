@@ -166,7 +166,7 @@ void BAceptar_Click()
     LMenu_MouseDown(F1.Seccion, LeftButton, 0, 0, 0);
 }
 
-constexpr Handler rows[] = {
+constexpr Handler handlers[] = {
     OSTRELUM_ON(Personalizar_Click), OSTRELUM_ON(Scroll1_Scroll),   OSTRELUM_ON(Scroll1_Change),
     OSTRELUM_ON(Scroll2_Scroll),     OSTRELUM_ON(Scroll2_Change),   OSTRELUM_ON(Scroll3_Scroll),
     OSTRELUM_ON(Scroll3_Change),     OSTRELUM_ON(CheckTrans_Click), OSTRELUM_ON(BAceptar_Click),
@@ -174,6 +174,6 @@ constexpr Handler rows[] = {
 
 } // namespace
 
-const HandlerTable customise_panel_handlers{rows};
+const HandlerTable customise_panel_handlers{handlers};
 
 } // namespace ostrelum::inline skin
