@@ -7,7 +7,7 @@
 namespace ostrelum {
 namespace {
 
-constexpr const char* FirmwareQuery =
+constexpr const char* firmware_query =
     "Select Name, Manufacturer, SMBIOSBIOSVersion, ReleaseDate, SerialNumber from Win32_BIOS";
 
 /// Opening the firmware page on the memory toolkit with a scripted service: what the program itself
@@ -15,11 +15,12 @@ constexpr const char* FirmwareQuery =
 void OpenPage(benchmark::State& state)
 {
     MemoryProgram program;
-    program.script.results[FirmwareQuery] = {Instance({{"Name", "Boot 7"},
-                                                       {"Manufacturer", "Maker"},
-                                                       {"SMBIOSBIOSVersion", "1.2"},
-                                                       {"ReleaseDate", "20120315000000.000000+000"},
-                                                       {"SerialNumber", "12345"}})};
+    program.script.results[firmware_query] = {
+        Instance({{"Name", "Boot 7"},
+                  {"Manufacturer", "Maker"},
+                  {"SMBIOSBIOSVersion", "1.2"},
+                  {"ReleaseDate", "20120315000000.000000+000"},
+                  {"SerialNumber", "12345"}})};
     start_program();
     for (auto _ : state) {
         LMenu_MouseDown(8, LeftButton, 0, 0, 0);

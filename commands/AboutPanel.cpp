@@ -12,8 +12,8 @@
 namespace ostrelum::inline commands {
 namespace {
 
-constexpr Colour PlainText = rgb(32, 32, 32);
-constexpr Colour LitLink = rgb(0, 80, 210);
+constexpr Colour plain_text = rgb(32, 32, 32);
+constexpr Colour lit_link = rgb(0, 80, 210);
 
 /// Moves a label to directly behind another one.
 void place_behind(const Label& before, Label& label)
@@ -34,8 +34,8 @@ void set_info(Label& title, Label& value, const std::string& title_text, const s
 std::string version_text()
 {
     std::string date;
-    attempt([&] { date = platform.regional->short_date(VersionDate); });
-    return std::string(ProgramVersion) + " (" + date + ")";
+    attempt([&] { date = platform.regional->short_date(version_date); });
+    return std::string(program_version) + " (" + date + ")";
 }
 
 /// The Dutch table names its translator, whatever the language of the run.
@@ -48,7 +48,7 @@ void name_translator()
 
 void light_link(bool lit)
 {
-    F1.LTra2.ForeColor = lit ? LitLink : PlainText;
+    F1.LTra2.ForeColor = lit ? lit_link : plain_text;
     F1.LTra2.Font.Underline = lit;
 }
 
@@ -59,11 +59,11 @@ void open_address(std::string_view address)
 
 void Informacion_Click()
 {
-    open_panel(AboutPanel);
+    open_panel(about_panel);
     show_title();
     set_info(F1.LTInfo1, F1.LInfo1, Trad[Text::Version], version_text());
-    set_info(F1.LTInfo2, F1.LInfo2, Trad[Text::Programmer], std::string(Author));
-    set_info(F1.LTInfo3, F1.LInfo3, Trad[Text::Contact], std::string(ContactAddress));
+    set_info(F1.LTInfo2, F1.LInfo2, Trad[Text::Programmer], std::string(author));
+    set_info(F1.LTInfo3, F1.LInfo3, Trad[Text::Contact], std::string(contact_address));
     F1.LTra.Caption = Trad[Text::Translators];
     name_translator();
     fit(*platform.toolkit, F1.LTra1);
@@ -76,7 +76,7 @@ void Informacion_Click()
 void LTra2_MouseDown(int button, int, int, int)
 {
     if (button == LeftButton)
-        open_address(TranslatorAddress);
+        open_address(translator_address);
 }
 
 void LTra2_MouseMove()
@@ -96,7 +96,7 @@ void LTra1_MouseMove()
 
 void VisitWeb_Click()
 {
-    open_address(WebAddress);
+    open_address(web_address);
 }
 
 constexpr Handler handlers[] = {

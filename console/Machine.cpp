@@ -67,7 +67,7 @@ ConsoleMachine::ConsoleMachine(const Options& options)
 ConsoleMachine::ConsoleMachine(const Options& options, const Sysroot& files)
     : system_(files, shown_environment(options, files))
 {
-    store_.values[full_name(LanguageName)] = options.language;
+    store_.values[full_name(language_setting)] = options.language;
     platform = {.toolkit = &toolkit_,
                 .registry = &system_.registry,
                 .clipboard = &clipboard_,

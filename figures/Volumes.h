@@ -51,8 +51,8 @@ void add_share(std::string& list, const std::string& size, std::int32_t part, st
 bool hangs_on(const Instance& item, std::string_view bus, std::string_view other_bus);
 
 /// Separators behind the last entry of a list, in characters: " - ", and " - (" of a list of sizes.
-inline constexpr std::size_t NameTail = 3;
-inline constexpr std::size_t SizeTail = 4;
+inline constexpr std::size_t name_tail = 3;
+inline constexpr std::size_t size_tail = 4;
 
 /// A list without the separator behind its last entry. Throws Failure for a list that is shorter
 /// than the separator: it has no entry.

@@ -14,9 +14,6 @@
 namespace ostrelum::inline frame {
 namespace {
 
-/// A step of a fade, in percent of transparency.
-constexpr int FadeStep = 9;
-
 void set_level()
 {
     SetOpacity(F1, static_cast<std::int16_t>(Cnt));
@@ -87,7 +84,7 @@ void Form_Load()
 
 void TLoad_Timer()
 {
-    Cnt -= FadeStep;
+    Cnt -= fade_step;
     set_level();
     if (Cnt <= Transparency) {
         SetOpacity(F1, static_cast<std::int16_t>(Transparency));
@@ -111,7 +108,7 @@ void Form_Unload(bool& cancel)
 
 void TUnload_Timer()
 {
-    Cnt += FadeStep;
+    Cnt += fade_step;
     set_level();
     if (Cnt >= 100) {
         F1.TUnload.Enabled = false;

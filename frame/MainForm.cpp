@@ -7,9 +7,9 @@
 namespace ostrelum::inline frame {
 namespace {
 
-constexpr Colour TitleGrey = rgb(32, 32, 32);
-constexpr Colour ValueGrey = rgb(64, 64, 64);
-constexpr Colour LineGrey = rgb(200, 200, 200);
+constexpr Colour title_grey = rgb(32, 32, 32);
+constexpr Colour value_grey = rgb(64, 64, 64);
+constexpr Colour line_grey = rgb(200, 200, 200);
 
 FontSpec tahoma(double size, bool bold = false)
 {
@@ -72,25 +72,27 @@ void place_left_column(Designer& put)
 void place_page(Designer& put)
 {
     ROW(Titulo, .Left = 208, .Top = 48, .Font = {.Name = "Segoe UI Light", .Size = 26.25});
-    ROW(LineTit, .X1 = 208, .Y1 = 112, .X2 = 488, .Y2 = 112, .BorderColor = LineGrey);
+    ROW(LineTit, .X1 = 208, .Y1 = 112, .X2 = 488, .Y2 = 112, .BorderColor = line_grey);
     ROW(Ico, .Left = 676, .Top = 52, .Width = 48, .Height = 48);
     ROWS(LT, Label{.Left = 208,
                    .Top = 139 + 25 * (i - 1),
                    .Font = {.Name = "Segoe UI", .Size = 9.75, .Bold = true},
-                   .ForeColor = TitleGrey});
+                   .ForeColor = title_grey});
     ROWS(L, Label{.Left = 208,
                   .Top = 139 + 25 * (i - 1),
                   .Font = {.Name = "Segoe UI", .Size = 9.75, .Italic = true},
-                  .ForeColor = ValueGrey});
-    ROW(Line1, .X1 = 208, .Y1 = 40, .X2 = 488, .Y2 = 40, .BorderColor = LineGrey, .Visible = false);
-    ROW(Line2, .X1 = 208, .Y1 = 48, .X2 = 488, .Y2 = 48, .BorderColor = LineGrey, .Visible = false);
+                  .ForeColor = value_grey});
+    ROW(Line1, .X1 = 208, .Y1 = 40, .X2 = 488, .Y2 = 40, .BorderColor = line_grey,
+        .Visible = false);
+    ROW(Line2, .X1 = 208, .Y1 = 48, .X2 = 488, .Y2 = 48, .BorderColor = line_grey,
+        .Visible = false);
     ROW(LNoDrive, .Left = 250, .Top = 170, .Width = 420, .Height = 250,
         .Font = {.Name = "Segoe UI", .Size = 36, .Italic = true}, .ForeColor = rgb(192, 192, 192),
         .Alignment = Align::Centre, .AutoSize = false, .WordWrap = true, .Visible = false);
     ROW(Iaviso, .Left = 208, .Top = 432, .Width = 35, .Height = 35, .Visible = false);
     ROW(Laviso, .Left = 256, .Top = 435, .Width = 323, .Height = 29, .Font = tahoma(8.25),
         .AutoSize = false, .WordWrap = true, .Visible = false);
-    ROW(LineInf, .X1 = 208, .Y1 = 480, .X2 = 488, .Y2 = 480, .BorderColor = LineGrey);
+    ROW(LineInf, .X1 = 208, .Y1 = 480, .X2 = 488, .Y2 = 480, .BorderColor = line_grey);
     ROW(Labelmi, .Left = 208, .Top = 488, .Font = tahoma(8.25), .ForeColor = rgb(85, 85, 85));
     ROW(TapaBorde, .Left = 721, .Top = 128, .Width = 25, .Height = 313);
 }
@@ -111,11 +113,11 @@ void place_customise_panel(Designer& put)
     ROW(Scroll1, .Left = 17, .Top = 170, .Width = 211, .Height = 17, .Max = 210, .LargeChange = 35);
     ROW(LPers2, .Left = 17, .Top = 208, .Font = tahoma(8.25));
     ROW(Scroll2, .Left = 17, .Top = 232, .Width = 211, .Height = 17, .Max = 48, .LargeChange = 10);
-    ROW(LineP3, .X1 = 252, .Y1 = 24, .X2 = 252, .Y2 = 264, .BorderColor = LineGrey);
+    ROW(LineP3, .X1 = 252, .Y1 = 24, .X2 = 252, .Y2 = 264, .BorderColor = line_grey);
     ROW(LTPers3, .Left = 264, .Top = 0, .Font = tahoma(8.25, true));
     ROW(CheckTrans, .Left = 276, .Top = 32, .Width = 153, .Height = 25, .Font = tahoma(8.25));
     ROW(Scroll3, .Left = 276, .Top = 75, .Width = 176, .Height = 17, .Max = 80, .LargeChange = 20);
-    ROW(LPers3, .Left = 462, .Top = 77, .Font = tahoma(8.25), .ForeColor = TitleGrey);
+    ROW(LPers3, .Left = 462, .Top = 77, .Font = tahoma(8.25), .ForeColor = title_grey);
     put.on_the_form();
 }
 
@@ -125,16 +127,16 @@ void place_about_panel(Designer& put)
     put.inside(F1.PicInformacion);
     ROW(Logo, .Left = 0, .Top = 0, .Width = 295, .Height = 72, .Stored = art_picture("Logo"),
         .AccessibleName = "Dervalin Ostrelum");
-    ROW(LTInfo1, .Left = 0, .Top = 88, .Font = tahoma(8.25, true), .ForeColor = TitleGrey);
-    ROW(LInfo1, .Left = 0, .Top = 88, .Font = tahoma(8.25), .ForeColor = TitleGrey);
-    ROW(LTInfo2, .Left = 0, .Top = 112, .Font = tahoma(8.25, true), .ForeColor = TitleGrey);
-    ROW(LInfo2, .Left = 0, .Top = 112, .Font = tahoma(8.25), .ForeColor = TitleGrey);
-    ROW(LTInfo3, .Left = 0, .Top = 136, .Font = tahoma(8.25, true), .ForeColor = TitleGrey);
-    ROW(LInfo3, .Left = 0, .Top = 136, .Font = tahoma(8.25), .ForeColor = TitleGrey);
-    ROW(LineI, .X1 = 0, .Y1 = 168, .X2 = 280, .Y2 = 168, .BorderColor = LineGrey);
-    ROW(LTra, .Left = 0, .Top = 184, .Font = tahoma(8.25, true), .ForeColor = TitleGrey);
-    ROW(LTra1, .Left = 0, .Top = 216, .Font = tahoma(8.25), .ForeColor = TitleGrey);
-    ROW(LTra2, .Left = 0, .Top = 216, .Font = tahoma(8.25), .ForeColor = TitleGrey,
+    ROW(LTInfo1, .Left = 0, .Top = 88, .Font = tahoma(8.25, true), .ForeColor = title_grey);
+    ROW(LInfo1, .Left = 0, .Top = 88, .Font = tahoma(8.25), .ForeColor = title_grey);
+    ROW(LTInfo2, .Left = 0, .Top = 112, .Font = tahoma(8.25, true), .ForeColor = title_grey);
+    ROW(LInfo2, .Left = 0, .Top = 112, .Font = tahoma(8.25), .ForeColor = title_grey);
+    ROW(LTInfo3, .Left = 0, .Top = 136, .Font = tahoma(8.25, true), .ForeColor = title_grey);
+    ROW(LInfo3, .Left = 0, .Top = 136, .Font = tahoma(8.25), .ForeColor = title_grey);
+    ROW(LineI, .X1 = 0, .Y1 = 168, .X2 = 280, .Y2 = 168, .BorderColor = line_grey);
+    ROW(LTra, .Left = 0, .Top = 184, .Font = tahoma(8.25, true), .ForeColor = title_grey);
+    ROW(LTra1, .Left = 0, .Top = 216, .Font = tahoma(8.25), .ForeColor = title_grey);
+    ROW(LTra2, .Left = 0, .Top = 216, .Font = tahoma(8.25), .ForeColor = title_grey,
         .MousePointer = MouseCursor::Hand, .TabStop = true);
     put.on_the_form();
 }

@@ -11,29 +11,29 @@ namespace ostrelum::inline frame {
 namespace {
 
 /// The column's rows: where the first begins, and how high each is, in pixels.
-constexpr int FirstRowTop = 49;
-constexpr int RowHeight = 35;
+constexpr int first_row_top = 49;
+constexpr int row_height = 35;
 /// The options tab at the top of the column.
-constexpr int TabWidth = 135;
-constexpr int TabHeight = 31;
+constexpr int tab_width = 135;
+constexpr int tab_height = 31;
 
 /// The row of the column at a height; 0 above and below the rows.
 int row_at(int y)
 {
-    if (y < FirstRowTop || y >= FirstRowTop + RowHeight * section_count)
+    if (y < first_row_top || y >= first_row_top + row_height * section_count)
         return 0;
-    return (y - FirstRowTop) / RowHeight + 1;
+    return (y - first_row_top) / row_height + 1;
 }
 
 bool in_tab(int x, int y)
 {
-    return x < TabWidth && y < TabHeight;
+    return x < tab_width && y < tab_height;
 }
 
 void collect(int index)
 {
     const PageEntry& page = *find_page(static_cast<std::uint8_t>(index));
-    F1.BM.Top = FirstRowTop + RowHeight * (index - 1);
+    F1.BM.Top = first_row_top + row_height * (index - 1);
     F1.LMenu2.Caption = Trad[page.title];
     F1.BM.Visible = true;
     page.collect();

@@ -85,8 +85,8 @@ constexpr PageEntry table[] = {
      .rows = "VVV-VV-VVVVV",
      .pictures = {&F::Sec13},
      .tick = refresh_battery},
-    {.section = CustomisePanel, .title = Text::Customize, .pictures = {&F::IOpc}},
-    {.section = AboutPanel, .title = Text::About, .pictures = {&F::IAC}},
+    {.section = customise_panel, .title = Text::Customize, .pictures = {&F::IOpc}},
+    {.section = about_panel, .title = Text::About, .pictures = {&F::IAC}},
 };
 
 constexpr bool begins_with_the_sections()

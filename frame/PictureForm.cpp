@@ -6,9 +6,9 @@
 namespace ostrelum::inline frame {
 namespace {
 
-constexpr int PageSide = 48;
-constexpr int AlertSide = 35;
-constexpr int SmallSide = 16;
+constexpr int page_side = 48;
+constexpr int alert_side = 35;
+constexpr int small_side = 16;
 
 PictureBox square(std::string_view name, int side)
 {
@@ -26,27 +26,27 @@ PictureForm::PictureForm()
     ClientWidth = 321;
     ClientHeight = 106;
     Designer put(*this);
-    PICTURE(Sec1, PageSide);
-    PICTURE(Sec2, PageSide);
-    PICTURE(Sec3, PageSide);
-    PICTURE(Sec4, PageSide);
-    PICTURE(Sec5, PageSide);
-    PICTURE(Sec6, PageSide);
-    PICTURE(Sec7, PageSide);
-    PICTURE(Sec8, PageSide);
-    PICTURE(Sec9, PageSide);
-    PICTURE(Sec10, PageSide);
-    PICTURE(Sec11a, PageSide);
-    PICTURE(Sec11b, PageSide);
-    PICTURE(Sec12a, PageSide);
-    PICTURE(Sec12b, PageSide);
-    PICTURE(Sec13, PageSide);
-    PICTURE(IOpc, PageSide);
-    PICTURE(IAC, PageSide);
-    PICTURE(Ok, AlertSide);
-    PICTURE(Info, AlertSide);
-    PICTURE(Alerta, AlertSide);
-    PICTURE(Made, SmallSide);
+    PICTURE(Sec1, page_side);
+    PICTURE(Sec2, page_side);
+    PICTURE(Sec3, page_side);
+    PICTURE(Sec4, page_side);
+    PICTURE(Sec5, page_side);
+    PICTURE(Sec6, page_side);
+    PICTURE(Sec7, page_side);
+    PICTURE(Sec8, page_side);
+    PICTURE(Sec9, page_side);
+    PICTURE(Sec10, page_side);
+    PICTURE(Sec11a, page_side);
+    PICTURE(Sec11b, page_side);
+    PICTURE(Sec12a, page_side);
+    PICTURE(Sec12b, page_side);
+    PICTURE(Sec13, page_side);
+    PICTURE(IOpc, page_side);
+    PICTURE(IAC, page_side);
+    PICTURE(Ok, alert_side);
+    PICTURE(Info, alert_side);
+    PICTURE(Alerta, alert_side);
+    PICTURE(Made, small_side);
 }
 
 PictureForm& FirstUse::get()

@@ -75,29 +75,29 @@ double number_or_default(const NumberSetting& setting)
 
 void read_language()
 {
-    Idioma = trim_blanks(read_text(LanguageName));
+    Idioma = trim_blanks(read_text(language_setting));
     if (fill_string_table(Idioma))
         return;
-    Idioma = DefaultLanguage;
-    write_text(LanguageName, Idioma);
+    Idioma = default_language;
+    write_text(language_setting, Idioma);
     fill_string_table(Idioma);
 }
 
 void read_colour()
 {
-    ColorValue = rounded(number_or_default(ColorValueSetting));
+    ColorValue = rounded(number_or_default(color_value_setting));
 }
 
 void read_shine()
 {
-    Shine = rounded(number_or_default(ShineValueSetting) / 2);
+    Shine = rounded(number_or_default(shine_value_setting) / 2);
 }
 
 void read_transparency_switch()
 {
-    const auto stored = read_number(ChkTransSetting);
+    const auto stored = read_number(chk_trans_setting);
     if (!stored || (*stored != 0 && *stored != 1))
-        write_default(ChkTransSetting);
+        write_default(chk_trans_setting);
     TransEnabled = stored != 0.0;
     if (TransEnabled)
         SetOpacity(F1, 100);
@@ -105,28 +105,28 @@ void read_transparency_switch()
 
 void read_transparency()
 {
-    Transparency = rounded(number_or_default(TransparencySetting));
+    Transparency = rounded(number_or_default(transparency_setting));
 }
 
 std::int32_t read_hue()
 {
-    return rounded(number_or_default(ScvSetting));
+    return rounded(number_or_default(scv_setting));
 }
 
 void write_changed_settings()
 {
     if (Idioma != F1.LangAtOpen)
-        write_text(LanguageName, Idioma);
+        write_text(language_setting, Idioma);
     if (ColorValue != ColorAtOpen) {
-        write_number(ColorValueSetting, ColorValue);
-        write_number(ScvSetting, F1.Scroll1.Value);
+        write_number(color_value_setting, ColorValue);
+        write_number(scv_setting, F1.Scroll1.Value);
     }
     if (Shine != F1.ShineAtOpen)
-        write_number(ShineValueSetting, F1.Scroll2.Value);
+        write_number(shine_value_setting, F1.Scroll2.Value);
     if (TransEnabled != F1.ChkAtOpen)
-        write_number(ChkTransSetting, F1.CheckTrans.Value);
+        write_number(chk_trans_setting, F1.CheckTrans.Value);
     if (F1.Scroll3.Value != F1.TransAtOpen)
-        write_number(TransparencySetting, F1.Scroll3.Value);
+        write_number(transparency_setting, F1.Scroll3.Value);
 }
 
 } // namespace ostrelum::inline frame

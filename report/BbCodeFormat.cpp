@@ -47,7 +47,7 @@ std::string foot(const ReportLook& look)
     return "\r\n"
            "[center][color=#" + SkinHex(look) + "][size=13pt]" + Trad[Text::ThankYou] + "[/size][/color]\r\n" +
            hyphens(54) + "\r\n"
-           "[url=" + std::string(WebAddress) + "]" + Trad[Text::Website] + "[/url][/center]";
+           "[url=" + std::string(web_address) + "]" + Trad[Text::Website] + "[/url][/center]";
 }
 // clang-format on
 

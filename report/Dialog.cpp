@@ -13,10 +13,8 @@
 namespace ostrelum::inline report {
 namespace {
 
-/// A step of a window fade, in percent of transparency.
-constexpr int FadeStep = 9;
 /// A step of the picture fade; its levels end at 255.
-constexpr int BlendStep = 13;
+constexpr int blend_step = 13;
 
 void set_level(std::int32_t percent)
 {
@@ -86,7 +84,7 @@ void StartReport()
 
 void TLoad_Timer()
 {
-    Cnt -= FadeStep;
+    Cnt -= fade_step;
     set_level(Cnt);
     if (Cnt <= Transparency) {
         set_level(Transparency);
@@ -102,7 +100,7 @@ void Descargador_Timer()
 
 void TAlphaB_Timer()
 {
-    F2.BlendLevel += BlendStep;
+    F2.BlendLevel += blend_step;
     if (F2.BlendLevel > 255) {
         F2.Pic1.store(F6->Made.Stored);
         F2.TAlphaB.Enabled = false;
@@ -142,7 +140,7 @@ void Form_Unload(bool& cancel)
 
 void TUnload_Timer()
 {
-    Cnt += FadeStep;
+    Cnt += fade_step;
     set_level(Cnt);
     if (Cnt >= 100) {
         F2.TUnload.Enabled = false;

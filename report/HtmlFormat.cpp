@@ -58,7 +58,7 @@ std::string foot(const ReportLook& look)
            "\t\t<br><br>\r\n"
            "\t\t<center><label style='color:" + rgb(look) + "; font-size:20px'>" + Trad[Text::ThankYou] + "</label></center>\r\n"
            "\t\t<hr width='600' size='1'>\r\n"
-           "\t\t<center><label style='font-size:12px'><a href='" + std::string(WebAddress) + "' target='_blank'>" + Trad[Text::Website] + "</a></label></center>\r\n"
+           "\t\t<center><label style='font-size:12px'><a href='" + std::string(web_address) + "' target='_blank'>" + Trad[Text::Website] + "</a></label></center>\r\n"
            "\t\t<br>\r\n"
            "\t</body>\r\n"
            "</html>";

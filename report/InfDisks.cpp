@@ -21,13 +21,13 @@ void InfDisks()
     read_hard_drives();
 
     write_rows({
-        {Trad[Text::Name], list(VolumeSlot::Names, NameTail)},
-        {Trad[Text::DriveLetter], list(VolumeSlot::Letters, NameTail)},
-        {Trad[Text::Capacity], list(VolumeSlot::Capacities, SizeTail)},
-        {Trad[Text::SpaceInUse], list(VolumeSlot::Used, SizeTail)},
-        {Trad[Text::InternalName], list(VolumeSlot::InternalNames, NameTail)},
-        {Trad[Text::FileSystem], list(VolumeSlot::FileSystems, NameTail)},
-        {Trad[Text::SerialNumber], list(VolumeSlot::SerialNumbers, NameTail)},
+        {Trad[Text::Name], list(VolumeSlot::Names, name_tail)},
+        {Trad[Text::DriveLetter], list(VolumeSlot::Letters, name_tail)},
+        {Trad[Text::Capacity], list(VolumeSlot::Capacities, size_tail)},
+        {Trad[Text::SpaceInUse], list(VolumeSlot::Used, size_tail)},
+        {Trad[Text::InternalName], list(VolumeSlot::InternalNames, name_tail)},
+        {Trad[Text::FileSystem], list(VolumeSlot::FileSystems, name_tail)},
+        {Trad[Text::SerialNumber], list(VolumeSlot::SerialNumbers, name_tail)},
         {Trad[Text::TotalPartitions], at_least(Datos[VolumeSlot::Partitions], 1)
                                           ? Datos[VolumeSlot::Partitions]
                                           : Trad[Text::Unknown]},

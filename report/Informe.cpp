@@ -72,7 +72,7 @@ std::string time_text()
 /// "(2)" stays until the seconds are known.
 void make_title()
 {
-    TempStr = FillMark(Trad[Text::ReportTitle], "(1)", ProgramVersion);
+    TempStr = FillMark(Trad[Text::ReportTitle], "(1)", program_version);
     attempt([] { TempStr = FillMark(TempStr, "(3)", time_text()); });
     attempt([] {
         TempStr = FillMark(TempStr, "(4)", platform.regional->short_date(platform.clock->date()));

@@ -37,7 +37,7 @@ std::string foot(const ReportLook&)
     return "\r\n" +
            Trad[Text::ThankYou] + "\r\n" +
            hyphens(54) + "\r\n" +
-           std::string(WebAddress) + "\r\n";
+           std::string(web_address) + "\r\n";
 }
 // clang-format on
 

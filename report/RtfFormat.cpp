@@ -53,7 +53,7 @@ std::string foot(const ReportLook&)
            "\\par\r\n"
            "\\pard\\sl276\\slmult1\\qc\\cf1\\fs28 " + Trad[Text::ThankYou] + "\\cf0\\fs24\\par\r\n" +
            hyphens(72) + "\\cf2\\fs18\\par\r\n"
-           "\\cf0{\\field{\\*\\fldinst{HYPERLINK \"" + std::string(WebAddress) + "\"}}"
+           "\\cf0{\\field{\\*\\fldinst{HYPERLINK \"" + std::string(web_address) + "\"}}"
            "{\\fldrslt{\\cf3\\ul " + Trad[Text::Website] + "}}}\\cf0\\ulnone\\f0\\fs20\\par\r\n"
            "\\pard\\fs24\\par\r\n"
            "\\par\r\n"

@@ -15,14 +15,14 @@ void set_volume_rows()
 {
     plain_title(1);
     plain_title(8);
-    set_list_row(1, Trad[Text::Name], Datos[VolumeSlot::Names], NameTail);
-    set_list_row(2, Trad[Text::DriveLetter], Datos[VolumeSlot::Letters], NameTail);
-    set_list_row(3, Trad[Text::Capacity], Datos[VolumeSlot::Capacities], SizeTail);
-    set_list_row(4, Trad[Text::SpaceInUse], Datos[VolumeSlot::Used], SizeTail);
-    set_list_row(5, Trad[Text::FreeSpace], Datos[VolumeSlot::Free], SizeTail);
-    set_list_row(6, Trad[Text::InternalName], Datos[VolumeSlot::InternalNames], NameTail);
-    set_list_row(7, Trad[Text::FileSystem], Datos[VolumeSlot::FileSystems], NameTail);
-    set_list_row(8, Trad[Text::SerialNumber], Datos[VolumeSlot::SerialNumbers], NameTail);
+    set_list_row(1, Trad[Text::Name], Datos[VolumeSlot::Names], name_tail);
+    set_list_row(2, Trad[Text::DriveLetter], Datos[VolumeSlot::Letters], name_tail);
+    set_list_row(3, Trad[Text::Capacity], Datos[VolumeSlot::Capacities], size_tail);
+    set_list_row(4, Trad[Text::SpaceInUse], Datos[VolumeSlot::Used], size_tail);
+    set_list_row(5, Trad[Text::FreeSpace], Datos[VolumeSlot::Free], size_tail);
+    set_list_row(6, Trad[Text::InternalName], Datos[VolumeSlot::InternalNames], name_tail);
+    set_list_row(7, Trad[Text::FileSystem], Datos[VolumeSlot::FileSystems], name_tail);
+    set_list_row(8, Trad[Text::SerialNumber], Datos[VolumeSlot::SerialNumbers], name_tail);
 }
 
 } // namespace ostrelum::inline sections

@@ -12,8 +12,8 @@
 namespace ostrelum::inline sections {
 
 /// Greys and greens of the alert: nothing was found, or something was.
-inline constexpr Colour NothingFound = rgb(75, 75, 75);
-inline constexpr Colour MediaFound = rgb(0, 145, 0);
+inline constexpr Colour nothing_found = rgb(75, 75, 75);
+inline constexpr Colour media_found = rgb(0, 145, 0);
 
 /// Empties the page's rows 1 to 8 and shows a text over them, at a top and with
 /// a height in pixels.

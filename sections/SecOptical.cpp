@@ -90,7 +90,7 @@ void show_no_disc()
 {
     show_title();
     show_notice(Text::NoDiscNotice, notice_top(), 180);
-    show_alert(NothingFound, Trad[Text::NoDisc] + "\r\n" + Trad[Text::InsertDisc]);
+    show_alert(nothing_found, Trad[Text::NoDisc] + "\r\n" + Trad[Text::InsertDisc]);
     F1.Line1.Visible = false;
 }
 
@@ -113,15 +113,15 @@ void show_discs()
     show_title();
     hide(F1.LNoDrive);
     plain_title(1);
-    set_list_row(1, Trad[Text::Name], DatosCD[DiscSlot::Names], NameTail);
-    set_list_row(2, Trad[Text::DriveLetter], DatosCD[DiscSlot::Letters], NameTail);
-    set_list_row(3, Trad[Text::Size], DatosCD[DiscSlot::Capacities], SizeTail);
-    set_list_row(4, Trad[Text::InternalName], DatosCD[DiscSlot::InternalNames], NameTail);
-    set_list_row(5, Trad[Text::DriveType], DatosCD[DiscSlot::DriveTypes], NameTail);
-    set_list_row(6, Trad[Text::FileSystem], DatosCD[DiscSlot::FileSystems], NameTail);
-    set_list_row(7, Trad[Text::SerialNumber], DatosCD[DiscSlot::SerialNumbers], NameTail);
+    set_list_row(1, Trad[Text::Name], DatosCD[DiscSlot::Names], name_tail);
+    set_list_row(2, Trad[Text::DriveLetter], DatosCD[DiscSlot::Letters], name_tail);
+    set_list_row(3, Trad[Text::Size], DatosCD[DiscSlot::Capacities], size_tail);
+    set_list_row(4, Trad[Text::InternalName], DatosCD[DiscSlot::InternalNames], name_tail);
+    set_list_row(5, Trad[Text::DriveType], DatosCD[DiscSlot::DriveTypes], name_tail);
+    set_list_row(6, Trad[Text::FileSystem], DatosCD[DiscSlot::FileSystems], name_tail);
+    set_list_row(7, Trad[Text::SerialNumber], DatosCD[DiscSlot::SerialNumbers], name_tail);
     clear_title_tooltips(3, 5);
-    show_alert(MediaFound, count_text());
+    show_alert(media_found, count_text());
     place_line(F1.Line1, 8, 4);
 }
 

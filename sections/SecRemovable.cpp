@@ -27,7 +27,7 @@ void show_no_drive()
         show_notice(Text::NoRemovableDriveNotice, preferred ? 135 : 160, preferred ? 280 : 260);
     else
         show_notice(Text::NoRemovableDriveNotice, preferred ? 170 : 190, 220);
-    show_alert(NothingFound,
+    show_alert(nothing_found,
                Trad[Text::NoRemovableDrive] + "\r\n" + Trad[Text::ConnectRemovableDrive]);
     F1.Line1.Visible = false;
 }
@@ -87,7 +87,7 @@ void show_drives()
     set_volume_rows();
     clear_title_tooltips(3, 5);
     place_line(F1.Line1, 9, 4);
-    show_alert(MediaFound, count_text());
+    show_alert(media_found, count_text());
 }
 
 } // namespace

@@ -14,26 +14,26 @@
 namespace ostrelum::inline skin {
 namespace {
 
-constexpr Colour Live = rgb(32, 32, 32);
-constexpr Colour Dimmed = rgb(96, 96, 96);
+constexpr Colour live_text = rgb(32, 32, 32);
+constexpr Colour dimmed_text = rgb(96, 96, 96);
 /// The row of the spectrum that is sampled: its first and last are an edge.
-constexpr int SampledRow = 2;
+constexpr int sampled_row = 2;
 /// From the arrow's left edge to its tip.
-constexpr int ArrowTip = 4;
+constexpr int arrow_tip = 4;
 
 /// The spectrum's colour at a column, 0x00BBGGRR. A spectrum that is missing changes nothing.
 std::int32_t spectrum_colour(int column)
 {
     const Bitmap& ramp = F1.Spectrum.Stored.bitmap();
-    if (SampledRow >= ramp.height || column >= ramp.width)
+    if (sampled_row >= ramp.height || column >= ramp.width)
         return ColorValue;
-    const std::uint8_t* pixel = ramp.row(SampledRow) + std::ptrdiff_t{3} * column;
+    const std::uint8_t* pixel = ramp.row(sampled_row) + std::ptrdiff_t{3} * column;
     return pixel[2] | pixel[1] << 8 | pixel[0] << 16;
 }
 
 void point_arrow()
 {
-    F1.Arrow.Left = F1.Spectrum.Left - ArrowTip + F1.Scroll1.Value;
+    F1.Arrow.Left = F1.Spectrum.Left - arrow_tip + F1.Scroll1.Value;
 }
 
 void show_percent()
@@ -44,7 +44,7 @@ void show_percent()
 void enable_transparency(bool enabled)
 {
     F1.Scroll3.Enabled = enabled;
-    F1.LPers3.ForeColor = enabled ? Live : Dimmed;
+    F1.LPers3.ForeColor = enabled ? live_text : dimmed_text;
 }
 
 /// Shows the new colour and shine. The title and the slider follow the pointer before the pictures
@@ -81,7 +81,7 @@ void show_transparency()
 void Personalizar_Click()
 {
     F1.PanelReady = false;
-    open_panel(CustomisePanel);
+    open_panel(customise_panel);
     F1.LangAtOpen = Idioma;
     list_languages(F1.LangAtOpen);
     show_colour();
@@ -156,7 +156,7 @@ void BAceptar_Click()
 {
     F1.BAceptar.Visible = false;
     F1.PanelOpen = false;
-    if (F1.Seccion == CustomisePanel)
+    if (F1.Seccion == customise_panel)
         close_customise_panel();
     else
         F1.PicInformacion.Visible = false;

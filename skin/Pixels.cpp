@@ -8,26 +8,26 @@ namespace ostrelum::inline skin {
 namespace {
 
 /// With a base byte of 220 and the highest shine, 24, a level stays as it is.
-constexpr int Unchanged = 220 + 24;
+constexpr int unchanged = 220 + 24;
 
 /// Pixels of a stretch whose shifts lie side by side: 16 of them are three whole vectors of 16
 /// bytes, so that a compiler shifts them without a loop over channels.
-constexpr std::size_t StretchBytes = std::size_t{16} * 3;
+constexpr std::size_t stretch_bytes = std::size_t{16} * 3;
 
 /// How each byte of a stretch is shifted. A level is held between `lowest` and `highest` first, so
 /// that adding `offset` to it cannot leave the byte: no step needs more than 8 bits.
 struct Shift {
-    std::array<std::uint8_t, StretchBytes> lowest{};
-    std::array<std::uint8_t, StretchBytes> highest{};
-    std::array<std::uint8_t, StretchBytes> offset{};
+    std::array<std::uint8_t, stretch_bytes> lowest{};
+    std::array<std::uint8_t, stretch_bytes> highest{};
+    std::array<std::uint8_t, stretch_bytes> offset{};
 };
 
 Shift shift_of(const TintColour& colour)
 {
     const std::array<int, 3> base{colour.blue, colour.green, colour.red};
     Shift shift;
-    for (std::size_t i = 0; i < StretchBytes; ++i) {
-        const int offset = base[i % 3] + colour.shine - Unchanged;
+    for (std::size_t i = 0; i < stretch_bytes; ++i) {
+        const int offset = base[i % 3] + colour.shine - unchanged;
         shift.lowest[i] = static_cast<std::uint8_t>(std::clamp(-offset, 0, 255));
         shift.highest[i] = static_cast<std::uint8_t>(std::clamp(255 - offset, 0, 255));
         shift.offset[i] = static_cast<std::uint8_t>(offset);
@@ -61,8 +61,8 @@ void tint_pixels(Bitmap& dest, const Bitmap& grey, const TintColour& colour)
         std::uint8_t* to = dest.row(y);
         const std::uint8_t* from = grey.row(y);
         std::size_t x = 0;
-        for (; x + StretchBytes <= row_bytes; x += StretchBytes)
-            shift_bytes(to + x, from + x, StretchBytes, shift);
+        for (; x + stretch_bytes <= row_bytes; x += stretch_bytes)
+            shift_bytes(to + x, from + x, stretch_bytes, shift);
         shift_bytes(to + x, from + x, row_bytes - x, shift);
     }
 }

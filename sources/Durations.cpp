@@ -14,19 +14,19 @@ std::string two_digits(int number)
 
 std::string UptimeText(std::uint32_t milliseconds, Regional& regional)
 {
-    constexpr int DaySeconds = 24 * 60 * 60;
-    constexpr int LastDay = 28;
+    constexpr int day_seconds = 24 * 60 * 60;
+    constexpr int last_day = 28;
     const int seconds = static_cast<int>(milliseconds / 1000);
-    if (seconds / DaySeconds > LastDay)
+    if (seconds / day_seconds > last_day)
         return "";
-    const int today = seconds % DaySeconds;
+    const int today = seconds % day_seconds;
     return regional.long_time({today / 3600, today / 60 % 60, today % 60});
 }
 
 std::string MinutesText(std::int32_t minutes)
 {
-    constexpr std::int32_t HoursLimit = 32768;
-    if (minutes < 0 || minutes / 60 >= HoursLimit)
+    constexpr std::int32_t hours_limit = 32768;
+    if (minutes < 0 || minutes / 60 >= hours_limit)
         throw Failure("no number of minutes that can be shown");
     return two_digits(minutes / 60 % 24) + ":" + two_digits(minutes % 60);
 }

@@ -15,11 +15,11 @@ std::string WholeText(std::int64_t number)
 
 std::string RealText(double number, std::string_view decimal_sign)
 {
-    constexpr int SignificantDigits = 15;
+    constexpr int significant_digits = 15;
     std::array<char, 32> digits{};
     // Adding 0 takes the sign off a negative zero.
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number + 0.0,
-                                   std::chars_format::general, SignificantDigits);
+                                   std::chars_format::general, significant_digits);
     std::string text(digits.data(), end.ptr);
     if (const auto point = text.find('.'); point != std::string::npos)
         text.replace(point, 1, decimal_sign);

@@ -7,13 +7,13 @@
 namespace ostrelum::inline sources {
 namespace {
 
-constexpr std::string_view Digits = "BCDFGHJKMPQRTVWXY2346789";
-constexpr int KeyDigits = 25;
-constexpr int GroupDigits = 5;
+constexpr std::string_view key_digits = "BCDFGHJKMPQRTVWXY2346789";
+constexpr int digit_count = 25;
+constexpr int group_digits = 5;
 
 /// Size of the registry's value, and where the packed key stands in it.
-constexpr std::size_t ValueSize = 164;
-constexpr std::size_t PackedOffset = 52;
+constexpr std::size_t value_size = 164;
+constexpr std::size_t packed_offset = 52;
 
 /// Divides the number by the base and returns the remainder.
 std::size_t divide(PackedKey& number)
@@ -21,8 +21,8 @@ std::size_t divide(PackedKey& number)
     std::size_t remainder = 0;
     for (std::size_t at = number.size(); at-- > 0;) {
         const std::size_t value = remainder * 256 + number[at];
-        number[at] = static_cast<std::uint8_t>(value / Digits.size());
-        remainder = value % Digits.size();
+        number[at] = static_cast<std::uint8_t>(value / key_digits.size());
+        remainder = value % key_digits.size();
     }
     return remainder;
 }
@@ -32,9 +32,9 @@ std::size_t divide(PackedKey& number)
 std::string product_key(PackedKey packed)
 {
     std::string key;
-    for (int digit = KeyDigits - 1; digit >= 0; --digit) {
-        key.insert(key.begin(), Digits[divide(packed)]);
-        if (digit % GroupDigits == 0 && digit != 0)
+    for (int digit = digit_count - 1; digit >= 0; --digit) {
+        key.insert(key.begin(), key_digits[divide(packed)]);
+        if (digit % group_digits == 0 && digit != 0)
             key.insert(key.begin(), '-');
     }
     return key;
@@ -46,13 +46,13 @@ std::string ProductKeyText(Registry& registry)
         registry.RegOpenKeyA(local_machine_root, "SOFTWARE\\MICROSOFT\\Windows NT\\CurrentVersion");
     if (!key)
         return "";
-    std::array<std::uint8_t, ValueSize> value{};
+    std::array<std::uint8_t, value_size> value{};
     const auto length = registry.RegQueryValueExA(*key, "DigitalProductId", binary_type, value);
     registry.RegCloseKey(*key);
     PackedKey packed;
-    if (!length || *length < PackedOffset + packed.size())
+    if (!length || *length < packed_offset + packed.size())
         return "";
-    std::ranges::copy(std::span(value).subspan<PackedOffset, packed.size()>(), packed.begin());
+    std::ranges::copy(std::span(value).subspan<packed_offset, packed.size()>(), packed.begin());
     return product_key(packed);
 }
 

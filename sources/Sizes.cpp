@@ -28,9 +28,9 @@ struct Row {
     std::array<Cell, 10> cells;
 };
 
-constexpr Cell No;
-constexpr Cell Plain{Cell::Plain};
-constexpr Cell MB{Cell::Whole, 1};
+constexpr Cell none;
+constexpr Cell plain{Cell::Plain};
+constexpr Cell whole{Cell::Whole, 1};
 
 constexpr Cell mb(std::size_t kept)
 {
@@ -48,15 +48,15 @@ constexpr Cell tb(std::size_t kept)
 // clang-format off
 constexpr auto rows = std::to_array<Row>({
     //                                1      2      3      4      5      6      7      8      9      10 digits
-    {SizeUse::SummaryFree,       1, {No,    Plain, Plain, gb(3), gb(4), gb(5), tb(4), No,    No,    No}},
-    {SizeUse::SummaryFreeBeyond, 1, {Plain, No,    No,    No,    No,    No,    No,    tb(5), tb(6), tb(7)}},
-    {SizeUse::DriveCapacity,     0, {No,    No,    No,    MB,    MB,    MB,    gb(3), gb(4), gb(5), gb(6)}},
-    {SizeUse::DriveFree,         0, {No,    No,    Plain, MB,    MB,    MB,    gb(3), gb(4), gb(5), gb(6)}},
-    {SizeUse::DriveUsed,         0, {Plain, Plain, Plain, MB,    MB,    MB,    gb(3), gb(4), gb(5), gb(6)}},
-    {SizeUse::RemovableCapacity, 0, {No,    No,    No,    No,    mb(4), mb(5), gb(4), gb(5), gb(6), tb(4)}},
-    {SizeUse::RemovableFree,     0, {Plain, Plain, Plain, mb(3), mb(4), mb(5), gb(4), gb(5), gb(6), tb(4)}},
-    {SizeUse::RemovableUsed,     0, {Plain, Plain, Plain, mb(3), mb(4), mb(5), gb(4), gb(5), gb(6), tb(4)}},
-    {SizeUse::DiscCapacity,      0, {Plain, Plain, Plain, mb(3), mb(4), mb(5), gb(4), gb(5), No,    No}},
+    {SizeUse::SummaryFree,       1, {none,  plain, plain, gb(3), gb(4), gb(5), tb(4), none,  none,  none}},
+    {SizeUse::SummaryFreeBeyond, 1, {plain, none,  none,  none,  none,  none,  none,  tb(5), tb(6), tb(7)}},
+    {SizeUse::DriveCapacity,     0, {none,  none,  none,  whole, whole, whole, gb(3), gb(4), gb(5), gb(6)}},
+    {SizeUse::DriveFree,         0, {none,  none,  plain, whole, whole, whole, gb(3), gb(4), gb(5), gb(6)}},
+    {SizeUse::DriveUsed,         0, {plain, plain, plain, whole, whole, whole, gb(3), gb(4), gb(5), gb(6)}},
+    {SizeUse::RemovableCapacity, 0, {none,  none,  none,  none,  mb(4), mb(5), gb(4), gb(5), gb(6), tb(4)}},
+    {SizeUse::RemovableFree,     0, {plain, plain, plain, mb(3), mb(4), mb(5), gb(4), gb(5), gb(6), tb(4)}},
+    {SizeUse::RemovableUsed,     0, {plain, plain, plain, mb(3), mb(4), mb(5), gb(4), gb(5), gb(6), tb(4)}},
+    {SizeUse::DiscCapacity,      0, {plain, plain, plain, mb(3), mb(4), mb(5), gb(4), gb(5), none,  none}},
 });
 // clang-format on
 
@@ -88,7 +88,7 @@ std::string SizeByDigits(SizeUse use, std::int32_t size, std::string_view decima
 {
     const Row& row = rows.at(static_cast<std::size_t>(use));
     const std::string text = WholeText(size);
-    const Cell cell = text.size() <= row.cells.size() ? row.cells[text.size() - 1] : No;
+    const Cell cell = text.size() <= row.cells.size() ? row.cells[text.size() - 1] : none;
     switch (cell.form) {
     case Cell::None: return "";
     case Cell::Plain: return text + std::string(units[row.base]);

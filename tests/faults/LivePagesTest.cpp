@@ -10,7 +10,7 @@ using namespace console;
 
 namespace {
 
-constexpr int LivePages[] = {2, 4, 6, 13};
+constexpr int live_pages[] = {2, 4, 6, 13};
 
 void tick(int times)
 {
@@ -32,7 +32,7 @@ TEST(LivePages, StandOpenForHoursWithoutGrowing)
 #endif
     ConsoleMachine machine({.sysroot = OSTRELUM_TESTS_DIR "/machines/notebook", .user = "alma"});
     const auto round = [&](int ticks) {
-        for (const int page : LivePages) {
+        for (const int page : live_pages) {
             machine.page(page);
             tick(ticks);
             ASSERT_TRUE(F1.Timer1.Enabled) << "page " << page << " is not live";

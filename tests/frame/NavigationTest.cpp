@@ -18,23 +18,23 @@ protected:
 
 TEST_F(Navigation, TheColumnIsOneTargetByItsTabAndItsRows)
 {
-    constexpr int Nothing = 0, Menu = 14;
+    constexpr int nothing = 0, menu = 14;
     const struct {
         int x, y, opens;
-    } cases[] = {{0, 0, Menu},     {134, 30, Menu},    {135, 30, Nothing}, {134, 31, Nothing},
-                 {9, 48, Nothing}, {150, -1, Nothing}, {160, 49, 1},       {5, 83, 1},
-                 {150, 84, 2},     {5, 503, 13},       {5, 504, Nothing},  {5, 552, Nothing}};
+    } cases[] = {{0, 0, menu},     {134, 30, menu},    {135, 30, nothing}, {134, 31, nothing},
+                 {9, 48, nothing}, {150, -1, nothing}, {160, 49, 1},       {5, 83, 1},
+                 {150, 84, 2},     {5, 503, 13},       {5, 504, nothing},  {5, 552, nothing}};
     for (const auto& c : cases) {
-        F1.Seccion = Nothing;
+        F1.Seccion = nothing;
         toolkit.popups.clear();
         click_skin(1, RightButton, c.x, c.y);
         click_skin(2, LeftButton, c.x, c.y);
-        EXPECT_TRUE(F1.Seccion == Nothing && toolkit.popups.empty()) << c.x << "," << c.y;
+        EXPECT_TRUE(F1.Seccion == nothing && toolkit.popups.empty()) << c.x << "," << c.y;
         click_skin(1, LeftButton, c.x, c.y);
-        EXPECT_EQ(F1.Seccion, c.opens == Menu ? Nothing : c.opens) << c.x << "," << c.y;
-        EXPECT_EQ(toolkit.popups.size(), c.opens == Menu ? 1U : 0U) << c.x << "," << c.y;
+        EXPECT_EQ(F1.Seccion, c.opens == menu ? nothing : c.opens) << c.x << "," << c.y;
+        EXPECT_EQ(toolkit.popups.size(), c.opens == menu ? 1U : 0U) << c.x << "," << c.y;
         EXPECT_EQ(F1.S(1).MousePointer,
-                  c.opens == Nothing ? MouseCursor::Arrow : MouseCursor::Hand);
+                  c.opens == nothing ? MouseCursor::Arrow : MouseCursor::Hand);
     }
 }
 
@@ -75,9 +75,9 @@ TEST_F(Navigation, RightClickBesideTheRowsOffersCopyAllOnly)
     const struct {
         std::uint8_t section, media;
         bool menu;
-    } cases[] = {{8, 0, true},          {11, 0, false}, {11, 1, true},
-                 {12, 0, false},        {12, 2, true},  {CustomisePanel, 1, false},
-                 {AboutPanel, 1, false}};
+    } cases[] = {{8, 0, true},           {11, 0, false}, {11, 1, true},
+                 {12, 0, false},         {12, 2, true},  {customise_panel, 1, false},
+                 {about_panel, 1, false}};
     for (const auto& c : cases) {
         F1.Seccion = c.section;
         F1.MediaCount = c.media;

@@ -6,7 +6,7 @@ namespace {
 
 using ::testing::ElementsAre;
 
-constexpr const char* FreeMemory = "Select FreePhysicalMemory from Win32_OperatingSystem";
+constexpr const char* free_memory = "Select FreePhysicalMemory from Win32_OperatingSystem";
 
 class LiveRefresh : public SectionTest {
 protected:
@@ -38,7 +38,7 @@ TEST_F(LiveRefresh, TicksOnceASecondAndStopsOnAnyOtherPage)
     open(6);
     script.asked.clear();
     toolkit.advance(F1, 2500);
-    EXPECT_THAT(script.asked, ElementsAre(FreeMemory, FreeMemory));
+    EXPECT_THAT(script.asked, ElementsAre(free_memory, free_memory));
     for (const int section : {1, 3, 5, 7, 8, 9, 10, 11, 12, 90, 91}) {
         leave_open(static_cast<std::uint8_t>(section));
         tick("Timer1");

@@ -50,7 +50,7 @@ TEST(Characters, AreCodePoints)
 /// precision cannot hold: it becomes 16777216, half a percent.
 TEST(Percentages, RoundEachInItsOwnWay)
 {
-    constexpr int Fails = -1;
+    constexpr int fails = -1;
     const struct {
         std::int32_t part, whole;
         int cut, round, single, floor;
@@ -63,13 +63,13 @@ TEST(Percentages, RoundEachInItsOwnWay)
                  {0, 5, 0, 0, 0, 0},
                  {7, 7, 100, 100, 100, 100},
                  {21474836, 42949672, 50, 50, 50, 50},
-                 {21474837, 42949674, 50, Fails, 50, 50},
-                 {2147483646, 2147483647, 99, Fails, 100, 99},
+                 {21474837, 42949674, 50, fails, 50, 50},
+                 {2147483646, 2147483647, 99, fails, 100, 99},
                  {16777217, 134217728, 12, 13, 12, 12}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.part);
         EXPECT_EQ(PercentCut(c.part, c.whole), c.cut);
-        if (c.round == Fails)
+        if (c.round == fails)
             EXPECT_THROW(PercentRound(c.part, c.whole), Failure);
         else
             EXPECT_EQ(PercentRound(c.part, c.whole), c.round);
@@ -89,7 +89,7 @@ TEST(CacheText, GoesByItsLength)
     EXPECT_THROW(CacheText("some"), Failure);
 }
 
-constexpr std::uint32_t Day = 24U * 60 * 60 * 1000;
+constexpr std::uint32_t day = 24U * 60 * 60 * 1000;
 
 TEST(UptimeText, LeavesOutTheDaysAndEndsAfter28)
 {
@@ -99,11 +99,11 @@ TEST(UptimeText, LeavesOutTheDaysAndEndsAfter28)
         const char* text;
     } cases[] = {{999, "00:00:00"},
                  {1000, "00:00:01"},
-                 {Day - 1, "23:59:59"},
-                 {Day + ((2 * 60 + 3) * 60 + 4) * 1000, "02:03:04"},
+                 {day - 1, "23:59:59"},
+                 {day + ((2 * 60 + 3) * 60 + 4) * 1000, "02:03:04"},
                  {2147483648U, "20:31:23"},
-                 {29 * Day - 1, "23:59:59"},
-                 {29 * Day, ""},
+                 {29 * day - 1, "23:59:59"},
+                 {29 * day, ""},
                  {4294967295U, ""}};
     for (const auto& c : cases)
         EXPECT_EQ(UptimeText(c.milliseconds, regional), c.text) << c.milliseconds;

@@ -20,13 +20,13 @@ PackedKey bytes(const std::string& digits)
     return key;
 }
 
-constexpr const char* Printed = "C2346-789BC-DFGHJ-KMPQR-TVWXY";
-constexpr const char* Packed = "f81ec043345472b0109f148a7c7200";
+constexpr const char* sample_key = "C2346-789BC-DFGHJ-KMPQR-TVWXY";
+constexpr const char* packed_sample = "f81ec043345472b0109f148a7c7200";
 
 TEST(ProductKey, HasItsDigitsFromTheHighestOnInGroupsOfFive)
 {
     const std::pair<const char*, const char*> keys[] = {
-        {Printed, Packed},
+        {sample_key, packed_sample},
         {"BBBBB-BBBBB-BBBBB-BBBBB-BBBBC", "010000000000000000000000000000"},
         {"9B8C7-D6F4G-3H2JY-KXMWP-VQTRB", "0888014653e49d72c487dfd6f5ea05"},
         {"CBBBB-BBBBB-BBBBB-BBBBB-BBBBB", "000000000000000000e1b81cc24100"},
@@ -44,10 +44,11 @@ TEST(ProductKeyText, IsReadAnewEachTimeFromAValueThatHasTheRightLength)
     EXPECT_EQ(ProductKeyText(registry), "");
     for (const std::size_t length : {0U, 66U, 67U, 164U, 164U, 165U}) {
         std::vector<std::uint8_t> value(200, 0xEE);
-        std::ranges::copy(bytes(Packed), value.begin() + 52);
+        std::ranges::copy(bytes(packed_sample), value.begin() + 52);
         value.resize(length);
         registry.values[{folder, "DigitalProductId"}] = value;
-        EXPECT_EQ(ProductKeyText(registry), length < 67 || length > 164 ? "" : Printed) << length;
+        EXPECT_EQ(ProductKeyText(registry), length < 67 || length > 164 ? "" : sample_key)
+            << length;
     }
     EXPECT_TRUE(registry.open.empty()) << "each key that was opened is closed";
 }
