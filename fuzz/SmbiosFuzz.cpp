@@ -9,14 +9,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    const auto structures = ostrelum::linux_platform::smbios_structures({data, size});
-    const std::string masked =
-        ostrelum::linux_platform::masked_firmware_table(std::string(data, data + size));
-    const ostrelum::linux_platform::Bytes bytes(
-        reinterpret_cast<const std::uint8_t*>(masked.data()), masked.size());
-    if (ostrelum::linux_platform::smbios_structures(bytes).size() != structures.size())
+    using namespace ostrelum;
+    using namespace ostrelum::linux_platform;
+    const auto structures = smbios_structures({data, size});
+    const std::string masked = masked_firmware_table(std::string(data, data + size));
+    if (smbios_structures(bytes_of(masked)).size() != structures.size())
         std::abort();
-    for (const ostrelum::linux_platform::SmbiosStructure& structure : structures) {
+    for (const SmbiosStructure& structure : structures) {
         for (std::size_t offset = 0; offset <= 256; ++offset) {
             structure.word(offset);
             structure.dword(offset);

@@ -30,7 +30,7 @@ private:
         bool tried = false;
         std::optional<std::string> bytes = {};
     };
-    const std::optional<std::string>& bytes_of(Log& log);
+    const std::optional<std::string>& content_of(Log& log);
     std::size_t record_bytes(const std::optional<std::string>& log) const;
     std::optional<std::int64_t> last_in_lastlog(const Account& account);
 

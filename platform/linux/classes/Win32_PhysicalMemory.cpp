@@ -1,4 +1,5 @@
 #include "platform/linux/classes/Classes.h"
+#include "platform/linux/devices/FirmwareTable.h"
 #include "platform/linux/devices/MemoryDevices.h"
 
 #include <vector>
@@ -38,11 +39,8 @@ constexpr PropertyRow<MemoryDevice> rows[] = {
 std::vector<MemoryDevice> modules(const MachineView& machine)
 {
     auto modules = published_memory(UdevRecord(machine.root, "+dmi:id"));
-    if (modules.empty()) {
-        const std::string table = machine.root.read("/sys/firmware/dmi/tables/DMI").value_or("");
-        modules =
-            memory_of_table({reinterpret_cast<const std::uint8_t*>(table.data()), table.size()});
-    }
+    if (modules.empty())
+        modules = memory_of_table(bytes_of(firmware_table(machine.root)));
     return modules.empty() ? memory_of_controllers(machine.root) : modules;
 }
 

@@ -1,5 +1,6 @@
 #include "platform/linux/classes/Classes.h"
 #include "platform/linux/devices/CpuPackages.h"
+#include "platform/linux/devices/FirmwareTable.h"
 #include "platform/linux/formats/CpuInfo.h"
 #include "platform/linux/formats/Placeholder.h"
 #include "platform/linux/formats/Smbios.h"
@@ -210,11 +211,9 @@ Value name(const CpuPackage& package)
 Value socket(const CpuPackage& package)
 {
     constexpr std::uint8_t ProcessorType = 4;
-    const std::string table =
-        package.machine.root.read("/sys/firmware/dmi/tables/DMI").value_or("");
-    const Bytes bytes(reinterpret_cast<const std::uint8_t*>(table.data()), table.size());
+    const std::string table = firmware_table(package.machine.root);
     std::size_t place = 0;
-    for (const SmbiosStructure& socket : smbios_structures(bytes)) {
+    for (const SmbiosStructure& socket : smbios_structures(bytes_of(table))) {
         const bool fitted =
             socket.type() == ProcessorType && (socket.byte(0x18).value_or(0) & 0x40) != 0;
         if (!fitted || place++ != package.place)

@@ -1,5 +1,6 @@
 #include "platform/linux/devices/FirmwareStrings.h"
 
+#include "platform/linux/devices/FirmwareTable.h"
 #include "platform/linux/devices/UdevDatabase.h"
 #include "platform/linux/formats/Placeholder.h"
 #include "platform/linux/formats/Smbios.h"
@@ -62,9 +63,8 @@ Found from_udev(const Sysroot& root, const FirmwareSource& source)
 
 Found from_table(const Sysroot& root, const FirmwareSource& source)
 {
-    const std::string table = root.read("/sys/firmware/dmi/tables/DMI").value_or("");
-    const Bytes bytes(reinterpret_cast<const std::uint8_t*>(table.data()), table.size());
-    for (const SmbiosStructure& structure : smbios_structures(bytes)) {
+    const std::string table = firmware_table(root);
+    for (const SmbiosStructure& structure : smbios_structures(bytes_of(table))) {
         if (structure.type() == source.smbios_type)
             return Found(structure.string(source.smbios_offset));
     }

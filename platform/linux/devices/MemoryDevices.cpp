@@ -172,7 +172,7 @@ std::vector<MemoryDevice> published_memory(const UdevRecord& firmware)
     return devices;
 }
 
-std::vector<MemoryDevice> memory_of_table(Bytes table)
+std::vector<MemoryDevice> memory_of_table(ByteView table)
 {
     constexpr std::uint8_t MemoryDeviceType = 17;
     std::vector<MemoryDevice> devices;

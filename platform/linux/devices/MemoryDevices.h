@@ -35,7 +35,7 @@ std::optional<int> form_factor_of_text(std::string_view text);
 std::vector<MemoryDevice> published_memory(const UdevRecord& firmware);
 
 /// The fitted slots of the firmware's table itself (SMBIOS type 17).
-std::vector<MemoryDevice> memory_of_table(Bytes table);
+std::vector<MemoryDevice> memory_of_table(ByteView table);
 
 /// The modules that the memory controller's driver knows, on machines with error correction.
 std::vector<MemoryDevice> memory_of_controllers(const Sysroot& root);

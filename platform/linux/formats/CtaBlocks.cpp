@@ -8,9 +8,7 @@
 namespace ostrelum::linux_platform {
 namespace {
 
-using Bytes = std::span<const std::uint8_t>;
-
-void add_video_codes(Bytes codes, std::vector<int>& rates)
+void add_video_codes(ByteView codes, std::vector<int>& rates)
 {
     for (const std::uint8_t byte : codes) {
         // The low codes have room for a bit that says "native".
@@ -21,7 +19,7 @@ void add_video_codes(Bytes codes, std::vector<int>& rates)
 }
 
 /// HDMI had codes of its own for modes of four times the size before the common list had them.
-void add_hdmi_codes(Bytes content, std::vector<int>& rates)
+void add_hdmi_codes(ByteView content, std::vector<int>& rates)
 {
     constexpr std::array<std::uint8_t, 3> identity = {0x03, 0x0C, 0x00};
     constexpr std::array<int, 4> rates_of_codes = {30, 25, 24, 24};
@@ -35,8 +33,8 @@ void add_hdmi_codes(Bytes content, std::vector<int>& rates)
         flags + 2 + (has_latency ? 2U : 0U) + (has_interlaced_latency ? 2U : 0U);
     if (!has_video || counts >= content.size())
         return;
-    const Bytes rest = content.subspan(counts + 1);
-    const Bytes codes = rest.first(std::min<std::size_t>(content[counts] >> 5, rest.size()));
+    const ByteView rest = content.subspan(counts + 1);
+    const ByteView codes = rest.first(std::min<std::size_t>(content[counts] >> 5, rest.size()));
     for (const std::uint8_t code : codes) {
         if (code >= 1 && code <= rates_of_codes.size())
             rates.push_back(rates_of_codes[code - 1U]);
@@ -45,7 +43,7 @@ void add_hdmi_codes(Bytes content, std::vector<int>& rates)
 
 } // namespace
 
-std::vector<int> rates_of_data_blocks(Bytes blocks)
+std::vector<int> rates_of_data_blocks(ByteView blocks)
 {
     constexpr unsigned video = 2;
     constexpr unsigned vendor = 3;
@@ -55,8 +53,8 @@ std::vector<int> rates_of_data_blocks(Bytes blocks)
     std::vector<int> rates;
     // Each begins with its kind in three bits and its length in five.
     while (!blocks.empty()) {
-        const Bytes rest = blocks.subspan(1);
-        const Bytes content = rest.first(std::min<std::size_t>(blocks[0] & 31U, rest.size()));
+        const ByteView rest = blocks.subspan(1);
+        const ByteView content = rest.first(std::min<std::size_t>(blocks[0] & 31U, rest.size()));
         const unsigned kind = blocks[0] >> 5;
         if (kind == video)
             add_video_codes(content, rates);

@@ -7,8 +7,6 @@
 namespace ostrelum::linux_platform {
 namespace {
 
-using Bytes = std::span<const std::uint8_t>;
-
 /// Kinds of data blocks; the second version's begin at 20h.
 enum Kind : std::uint8_t {
     DetailedTimings = 0x03,
@@ -19,17 +17,17 @@ enum Kind : std::uint8_t {
     CtaDataBlocks = 0x81,
 };
 
-int word(Bytes bytes, std::size_t at)
+int word(ByteView bytes, std::size_t at)
 {
-    return bytes[at] + 256 * bytes[at + 1];
+    return static_cast<int>(little_endian(bytes, at, 2));
 }
 
-void read_detailed(Bytes content, std::int64_t unit_mHz, DisplayId& found)
+void read_detailed(ByteView content, std::int64_t unit_mHz, DisplayId& found)
 {
     constexpr std::size_t size = 20;
     constexpr std::uint8_t interlaced = 0x10;
     for (; content.size() >= size; content = content.subspan(size)) {
-        const std::int64_t clock = word(content, 0) + 65536 * content[2] + 1;
+        const auto clock = static_cast<std::int64_t>(little_endian(content, 0, 3)) + 1;
         const int width = word(content, 4) + 1;
         const int height = word(content, 12) + 1;
         const std::int64_t columns = width + word(content, 6) + 1;
@@ -41,7 +39,7 @@ void read_detailed(Bytes content, std::int64_t unit_mHz, DisplayId& found)
 }
 
 /// Size and rate; all else follows from VESA's formula.
-void read_formula(Bytes content, DisplayId& found)
+void read_formula(ByteView content, DisplayId& found)
 {
     constexpr std::size_t size = 6;
     for (; content.size() >= size; content = content.subspan(size))
@@ -54,14 +52,14 @@ void keep(std::optional<RefreshLimits> limits, DisplayId& found)
         found.limits = limits;
 }
 
-std::optional<RefreshLimits> range_limits(Bytes content)
+std::optional<RefreshLimits> range_limits(ByteView content)
 {
     constexpr std::size_t size = 15;
     return content.size() < size ? std::nullopt : limits_of(content[10], content[11]);
 }
 
 /// The first revision of the block has two more bits of the highest rate.
-std::optional<RefreshLimits> dynamic_limits(Bytes content, unsigned revision)
+std::optional<RefreshLimits> dynamic_limits(ByteView content, unsigned revision)
 {
     constexpr std::size_t size = 9;
     if (content.size() < size)
@@ -96,17 +94,17 @@ bool DisplayIdBlock::tells_refresh() const
     return std::ranges::find(told, kind) != std::end(told);
 }
 
-std::vector<DisplayIdBlock> display_id_blocks(Bytes section)
+std::vector<DisplayIdBlock> display_id_blocks(ByteView section)
 {
     constexpr std::size_t section_header = 4;
     constexpr std::size_t block_header = 3;
     std::vector<DisplayIdBlock> found;
     if (section.size() < section_header)
         return found;
-    Bytes blocks = section.subspan(section_header);
+    ByteView blocks = section.subspan(section_header);
     blocks = blocks.first(std::min<std::size_t>(section[1], blocks.size()));
     while (blocks.size() >= block_header) {
-        const Bytes rest = blocks.subspan(block_header);
+        const ByteView rest = blocks.subspan(block_header);
         if (blocks[2] > rest.size())
             break;
         found.push_back({blocks[0], blocks[1] & 7U, rest.first(blocks[2])});
@@ -115,7 +113,7 @@ std::vector<DisplayIdBlock> display_id_blocks(Bytes section)
     return found;
 }
 
-DisplayId read_display_id(Bytes section)
+DisplayId read_display_id(ByteView section)
 {
     DisplayId found;
     for (const DisplayIdBlock& block : display_id_blocks(section))

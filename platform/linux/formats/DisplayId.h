@@ -1,10 +1,10 @@
 #pragma once
 
 #include "platform/linux/formats/EdidTiming.h"
+#include "platform/system/Bytes.h"
 
 #include <cstdint>
 #include <optional>
-#include <span>
 #include <vector>
 
 namespace ostrelum::linux_platform {
@@ -13,7 +13,7 @@ namespace ostrelum::linux_platform {
 struct DisplayIdBlock {
     std::uint8_t kind = 0;
     unsigned revision = 0;
-    std::span<const std::uint8_t> content;
+    ByteView content;
 
     /// Whether read_display_id has a use for it.
     bool tells_refresh() const;
@@ -21,7 +21,7 @@ struct DisplayIdBlock {
 
 /// The pieces of a section, which begins with its version. One that is longer than its room ends
 /// the walk.
-std::vector<DisplayIdBlock> display_id_blocks(std::span<const std::uint8_t> section);
+std::vector<DisplayIdBlock> display_id_blocks(ByteView section);
 
 /// What a section of DisplayID tells of refresh rates (VESA DisplayID 1.3 and 2.1): the modes of
 /// fast built-in panels often stand there alone.
@@ -33,6 +33,6 @@ struct DisplayId {
 };
 
 /// Interlaced modes are passed over.
-DisplayId read_display_id(std::span<const std::uint8_t> section);
+DisplayId read_display_id(ByteView section);
 
 } // namespace ostrelum::linux_platform

@@ -3,16 +3,14 @@
 #include "platform/linux/formats/CtaBlocks.h"
 #include "platform/linux/formats/DisplayId.h"
 #include "platform/linux/text/Text.h"
+#include "platform/system/Bytes.h"
 
 #include <algorithm>
 #include <array>
 #include <numeric>
-#include <span>
 
 namespace ostrelum::linux_platform {
 namespace {
-
-using Bytes = std::span<const std::uint8_t>;
 
 constexpr std::size_t block_size = 128;
 constexpr std::size_t descriptor_size = 18;
@@ -29,7 +27,7 @@ enum Descriptor : std::uint8_t {
 constexpr std::array<int, 17> established_rates = {70, 88, 60, 67, 72, 75, 56, 60, 72,
                                                    75, 75, 87, 60, 70, 75, 75, 75};
 
-bool sum_is_right(Bytes block)
+bool sum_is_right(ByteView block)
 {
     return std::accumulate(block.begin(), block.end(), 0U) % 256 == 0;
 }
@@ -49,7 +47,7 @@ std::string maker_code(unsigned packed)
 
 /// Up to 13 characters of ASCII, ended by a line feed where there are fewer. Some makers set a
 /// control character between two texts: it counts as a blank.
-std::string text_in(Bytes descriptor)
+std::string text_in(ByteView descriptor)
 {
     std::string text;
     for (const std::uint8_t byte : descriptor.subspan(5)) {
@@ -62,17 +60,17 @@ std::string text_in(Bytes descriptor)
 
 class Reader {
 public:
-    explicit Reader(Bytes base) : revision_(base[19])
+    explicit Reader(ByteView base) : revision_(base[19])
     {
         edid_.maker = maker_code(base[8] * 256U + base[9]);
-        edid_.product = static_cast<std::uint16_t>(base[10] | (base[11] << 8));
+        edid_.product = static_cast<std::uint16_t>(little_endian(base, 10, 2));
         read_established(base.subspan(35, 3));
         read_standard(base.subspan(38, 16));
         for (std::size_t offset = 54; offset + descriptor_size <= 126; offset += descriptor_size)
             read_descriptor(base.subspan(offset, descriptor_size));
     }
 
-    void read_extension(Bytes block)
+    void read_extension(ByteView block)
     {
         constexpr std::uint8_t cta_861 = 0x02;
         constexpr std::uint8_t display_id = 0x70;
@@ -85,7 +83,7 @@ public:
     Edid result() && { return std::move(edid_); }
 
 private:
-    void read_established(Bytes bits)
+    void read_established(ByteView bits)
     {
         for (std::size_t i = 0; i < established_rates.size(); ++i) {
             if ((bits[i / 8] & (0x80U >> (i % 8))) != 0)
@@ -93,7 +91,7 @@ private:
         }
     }
 
-    void read_standard(Bytes pairs)
+    void read_standard(ByteView pairs)
     {
         for (std::size_t i = 0; i + 1 < pairs.size(); i += 2) {
             const bool unused = pairs[i] <= 1;
@@ -102,7 +100,7 @@ private:
         }
     }
 
-    void read_cta(Bytes block)
+    void read_cta(ByteView block)
     {
         constexpr std::size_t header = 4;
         const std::size_t first = block[2];
@@ -124,7 +122,7 @@ private:
         std::ranges::for_each(more.rates, [this](int rate) { add_rate(rate); });
     }
 
-    void read_descriptor(Bytes bytes)
+    void read_descriptor(ByteView bytes)
     {
         if (bytes[0] != 0 || bytes[1] != 0)
             return read_detailed(bytes);
@@ -137,7 +135,7 @@ private:
         }
     }
 
-    void read_limits(Bytes bytes)
+    void read_limits(ByteView bytes)
     {
         constexpr int offset = 255;
         constexpr std::uint8_t first_with_offsets = 4;
@@ -149,9 +147,9 @@ private:
             edid_.limits = limits;
     }
 
-    void read_detailed(Bytes bytes)
+    void read_detailed(ByteView bytes)
     {
-        const std::int64_t clock_mHz = (bytes[0] + bytes[1] * 256) * 10'000'000LL;
+        const auto clock_mHz = static_cast<std::int64_t>(little_endian(bytes, 0, 2)) * 10'000'000;
         const int width = bytes[2] + ((bytes[4] & 0xF0) << 4);
         const int columns = width + bytes[3] + ((bytes[4] & 0x0F) << 8);
         const int height = bytes[5] + ((bytes[7] & 0xF0) << 4);
@@ -187,7 +185,7 @@ private:
 std::optional<Edid> read_edid(std::string_view bytes)
 {
     constexpr std::array<std::uint8_t, 8> header = {0, 255, 255, 255, 255, 255, 255, 0};
-    const Bytes all(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
+    const ByteView all = bytes_of(bytes);
     if (all.size() < block_size || !std::ranges::equal(all.first(header.size()), header) ||
         !sum_is_right(all.first(block_size)))
         return std::nullopt;
@@ -195,7 +193,7 @@ std::optional<Edid> read_edid(std::string_view bytes)
     Reader reader(all.first(block_size));
     const std::size_t blocks = std::min<std::size_t>(all.size() / block_size, all[126] + 1U);
     for (std::size_t i = 1; i < blocks; ++i) {
-        const Bytes block = all.subspan(i * block_size, block_size);
+        const ByteView block = all.subspan(i * block_size, block_size);
         if (sum_is_right(block))
             reader.read_extension(block);
     }

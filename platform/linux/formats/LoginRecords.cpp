@@ -5,25 +5,15 @@
 namespace ostrelum::linux_platform {
 namespace {
 
-using Record = std::span<const std::uint8_t>;
-
-std::uint64_t little_endian(Record bytes, std::size_t at, std::size_t count)
-{
-    std::uint64_t number = 0;
-    for (std::size_t i = 0; i < count; ++i)
-        number |= std::uint64_t{bytes[at + i]} << (8 * i);
-    return number;
-}
-
 constexpr std::uint64_t UserProcess = 7;
 
-std::uint64_t type_of(Record record)
+std::uint64_t type_of(ByteView record)
 {
     return little_endian(record, 0, 2);
 }
 
 /// From RUN_LVL to ACCOUNTING (utmp(5)).
-std::size_t records_of_known_type(Record log, std::size_t record_bytes)
+std::size_t records_of_known_type(ByteView log, std::size_t record_bytes)
 {
     std::size_t count = 0;
     for (; log.size() >= record_bytes; log = log.subspan(record_bytes)) {
@@ -34,14 +24,14 @@ std::size_t records_of_known_type(Record log, std::size_t record_bytes)
 }
 
 /// The account's name fills 32 bytes at 44, or ends with a NUL.
-bool names(Record record, std::string_view account)
+bool names(ByteView record, std::string_view account)
 {
     const auto* begin = reinterpret_cast<const char*>(record.data()) + 44;
     const std::string_view field(begin, 32);
     return field.substr(0, field.find('\0')) == account;
 }
 
-std::int64_t time_of(Record record)
+std::int64_t time_of(ByteView record)
 {
     const bool wide = record.size() == WideUtmpBytes;
     const std::uint64_t seconds =
@@ -51,7 +41,7 @@ std::int64_t time_of(Record record)
 
 } // namespace
 
-std::size_t utmp_bytes(Record log, std::size_t otherwise)
+std::size_t utmp_bytes(ByteView log, std::size_t otherwise)
 {
     const std::size_t narrow = records_of_known_type(log, UtmpBytes);
     const std::size_t wide = records_of_known_type(log, WideUtmpBytes);
@@ -60,11 +50,11 @@ std::size_t utmp_bytes(Record log, std::size_t otherwise)
     return wide > narrow ? WideUtmpBytes : UtmpBytes;
 }
 
-LoginHistory login_history(Record log, std::size_t record_bytes, std::string_view account)
+LoginHistory login_history(ByteView log, std::size_t record_bytes, std::string_view account)
 {
     LoginHistory history;
     for (; log.size() >= record_bytes; log = log.subspan(record_bytes)) {
-        const Record record = log.first(record_bytes);
+        const ByteView record = log.first(record_bytes);
         if (type_of(record) != UserProcess || !names(record, account))
             continue;
         ++history.logins;
@@ -73,7 +63,7 @@ LoginHistory login_history(Record log, std::size_t record_bytes, std::string_vie
     return history;
 }
 
-std::optional<std::int64_t> last_login(Record record)
+std::optional<std::int64_t> last_login(ByteView record)
 {
     const bool wide = record.size() == lastlog_bytes(WideUtmpBytes);
     if (!wide && record.size() != lastlog_bytes(UtmpBytes))
@@ -82,7 +72,7 @@ std::optional<std::int64_t> last_login(Record record)
     return seconds > 0 ? std::optional(seconds) : std::nullopt;
 }
 
-std::uint32_t failed_logins(Record file)
+std::uint32_t failed_logins(ByteView file)
 {
     constexpr std::size_t RecordBytes = 64;
     constexpr std::size_t StatusAt = 54;

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "platform/system/Bytes.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <span>
 #include <string_view>
 
 /// The binary records of logins. A record that the end cuts off is left out.
@@ -23,10 +24,9 @@ inline constexpr std::size_t WideUtmpBytes = 400;
 /// The width of a log's records: the one by which more of them are of a known type. The kernel does
 /// not tell it, since a system of 32 bits may run on a kernel of 64. `otherwise` where the log does
 /// not tell it either.
-std::size_t utmp_bytes(std::span<const std::uint8_t> log, std::size_t otherwise);
+std::size_t utmp_bytes(ByteView log, std::size_t otherwise);
 
-LoginHistory login_history(std::span<const std::uint8_t> log, std::size_t record_bytes,
-                           std::string_view account);
+LoginHistory login_history(ByteView log, std::size_t record_bytes, std::string_view account);
 
 /// Bytes of a record of the file lastlog, which stand by user number, beside each width of the log.
 constexpr std::size_t lastlog_bytes(std::size_t record_bytes)
@@ -36,9 +36,9 @@ constexpr std::size_t lastlog_bytes(std::size_t record_bytes)
 
 /// When an account last logged in, by its whole record of lastlog: in seconds since 1970. Nothing
 /// for never.
-std::optional<std::int64_t> last_login(std::span<const std::uint8_t> record);
+std::optional<std::int64_t> last_login(ByteView record);
 
 /// How many failed logins still count against an account (pam_faillock(8), records of 64 bytes).
-std::uint32_t failed_logins(std::span<const std::uint8_t> file);
+std::uint32_t failed_logins(ByteView file);
 
 } // namespace ostrelum::linux_platform

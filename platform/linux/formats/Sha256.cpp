@@ -2,7 +2,6 @@
 
 #include <bit>
 #include <cassert>
-#include <vector>
 
 namespace ostrelum::linux_platform {
 namespace {
@@ -22,9 +21,9 @@ constexpr std::array<std::uint32_t, 64> constants{
     0x748f82ee, 0x78a5636f, 0x84c87814, 0x8cc70208, 0x90befffa, 0xa4506ceb, 0xbef9a3f7, 0xc67178f2};
 
 /// The message, a one bit, zeros, and its length in bits: whole blocks (5.1.1).
-std::vector<std::uint8_t> padded(std::span<const std::uint8_t> bytes)
+Bytes padded(ByteView bytes)
 {
-    std::vector<std::uint8_t> message(bytes.begin(), bytes.end());
+    Bytes message(bytes.begin(), bytes.end());
     message.push_back(0x80);
     while (message.size() % BlockBytes != BlockBytes - 8)
         message.push_back(0);
@@ -76,7 +75,7 @@ void digest_block(Words& hash, const std::uint8_t* block)
 
 } // namespace
 
-Digest sha256(std::span<const std::uint8_t> bytes)
+Digest sha256(ByteView bytes)
 {
     Words hash{0x6a09e667, 0xbb67ae85, 0x3c6ef372, 0xa54ff53a,
                0x510e527f, 0x9b05688c, 0x1f83d9ab, 0x5be0cd19};
@@ -89,11 +88,11 @@ Digest sha256(std::span<const std::uint8_t> bytes)
     return digest;
 }
 
-Digest hmac_sha256(std::span<const std::uint8_t> key, std::span<const std::uint8_t> message)
+Digest hmac_sha256(ByteView key, ByteView message)
 {
     assert(key.size() <= BlockBytes);
-    std::vector<std::uint8_t> inner(BlockBytes, 0x36);
-    std::vector<std::uint8_t> outer(BlockBytes, 0x5c);
+    Bytes inner(BlockBytes, 0x36);
+    Bytes outer(BlockBytes, 0x5c);
     for (std::size_t i = 0; i < key.size(); ++i) {
         inner[i] ^= key[i];
         outer[i] ^= key[i];

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "platform/system/Bytes.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <span>
 #include <string_view>
 #include <vector>
 
@@ -11,18 +12,18 @@
 /// Specification, chapter 6), without its entry point.
 namespace ostrelum::linux_platform {
 
-using Bytes = std::span<const std::uint8_t>;
-
 /// A structure of the table. It points into the table's bytes.
 class SmbiosStructure {
 public:
-    SmbiosStructure(Bytes formatted, Bytes strings) : formatted_(formatted), strings_(strings) {}
+    SmbiosStructure(ByteView formatted, ByteView strings) : formatted_(formatted), strings_(strings)
+    {
+    }
 
     std::uint8_t type() const { return formatted_[0]; }
 
     /// Its bytes, and those of the strings behind it with all that ends them.
-    Bytes formatted() const { return formatted_; }
-    Bytes strings() const { return strings_; }
+    ByteView formatted() const { return formatted_; }
+    ByteView strings() const { return strings_; }
 
     /// A field by its offset in the structure, as the standard numbers them. Nothing for one
     /// that ends behind the structure: older firmware has shorter ones.
@@ -35,12 +36,15 @@ public:
     std::optional<std::string_view> string(std::size_t offset) const;
 
 private:
-    Bytes formatted_;
-    Bytes strings_;
+    template <class Number>
+    std::optional<Number> number(std::size_t offset) const;
+
+    ByteView formatted_;
+    ByteView strings_;
 };
 
 /// The structures in their order, up to the end-of-table structure, or to the first one that is too
 /// short to be one or leads out of the table. Strings that the table's end cuts off are left out.
-std::vector<SmbiosStructure> smbios_structures(Bytes table);
+std::vector<SmbiosStructure> smbios_structures(ByteView table);
 
 } // namespace ostrelum::linux_platform

@@ -94,7 +94,7 @@ std::string masked_block(std::string block, std::size_t first_descriptor)
 std::string masked_display_id(const std::string& block)
 {
     constexpr std::size_t header = 5, block_header = 3;
-    const Bytes bytes(reinterpret_cast<const std::uint8_t*>(block.data()), block_size);
+    const ByteView bytes = bytes_of(block);
     std::string masked = block.substr(0, header);
     for (const DisplayIdBlock& each : display_id_blocks(bytes.subspan(1, block_size - 2))) {
         masked.append(block, masked.size(), block_header);
@@ -121,8 +121,7 @@ std::string masked_extension(const std::string& block)
 std::string masked_firmware_table(const std::string& table)
 {
     std::string masked;
-    const Bytes bytes(reinterpret_cast<const std::uint8_t*>(table.data()), table.size());
-    for (const SmbiosStructure& structure : smbios_structures(bytes))
+    for (const SmbiosStructure& structure : smbios_structures(bytes_of(table)))
         masked += masked_formatted(structure) + masked_texts(structure);
     return masked;
 }

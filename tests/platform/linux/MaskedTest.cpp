@@ -68,7 +68,7 @@ TEST(Masked, BlotsOutSerialNumbersInTheFirmwareTable)
     const std::string masked = masked_firmware_table(table);
     for (const char* text : {"SERIAL", "identity", "mine"})
         EXPECT_EQ(masked.find(text), std::string::npos) << text;
-    const Bytes bytes(reinterpret_cast<const std::uint8_t*>(masked.data()), masked.size());
+    const ByteView bytes = bytes_of(masked);
     const auto structures = smbios_structures(bytes);
     ASSERT_EQ(structures.size(), 3U);
     EXPECT_EQ(structures[0].string(0x04), "ACME");

@@ -16,11 +16,6 @@ std::string structure(int type, const std::string& fields, const std::string& st
            (strings.empty() ? "\0"s : strings) + "\0"s;
 }
 
-Bytes bytes_of(const std::string& table)
-{
-    return {reinterpret_cast<const std::uint8_t*>(table.data()), table.size()};
-}
-
 using Text = std::optional<std::string_view>;
 
 const std::string firmware = structure(0, "\1\2\0\xF0\3"s, "Maker\0001.0\00001/02/2003\0"s);
