@@ -2,6 +2,7 @@
 #include "platform/linux/devices/DeviceNames.h"
 #include "platform/linux/devices/GraphicsCards.h"
 #include "platform/linux/formats/Placeholder.h"
+#include "platform/linux/text/Hex.h"
 
 #include <vector>
 
@@ -28,11 +29,7 @@ Value manufacturer(const Monitor& monitor)
 /// Maker and number as the monitor has them, for one without any text: "LGD 0690".
 std::string code_of(const Edid& edid)
 {
-    constexpr std::string_view digits = "0123456789ABCDEF";
-    std::string code = edid.maker + " ";
-    for (const unsigned shift : {12U, 8U, 4U, 0U})
-        code += digits[(edid.product >> shift) & 15U];
-    return code;
+    return edid.maker + " " + upper_hex(edid.product, 4);
 }
 
 Value monitor_name(const Monitor& monitor)

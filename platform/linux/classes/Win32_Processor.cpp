@@ -5,6 +5,7 @@
 #include "platform/linux/formats/Placeholder.h"
 #include "platform/linux/formats/Smbios.h"
 #include "platform/linux/os/KernelRelease.h"
+#include "platform/linux/text/Hex.h"
 #include "platform/linux/text/Text.h"
 
 #include <algorithm>
@@ -53,15 +54,6 @@ std::optional<std::string> x86_caption(const CpuRecord& record, bool wide)
                                                                               : "x64";
     return std::string(wide ? kind : "x86") + " Family " + *family + " Model " + *model +
            " Stepping " + *stepping;
-}
-
-std::string upper_hex(std::uint64_t number)
-{
-    constexpr std::string_view digits = "0123456789ABCDEF";
-    std::string text;
-    for (; number != 0 || text.empty(); number /= 16)
-        text.insert(text.begin(), digits[number % 16]);
-    return text;
 }
 
 /// "ARMv8 (64-bit) Family 8 Model D03 Revision 4".

@@ -2,6 +2,7 @@
 
 #include "platform/linux/devices/HardwareDatabase.h"
 #include "platform/linux/devices/UdevDatabase.h"
+#include "platform/linux/text/Hex.h"
 #include "platform/linux/text/Text.h"
 
 #include <algorithm>
@@ -48,15 +49,6 @@ const char* maker_in(std::span<const MonitorMaker> makers, std::string_view code
     return row == makers.end() ? nullptr : row->name;
 }
 
-/// The number in upper case, as the kernel's aliases have it.
-std::string digits(unsigned number, std::size_t count)
-{
-    std::string text(count, '0');
-    for (auto digit = text.rbegin(); digit != text.rend(); ++digit, number /= 16)
-        *digit = "0123456789ABCDEF"[number % 16];
-    return text;
-}
-
 /// A number that sysfs writes as "0x10de".
 std::optional<unsigned> number_in(const Sysroot& root, const std::string& path)
 {
@@ -78,11 +70,11 @@ PciNames pci_names(const Sysroot& root, const std::string& slot)
     if ((names.vendor && names.model) || !vendor || !device)
         return names;
     const HardwareDatabase database(root);
-    const std::string alias = "pci:v" + digits(*vendor, 8);
+    const std::string alias = "pci:v" + upper_hex(*vendor, 8);
     if (!names.vendor)
         names.vendor = database.text(alias, vendor_key);
     if (!names.model)
-        names.model = database.text(alias + "d" + digits(*device, 8), model_key);
+        names.model = database.text(alias + "d" + upper_hex(*device, 8), model_key);
     return names;
 }
 
@@ -93,12 +85,12 @@ std::optional<std::string> pci_code(const Sysroot& root, const std::string& slot
     const auto device = number_in(root, folder + "/device");
     if (!vendor || !device)
         return std::nullopt;
-    return digits(*vendor, 4) + ":" + digits(*device, 4);
+    return upper_hex(*vendor, 4) + ":" + upper_hex(*device, 4);
 }
 
 std::optional<std::string> usb_vendor(const Sysroot& root, std::uint16_t vendor)
 {
-    return HardwareDatabase(root).text("usb:v" + digits(vendor, 4), vendor_key);
+    return HardwareDatabase(root).text("usb:v" + upper_hex(vendor, 4), vendor_key);
 }
 
 std::string monitor_maker(const Sysroot& root, const std::string& code, bool panel)

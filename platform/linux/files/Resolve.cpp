@@ -1,12 +1,12 @@
 #include "platform/linux/files/Resolve.h"
 
-#include <algorithm>
+#include "platform/linux/files/PathWalk.h"
+
 #include <array>
 #include <cerrno>
 #include <climits>
 #include <fcntl.h>
 #include <linux/openat2.h>
-#include <string_view>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <vector>
@@ -15,34 +15,6 @@ namespace ostrelum::linux_platform {
 namespace {
 
 constexpr int place_flags = O_PATH | O_CLOEXEC;
-/// As many as the kernel follows.
-constexpr int link_limit = 40;
-
-/// The names of a path that are still to be walked, the next one last.
-class Names {
-public:
-    void put_first(std::string_view path)
-    {
-        const auto already = static_cast<std::ptrdiff_t>(names_.size());
-        while (!path.empty()) {
-            const std::size_t end = std::min(path.find('/'), path.size());
-            if (end > 0 && path.substr(0, end) != ".")
-                names_.emplace_back(path.substr(0, end));
-            path.remove_prefix(std::min(end + 1, path.size()));
-        }
-        std::reverse(names_.begin() + already, names_.end());
-    }
-    bool empty() const { return names_.empty(); }
-    std::string take()
-    {
-        std::string name = std::move(names_.back());
-        names_.pop_back();
-        return name;
-    }
-
-private:
-    std::vector<std::string> names_;
-};
 
 Descriptor open_in_root(int root, const std::string& path, int flags)
 {
@@ -73,12 +45,11 @@ Descriptor resolve_in_root(int root, const std::string& path, LastLink last)
 
 Descriptor resolve_by_hand(int root, const std::string& path, LastLink last)
 {
-    Names names;
-    names.put_first(path);
+    PathWalk walk(path);
     std::vector<Descriptor> trail;
     const auto here = [&] { return trail.empty() ? root : trail.back().number(); };
-    for (int links = 0; !names.empty();) {
-        const std::string name = names.take();
+    while (!walk.done()) {
+        const std::string name = walk.take();
         if (name == "..") {
             if (!trail.empty())
                 trail.pop_back();
@@ -86,15 +57,16 @@ Descriptor resolve_by_hand(int root, const std::string& path, LastLink last)
         }
         Descriptor next(::openat(here(), name.c_str(), place_flags | O_NOFOLLOW));
         const auto target = next ? link_text(next) : std::nullopt;
-        if (!next || (target && ++links > link_limit))
+        if (!next)
             return Descriptor();
-        if (!target || (names.empty() && last == LastLink::Keep)) {
+        if (!target || (walk.done() && last == LastLink::Keep)) {
             trail.push_back(std::move(next));
             continue;
         }
+        if (!walk.follow(*target))
+            return Descriptor();
         if (target->starts_with('/'))
             trail.clear();
-        names.put_first(*target);
     }
     return trail.empty() ? Descriptor(::openat(root, ".", place_flags)) : std::move(trail.back());
 }

@@ -1,11 +1,11 @@
 #include "platform/linux/files/Sysroot.h"
 
+#include "platform/linux/files/ReadToEnd.h"
 #include "platform/linux/text/NaturalOrder.h"
 #include "platform/linux/text/Text.h"
 #include "platform/system/Failure.h"
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
 #include <dirent.h>
 #include <fcntl.h>
@@ -25,23 +25,6 @@ Descriptor opened(const Descriptor& place)
         return Descriptor();
     const std::string path = "/proc/self/fd/" + std::to_string(place.number());
     return Descriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
-}
-
-/// All that can be read; nothing if that is more than the limit or an error ends it.
-std::optional<std::string> read_to_end(const Descriptor& file, std::size_t limit)
-{
-    std::string content;
-    std::array<char, 16384> block;
-    for (;;) {
-        const ssize_t count = ::read(file.number(), block.data(), block.size());
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count == 0)
-            return content;
-        if (count < 0 || content.size() + static_cast<std::size_t>(count) > limit)
-            return std::nullopt;
-        content.append(block.data(), static_cast<std::size_t>(count));
-    }
 }
 
 bool is_live_root(const Descriptor& root)

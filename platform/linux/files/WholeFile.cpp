@@ -1,5 +1,7 @@
 #include "platform/linux/files/WholeFile.h"
 
+#include "platform/linux/files/PathWalk.h"
+#include "platform/linux/files/ReadToEnd.h"
 #include "platform/system/Failure.h"
 
 #include <cerrno>
@@ -35,8 +37,7 @@ struct stat regular_status(const Descriptor& file, const std::string& path)
 /// What a chain of symbolic links leads to; it need not exist.
 std::string followed(fs::path path)
 {
-    // As many as the kernel follows.
-    for (int links = 0; links < 40; ++links) {
+    for (int links = 0; links < link_limit; ++links) {
         std::error_code error;
         const fs::path next = fs::read_symlink(path, error);
         if (error)
@@ -111,21 +112,10 @@ std::optional<std::string> read_whole_file(const std::string& path, std::size_t 
     if (!file)
         fail(path);
     regular_status(file, path);
-    // Read to the end: the kernel's own files tell no true size.
-    std::string content;
-    char block[4096];
-    for (;;) {
-        const ssize_t count = ::read(file.number(), block, sizeof block);
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count < 0)
-            fail(path);
-        if (count == 0)
-            return content;
-        content.append(block, static_cast<std::size_t>(count));
-        if (content.size() > limit)
-            throw Failure(path + ": too long");
-    }
+    auto content = read_to_end(file, limit);
+    if (!content)
+        fail(path);
+    return content;
 }
 
 FileReplacement::FileReplacement(const std::string& path, mode_t new_mode)

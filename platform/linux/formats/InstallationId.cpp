@@ -1,6 +1,7 @@
 #include "platform/linux/formats/InstallationId.h"
 
 #include "platform/linux/formats/Sha256.h"
+#include "platform/linux/text/Hex.h"
 #include "platform/linux/text/Text.h"
 
 #include <algorithm>
@@ -40,12 +41,9 @@ std::optional<std::string> installation_id(std::string_view machine_id)
     // them.
     digest[6] = static_cast<std::uint8_t>((digest[6] & 0x0F) | 0x40);
     digest[8] = static_cast<std::uint8_t>((digest[8] & 0x3F) | 0x80);
-    constexpr std::string_view digits = "0123456789abcdef";
     std::string text;
-    for (std::size_t i = 0; i < Id().size(); ++i) {
-        text += digits[digest[i] >> 4];
-        text += digits[digest[i] & 15];
-    }
+    for (std::size_t i = 0; i < Id().size(); ++i)
+        text += lower_hex(digest[i], 2);
     return text;
 }
 

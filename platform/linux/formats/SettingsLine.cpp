@@ -1,5 +1,6 @@
 #include "platform/linux/formats/SettingsLine.h"
 
+#include "platform/linux/text/Hex.h"
 #include "sources/Ascii.h"
 #include "sources/Utf8.h"
 
@@ -94,7 +95,6 @@ Token bare_value(std::string_view text, Span span)
 
 std::string escaped(char c)
 {
-    constexpr std::string_view digits = "0123456789ABCDEF";
     const auto code = static_cast<unsigned char>(c);
     switch (c) {
     case '\\': return "\\\\";
@@ -105,7 +105,7 @@ std::string escaped(char c)
     default:
         if (code >= 0x20 && code != 0x7F)
             return {c};
-        return {'\\', 'x', digits[code >> 4U], digits[code & 15U]};
+        return "\\x" + upper_hex(code, 2);
     }
 }
 

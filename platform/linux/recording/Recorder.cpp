@@ -1,23 +1,8 @@
 #include "platform/linux/recording/Recorder.h"
 
-#include <algorithm>
+#include "platform/linux/files/PathWalk.h"
 
 namespace ostrelum::linux_platform {
-namespace {
-
-/// Puts the names of a path in front of those that are still to be walked, the next one last.
-void put_first(std::vector<std::string>& names, std::string_view path)
-{
-    while (!path.empty()) {
-        const std::size_t begin = path.rfind('/') + 1;
-        const std::string_view name = path.substr(begin);
-        if (!name.empty() && name != ".")
-            names.emplace_back(name);
-        path = path.substr(0, begin == 0 ? 0 : begin - 1);
-    }
-}
-
-} // namespace
 
 void Recorder::keep(const std::string& place, PlaceKind kind, const std::string& content,
                     const std::string& asked)
@@ -43,31 +28,28 @@ std::optional<std::string> Recorder::link_at(const std::string& place, const std
 /// if there is none.
 std::optional<std::string> Recorder::walk(const std::string& path, LastLink last)
 {
-    /// As many as the kernel follows.
-    constexpr int link_limit = 40;
-    std::vector<std::string> names;
-    put_first(names, path);
+    PathWalk rest(path);
     std::string here;
-    for (int links = 0; !names.empty();) {
-        const std::string name = std::move(names.back());
-        names.pop_back();
+    while (!rest.done()) {
+        const std::string name = rest.take();
         if (name == "..") {
             here.resize(here.empty() ? 0 : here.rfind('/'));
             continue;
         }
         const std::string next = here + "/" + name;
         const auto target = link_at(next, path);
-        if ((target && ++links > link_limit) || (!target && !files_.exists(next)))
+        if (!target && !files_.exists(next))
             return std::nullopt;
-        if (!target || (names.empty() && last == LastLink::Keep)) {
+        if (!target || (rest.done() && last == LastLink::Keep)) {
             here = next;
-            if (!names.empty())
+            if (!rest.done())
                 keep(here, PlaceKind::Folder, "", path);
             continue;
         }
+        if (!rest.follow(*target))
+            return std::nullopt;
         if (target->starts_with('/'))
             here.clear();
-        put_first(names, *target);
     }
     return here;
 }
