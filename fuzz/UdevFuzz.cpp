@@ -1,6 +1,6 @@
 #include "fuzz/Cleanness.h"
 #include "platform/linux/devices/MemoryDevices.h"
-#include "platform/linux/devices/UdevDatabase.h"
+#include "platform/linux/formats/UdevRecord.h"
 
 #include <cstdint>
 #include <cstdlib>

@@ -2,7 +2,10 @@
 
 #include "platform/linux/LiveSystemCalls.h"
 #include "platform/linux/classes/Classes.h"
+#include "platform/linux/formats/InstallationId.h"
+#include "platform/linux/formats/VolumeSerial.h"
 #include "platform/linux/recording/ObservedSystemCalls.h"
+#include "platform/linux/recording/RecordedIdentities.h"
 #include "platform/linux/recording/RecordedSystemCalls.h"
 #include "platform/system/Failure.h"
 #include "platform/wql/ClassQuery.h"
@@ -12,6 +15,8 @@
 
 namespace ostrelum::linux_platform {
 namespace {
+
+constexpr IdentityRules live_identities{installation_id, serial_of_identity};
 
 class LinuxManagementService : public ManagementService {
 public:
@@ -42,12 +47,13 @@ std::unique_ptr<ManagementService> make_linux_management_service(const std::stri
 std::unique_ptr<ManagementService> make_linux_management_service(Sysroot root,
                                                                  SessionFactsSource session)
 {
-    auto calls =
-        root.is_live() ? live_system_calls() : recorded_system_calls(Sysroot(root, nullptr));
+    const bool live = root.is_live();
+    auto calls = live ? live_system_calls() : recorded_system_calls(Sysroot(root, nullptr));
     if (root.observer())
         calls = observed_system_calls(std::move(calls), root.observer());
     return std::make_unique<LinuxManagementService>(
-        MachineView{std::move(root), std::move(calls), std::move(session)});
+        MachineView{std::move(root), std::move(calls), std::move(session),
+                    live ? live_identities : recorded_identities()});
 }
 
 } // namespace ostrelum::linux_platform

@@ -17,7 +17,7 @@ struct Drive {
 
     UdevRecord udev() const
     {
-        return {machine.root, "b" + device_number(machine.root, name).value_or("")};
+        return udev_record(machine.root, "b" + device_number(machine.root, name).value_or(""));
     }
     std::optional<std::string> device_text(const char* file) const
     {

@@ -60,7 +60,7 @@ std::optional<std::string> model_of_identity(const Drive& drive)
 Value caption(const Drive& drive)
 {
     const Sysroot& root = drive.machine.root;
-    const UdevRecord udev(root, "b" + device_number(root, drive.name).value_or(""));
+    const UdevRecord udev = udev_record(root, "b" + device_number(root, drive.name).value_or(""));
     if (const auto model = udev.text("ID_MODEL_ENC"))
         return *model;
     if (const auto model = model_of_identity(drive))

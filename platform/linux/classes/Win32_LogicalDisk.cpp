@@ -1,7 +1,7 @@
 #include "platform/linux/classes/Classes.h"
 #include "platform/linux/devices/BlockDevices.h"
+#include "platform/linux/devices/FileSystemFacts.h"
 #include "platform/linux/devices/OpticalDrives.h"
-#include "platform/linux/devices/VolumeFacts.h"
 #include "platform/linux/devices/Volumes.h"
 
 #include <algorithm>
@@ -27,7 +27,7 @@ struct Disk {
     std::string system_device;
 
     bool mounted() const { return !volume.mount.target.empty(); }
-    FileSystemFacts facts() const { return {machine.root, device}; }
+    FileSystemFacts facts() const { return {machine, device}; }
     std::optional<VolumeSpace> space() const
     {
         if (!mounted() || volume.network || volume.behind_network)

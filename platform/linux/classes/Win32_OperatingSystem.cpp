@@ -2,14 +2,12 @@
 #include "platform/linux/classes/Classes.h"
 #include "platform/linux/formats/CimDateTime.h"
 #include "platform/linux/formats/ConfigText.h"
-#include "platform/linux/formats/InstallationId.h"
 #include "platform/linux/formats/LocaleIds.h"
 #include "platform/linux/formats/MemoryInfo.h"
 #include "platform/linux/formats/Mounts.h"
 #include "platform/linux/os/Distribution.h"
 #include "platform/linux/os/KernelRelease.h"
 #include "platform/linux/os/Processes.h"
-#include "platform/masking/Pseudonyms.h"
 
 #include <algorithm>
 #include <vector>
@@ -127,9 +125,7 @@ Value registered_user(const System& system)
 Value serial_number(const System& system)
 {
     const auto id = system.root().text("/etc/machine-id");
-    if (id && is_pseudonym(*id))
-        return *id;
-    return id ? value_of(installation_id(*id)) : Value();
+    return id ? value_of(system.machine.identities.installation(*id)) : Value();
 }
 
 Value service_pack(const System& system)

@@ -1,6 +1,7 @@
 #include "platform/linux/classes/Classes.h"
 #include "platform/linux/devices/FirmwareTable.h"
 #include "platform/linux/devices/MemoryDevices.h"
+#include "platform/linux/devices/UdevDatabase.h"
 
 #include <vector>
 
@@ -38,7 +39,7 @@ constexpr PropertyRow<MemoryDevice> rows[] = {
 /// The fitted modules in the firmware's order.
 std::vector<MemoryDevice> modules(const MachineView& machine)
 {
-    auto modules = published_memory(UdevRecord(machine.root, "+dmi:id"));
+    auto modules = published_memory(udev_record(machine.root, "+dmi:id"));
     if (modules.empty())
         modules = memory_of_table(bytes_of(firmware_table(machine.root)));
     return modules.empty() ? memory_of_controllers(machine.root) : modules;

@@ -44,7 +44,7 @@ std::optional<std::string> card_name(const SoundDevice& device)
 std::optional<std::string> card_maker(const SoundDevice& device)
 {
     const Sysroot& root = device.machine.root;
-    const UdevRecord udev(root, "+sound:" + device.card);
+    const UdevRecord udev = udev_record(root, "+sound:" + device.card);
     for (const char* key : {"ID_VENDOR_FROM_DATABASE", "ID_VENDOR_ENC"}) {
         if (auto maker = udev.text(key))
             return maker;

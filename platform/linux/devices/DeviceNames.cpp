@@ -62,7 +62,7 @@ std::optional<unsigned> number_in(const Sysroot& root, const std::string& path)
 
 PciNames pci_names(const Sysroot& root, const std::string& slot)
 {
-    const UdevRecord udev(root, "+pci:" + slot);
+    const UdevRecord udev = udev_record(root, "+pci:" + slot);
     PciNames names = {udev.text(vendor_key), udev.text(model_key)};
     const std::string folder = "/sys/bus/pci/devices/" + slot;
     const auto vendor = number_in(root, folder + "/vendor");

@@ -58,7 +58,7 @@ Found from_id_file(const Sysroot& root, const FirmwareSource& source)
 
 Found from_udev(const Sysroot& root, const FirmwareSource& source)
 {
-    return UdevRecord(root, "+dmi:id").text(source.udev_key);
+    return udev_record(root, "+dmi:id").text(source.udev_key);
 }
 
 Found from_table(const Sysroot& root, const FirmwareSource& source)

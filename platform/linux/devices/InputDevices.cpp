@@ -93,7 +93,7 @@ std::vector<InputNode> input_nodes(const Sysroot& root, InputKind kind)
     for (const std::string& name : names) {
         const std::string folder = std::string(class_folder) + name;
         const std::string link = root.link(folder).value_or("");
-        const UdevRecord udev(root, "+input:" + name);
+        const UdevRecord udev = udev_record(root, "+input:" + name);
         const bool known_to_udev = udev.text("ID_INPUT").has_value();
         if (!known_to_udev && !by_capability)
             by_capability.emplace(root, names);

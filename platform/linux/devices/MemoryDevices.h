@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/linux/devices/UdevDatabase.h"
 #include "platform/linux/files/Sysroot.h"
 #include "platform/linux/formats/Smbios.h"
+#include "platform/linux/formats/UdevRecord.h"
 
 #include <cstdint>
 #include <optional>

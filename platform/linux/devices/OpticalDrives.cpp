@@ -28,7 +28,7 @@ std::optional<std::uint64_t> disc_bytes(const Sysroot& root, const std::string& 
     const auto bytes = device_bytes(root, drive);
     if (!bytes)
         return std::nullopt;
-    const UdevRecord udev(root, "b" + device_number(root, drive).value_or(""));
+    const UdevRecord udev = udev_record(root, "b" + device_number(root, drive).value_or(""));
     if (udev.text("ID_CDROM"))
         return udev.text("ID_CDROM_MEDIA") == "1" ? bytes : std::nullopt;
     return *bytes == EmptyDriveBytes || *bytes <= NextToNothing ? std::nullopt : bytes;

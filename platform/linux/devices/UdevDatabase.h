@@ -1,38 +1,18 @@
 #pragma once
 
 #include "platform/linux/files/Sysroot.h"
+#include "platform/linux/formats/UdevRecord.h"
 
-#include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 
 namespace ostrelum::linux_platform {
 
-/// What udev published about a device: the lines "E:KEY=value" of its file in /run/udev/data.
-class UdevRecord {
-public:
-    /// The record of a device: "b8:0" and "c13:64" by number, "+pci:0000:00:02.0" by subsystem and
-    /// name. A device without one has no properties.
-    UdevRecord(const Sysroot& root, std::string_view device);
-    /// The record whose file holds these lines.
-    explicit UdevRecord(std::string lines) : lines_(std::move(lines)) {}
-
-    /// A property's value, trimmed, not empty. Keys that end in "_ENC" are decoded: udev writes
-    /// "\x20" there for what other keys lose to an underscore.
-    std::optional<std::string> text(std::string_view key) const;
-
-    /// Whether a key of that beginning can be there: a quick no for most.
-    bool mentions(std::string_view beginning) const
-    {
-        return lines_.find(beginning) != lines_.npos;
-    }
-
-private:
-    std::string lines_;
-};
-
-/// The text with each "\xNN" as the byte that it stands for.
-std::string udev_decoded(std::string_view text);
+/// The record of a device in udev's database: "b8:0" and "c13:64" by number, "+pci:0000:00:02.0" by
+/// subsystem and name. A device without one has no properties.
+inline UdevRecord udev_record(const Sysroot& root, std::string_view device)
+{
+    return UdevRecord(root.read("/run/udev/data/" + std::string(device)).value_or(""));
+}
 
 } // namespace ostrelum::linux_platform

@@ -5,8 +5,19 @@
 #include "platform/system/Screens.h"
 
 #include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
 
 namespace ostrelum::linux_platform {
+
+/// What is shown in place of identities that are to be kept from others or are too long to show:
+/// of an installation's machine id, and of the identity of a file system of a type. Nothing for a
+/// text that is no identity.
+struct IdentityRules {
+    std::optional<std::string> (*installation)(std::string_view machine_id);
+    std::optional<std::string> (*volume)(std::string_view identity, std::string_view type);
+};
 
 /// The machine that the classes tell of: this one or a recorded one.
 struct MachineView {
@@ -14,6 +25,7 @@ struct MachineView {
     std::unique_ptr<SystemCalls> system_calls;
     /// Empty without a desktop session.
     SessionFactsSource session;
+    IdentityRules identities;
 };
 
 } // namespace ostrelum::linux_platform

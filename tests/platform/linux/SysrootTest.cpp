@@ -138,13 +138,13 @@ TEST(UdevRecord, DecodesWhatIsEncoded)
     folder.file("run/udev/data/b8:0", "S:disk/by-id/x\nE:ID_FS_LABEL=my_usb\n"
                                       "E:ID_FS_LABEL_ENC=my\\x20usb\\xc3\\xa9\\x20\\x20\n"
                                       "E:ID_MODEL_ENC=a\\xZZ\\x4\nE:ID_VENDOR=\nG:systemd\n");
-    const UdevRecord record(Sysroot(folder / ""), "b8:0");
+    const UdevRecord record = udev_record(Sysroot(folder / ""), "b8:0");
     EXPECT_EQ(record.text("ID_FS_LABEL"), "my_usb");
     EXPECT_EQ(record.text("ID_FS_LABEL_ENC"), "my usb\u00E9");
     EXPECT_EQ(record.text("ID_MODEL_ENC"), "a\\xZZ\\x4");
     EXPECT_EQ(record.text("ID_VENDOR"), Text());
     EXPECT_EQ(record.text("ID_FS"), Text());
-    EXPECT_EQ(UdevRecord(Sysroot(folder / ""), "b8:1").text("ID_VENDOR"), Text());
+    EXPECT_EQ(udev_record(Sysroot(folder / ""), "b8:1").text("ID_VENDOR"), Text());
 }
 
 } // namespace

@@ -1,5 +1,4 @@
 #include "platform/linux/devices/CpuPackages.h"
-#include "platform/linux/devices/VolumeFacts.h"
 #include "platform/linux/formats/BuildDate.h"
 #include "platform/linux/formats/CimDateTime.h"
 #include "platform/linux/formats/ConfigText.h"
@@ -7,6 +6,7 @@
 #include "platform/linux/formats/InstallationId.h"
 #include "platform/linux/formats/LocaleIds.h"
 #include "platform/linux/formats/Sha256.h"
+#include "platform/linux/formats/VolumeSerial.h"
 #include "platform/linux/os/Distribution.h"
 #include "platform/linux/os/KernelRelease.h"
 #include "platform/linux/os/Processes.h"

@@ -13,7 +13,7 @@ namespace ostrelum::linux_platform {
 class FileSystemFacts {
 public:
     /// `device` is the kernel's name; an empty one has no facts.
-    FileSystemFacts(const Sysroot& root, std::string device);
+    FileSystemFacts(const MachineView& machine, std::string device);
 
     std::optional<std::string> label() const;
     /// The serial number: eight upper-case hexadecimal digits of the file system's identity.
@@ -26,12 +26,8 @@ private:
     std::optional<std::string> udev(std::string_view key) const;
     std::optional<std::string> link_name(const std::string& folder) const;
 
-    const Sysroot& root_;
+    const MachineView& machine_;
     std::string device_;
 };
-
-/// Eight digits of an identity: those of FAT, the last of NTFS, the first of UDF and of a UUID.
-/// Nothing for any other form. `type` is as FileSystemFacts gives it: NTFS and UDF have one form.
-std::optional<std::string> serial_of_identity(std::string_view identity, std::string_view type);
 
 } // namespace ostrelum::linux_platform

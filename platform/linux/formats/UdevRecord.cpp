@@ -1,13 +1,8 @@
-#include "platform/linux/devices/UdevDatabase.h"
+#include "platform/linux/formats/UdevRecord.h"
 
 #include "platform/linux/text/Text.h"
 
 namespace ostrelum::linux_platform {
-
-UdevRecord::UdevRecord(const Sysroot& root, std::string_view device)
-    : lines_(root.read("/run/udev/data/" + std::string(device)).value_or(""))
-{
-}
 
 std::optional<std::string> UdevRecord::text(std::string_view key) const
 {
