@@ -96,7 +96,7 @@ Value drivers(const Adapter& adapter)
 }
 
 /// What the monitor follows, else what its modes need, else what is on.
-RefreshLimits limits(const Adapter& adapter)
+RefreshRange limits(const Adapter& adapter)
 {
     const auto edid = main_monitor(adapter.machine, adapter.card);
     if (edid && edid->limits)

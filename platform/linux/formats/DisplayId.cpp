@@ -46,20 +46,20 @@ void read_formula(ByteView content, DisplayId& found)
         found.rates.push_back(content[5] + 1);
 }
 
-void keep(std::optional<RefreshLimits> limits, DisplayId& found)
+void keep(std::optional<RefreshRange> limits, DisplayId& found)
 {
     if (limits)
         found.limits = limits;
 }
 
-std::optional<RefreshLimits> range_limits(ByteView content)
+std::optional<RefreshRange> range_limits(ByteView content)
 {
     constexpr std::size_t size = 15;
     return content.size() < size ? std::nullopt : limits_of(content[10], content[11]);
 }
 
 /// The first revision of the block has two more bits of the highest rate.
-std::optional<RefreshLimits> dynamic_limits(ByteView content, unsigned revision)
+std::optional<RefreshRange> dynamic_limits(ByteView content, unsigned revision)
 {
     constexpr std::size_t size = 9;
     if (content.size() < size)

@@ -26,7 +26,7 @@ std::vector<DisplayIdBlock> display_id_blocks(ByteView section);
 /// What a section of DisplayID tells of refresh rates (VESA DisplayID 1.3 and 2.1): the modes of
 /// fast built-in panels often stand there alone.
 struct DisplayId {
-    std::optional<RefreshLimits> limits;
+    std::optional<RefreshRange> limits;
     std::vector<EdidTiming> detailed;
     /// Hertz of the modes that are named by a code or a formula.
     std::vector<int> rates;

@@ -24,9 +24,9 @@ struct Edid {
     /// Empty for none.
     std::string free_text;
     /// Vertical rates that the monitor says it follows.
-    std::optional<RefreshLimits> limits;
+    std::optional<RefreshRange> limits;
     /// Vertical rates between those of all modes that it lists.
-    std::optional<RefreshLimits> rates_of_modes;
+    std::optional<RefreshRange> rates_of_modes;
     /// The preferred mode comes first.
     std::vector<EdidTiming> detailed;
 };

@@ -15,11 +15,11 @@ std::optional<EdidTiming> timing_of(int width, int height, std::int64_t clock_mH
     return EdidTiming{width, height, static_cast<int>(rate)};
 }
 
-std::optional<RefreshLimits> limits_of(int lowest, int highest)
+std::optional<RefreshRange> limits_of(int lowest, int highest)
 {
     if (lowest <= 0 || lowest > highest)
         return std::nullopt;
-    return RefreshLimits{lowest, highest};
+    return RefreshRange{lowest, highest};
 }
 
 } // namespace ostrelum::linux_platform

@@ -15,11 +15,11 @@ struct EdidTiming {
     bool operator==(const EdidTiming&) const = default;
 };
 
-/// Refresh rates in hertz.
-struct RefreshLimits {
+/// From the lowest refresh rate to the highest, in hertz.
+struct RefreshRange {
     int lowest = 0;
     int highest = 0;
-    bool operator==(const RefreshLimits&) const = default;
+    bool operator==(const RefreshRange&) const = default;
 };
 
 /// The mode of a size in pixels, of a pixel clock in thousandths of a hertz, and of as many clocks
@@ -29,6 +29,6 @@ std::optional<EdidTiming> timing_of(int width, int height, std::int64_t clock_mH
                                     std::int64_t clocks_of_two);
 
 /// Limits as a monitor tells them; nothing without a lowest one and where the highest is below it.
-std::optional<RefreshLimits> limits_of(int lowest, int highest);
+std::optional<RefreshRange> limits_of(int lowest, int highest);
 
 } // namespace ostrelum::linux_platform

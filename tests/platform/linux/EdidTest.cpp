@@ -37,14 +37,14 @@ TEST(Edid, ReadsRangeLimitsWithTheirOffsets)
     struct Case {
         unsigned char flags;
         std::string bytes;
-        std::optional<RefreshLimits> limits;
+        std::optional<RefreshRange> limits;
         char revision = 4;
     };
     for (const Case& each : {
-             Case{0, "\x30\x4B", RefreshLimits{48, 75}},
-             Case{2, "\x30\x19", RefreshLimits{48, 280}},
-             Case{3, "\x01\x2D", RefreshLimits{256, 300}},
-             Case{3, "\x30\x4B", RefreshLimits{48, 75}, 3},
+             Case{0, "\x30\x4B", RefreshRange{48, 75}},
+             Case{2, "\x30\x19", RefreshRange{48, 280}},
+             Case{3, "\x01\x2D", RefreshRange{256, 300}},
+             Case{3, "\x30\x4B", RefreshRange{48, 75}, 3},
              Case{0, "\x4B\x30", std::nullopt},
              Case{0, std::string("\0\x4B", 2), std::nullopt},
          }) {
@@ -63,7 +63,7 @@ TEST(Edid, ComputesTheRefreshOfDetailedModes)
     ASSERT_TRUE(edid);
     const std::vector<EdidTiming> expected = {{1900, 1200, 61847}, {1920, 1080, 65347}};
     EXPECT_EQ(edid->detailed, expected);
-    EXPECT_EQ(edid->rates_of_modes, (RefreshLimits{62, 65}));
+    EXPECT_EQ(edid->rates_of_modes, (RefreshRange{62, 65}));
 }
 
 TEST(Edid, TakesAllListsOfModesIntoTheExtremes)
@@ -75,7 +75,7 @@ TEST(Edid, TakesAllListsOfModesIntoTheExtremes)
     standard[39] = '\xC0' + 10; // 70 Hz
     const auto edid = read_edid(summed(standard));
     ASSERT_TRUE(edid);
-    EXPECT_EQ(edid->rates_of_modes, (RefreshLimits{60, 85}));
+    EXPECT_EQ(edid->rates_of_modes, (RefreshRange{60, 85}));
     EXPECT_TRUE(edid->detailed.empty());
 }
 
@@ -99,19 +99,19 @@ TEST(Edid, TakesTheCodesOfVideoModesIntoTheExtremes)
 {
     struct Case {
         std::string blocks;
-        std::optional<RefreshLimits> rates;
+        std::optional<RefreshRange> rates;
     };
     for (const Case& each : {
-             Case{"\x43\x90\x20\x3F", RefreshLimits{24, 120}},            // 16 (native), 32, 63
-             Case{"\x23\x20\x34\x3F\x42\xC7\x20", RefreshLimits{24, 60}}, // behind sound: 199, 32
-             Case{"\x42\xC0\x13", RefreshLimits{50, 100}},                // 64 (native), 19
+             Case{"\x43\x90\x20\x3F", RefreshRange{24, 120}},            // 16 (native), 32, 63
+             Case{"\x23\x20\x34\x3F\x42\xC7\x20", RefreshRange{24, 60}}, // behind sound: 199, 32
+             Case{"\x42\xC0\x13", RefreshRange{50, 100}},                // 64 (native), 19
              Case{"\x42\x80\xFF", std::nullopt},
-             Case{"\x5F\x10", RefreshLimits{60, 60}},     // longer than its room
-             Case{"\xE2\x0E\x60", RefreshLimits{50, 50}}, // reduced colour: 96
+             Case{"\x5F\x10", RefreshRange{60, 60}},     // longer than its room
+             Case{"\xE2\x0E\x60", RefreshRange{50, 50}}, // reduced colour: 96
              Case{std::string("\x6C\x03\x0C\0\0\0\0\0\x20\0\x40\x01\x03", 13),
-                  RefreshLimits{24, 30}},
+                  RefreshRange{24, 30}},
              Case{std::string("\x6F\x03\x0C\0\0\0\0\0\xE0\1\1\1\1\0\x20\x02", 16),
-                  RefreshLimits{25, 25}},
+                  RefreshRange{25, 25}},
              Case{std::string("\x6A\x03\x0C\0\0\0\0\0\0\0\x40\x01", 11), std::nullopt}, // no video
          }) {
         std::string block = cta_block(4 + static_cast<unsigned>(each.blocks.size()), "");
@@ -142,7 +142,7 @@ TEST(Edid, TakesDisplayIdsModesAndLimitsToo)
         std::string blocks;
         std::vector<EdidTiming> detailed;
         int highest;
-        std::optional<RefreshLimits> limits;
+        std::optional<RefreshRange> limits;
     };
     for (const Case& each : {
              Case{data_block(0x22, fast), {slow, quick}, 165, {}},
@@ -167,7 +167,7 @@ TEST(Edid, TakesDisplayIdsModesAndLimitsToo)
     }
     const auto both = read_edid(monitor(descriptor(0xFD, "\x28\x90"), 1) +
                                 display_id(data_block(0x25, limits, 1)));
-    EXPECT_EQ(both->limits, (RefreshLimits{40, 144})) << "the first block's own";
+    EXPECT_EQ(both->limits, (RefreshRange{40, 144})) << "the first block's own";
 }
 
 TEST(Edid, RefusesWhatIsNoMonitorsData)

@@ -94,7 +94,7 @@ TEST(Masked, BlotsOutSerialNumbersOfMonitors)
     EXPECT_EQ(masked.substr(12, 4), "\0\0\0\0"s);
     const std::size_t blocks = edid.size() / 128;
     EXPECT_EQ(read_edid(monitor("", 1) + masked.substr((blocks + 1) * 128))->rates_of_modes,
-              (RefreshLimits{200, 200}));
+              (RefreshRange{200, 200}));
     const auto before = read_edid(edid), after = read_edid(masked);
     ASSERT_TRUE(before && after);
     EXPECT_EQ(after->name, before->name);
