@@ -38,7 +38,7 @@ Environment shown_environment(const Options& options, const Sysroot& files)
 {
     Environment environment = environment_of(options, files);
     if (options.mask)
-        environment[UserName] = Hidden;
+        environment[UserName] = hidden_text;
     return environment;
 }
 

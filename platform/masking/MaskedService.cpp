@@ -20,7 +20,7 @@ Value MaskedService::masked(const Value& value, Identity identity)
         return value;
     switch (identity) {
     case Identity::None: return value;
-    case Identity::Value: return std::string(Hidden);
+    case Identity::Value: return std::string(hidden_text);
     case Identity::Account: return accounts_.of(value.text());
     case Identity::Path: return folders_.of_path(value.text());
     }

@@ -7,7 +7,7 @@
 namespace ostrelum::inline masking {
 
 /// What stands where something that identifies was.
-inline constexpr std::string_view Hidden = "(hidden)";
+inline constexpr std::string_view hidden_text = "(hidden)";
 
 /// Whether a text is one of the pseudonyms below, as recordings have them in place of an identity.
 bool is_pseudonym(std::string_view text);

@@ -9,9 +9,9 @@
 namespace ostrelum::linux_platform {
 namespace {
 
-constexpr const char* BusSocket = "/run/dbus/system_bus_socket";
-constexpr const char* Service = "org.freedesktop.Accounts";
-constexpr const char* User = "org.freedesktop.Accounts.User";
+constexpr const char* bus_socket = "/run/dbus/system_bus_socket";
+constexpr const char* service_name = "org.freedesktop.Accounts";
+constexpr const char* user_interface = "org.freedesktop.Accounts.User";
 
 struct Release {
     void operator()(sd_bus* bus) const { sd_bus_close_unref(bus); }
@@ -56,14 +56,14 @@ public:
     explicit UserObject(std::uint64_t uid)
     {
         sd_bus* bus = nullptr;
-        if (access(BusSocket, F_OK) != 0 || sd_bus_open_system(&bus) < 0)
+        if (access(bus_socket, F_OK) != 0 || sd_bus_open_system(&bus) < 0)
             return;
         bus_.reset(bus);
         if (!becomes_ready(bus, deadline_) || !limit_call())
             return;
         sd_bus_message* raw = nullptr;
-        sd_bus_call_method(bus, Service, "/org/freedesktop/Accounts", Service, "FindUserById",
-                           nullptr, &raw, "x", static_cast<std::int64_t>(uid));
+        sd_bus_call_method(bus, service_name, "/org/freedesktop/Accounts", service_name,
+                           "FindUserById", nullptr, &raw, "x", static_cast<std::int64_t>(uid));
         const Message answer(raw);
         const char* path = nullptr;
         if (answer && sd_bus_message_read(answer.get(), "o", &path) > 0)
@@ -75,7 +75,8 @@ public:
     {
         sd_bus_message* raw = nullptr;
         if (!path_.empty() && limit_call())
-            sd_bus_call_method(bus_.get(), Service, path_.c_str(), User, method, nullptr, &raw, "");
+            sd_bus_call_method(bus_.get(), service_name, path_.c_str(), user_interface, method,
+                               nullptr, &raw, "");
         return Message(raw);
     }
 
@@ -83,8 +84,8 @@ public:
     {
         std::int64_t number = 0;
         if (path_.empty() || !limit_call() ||
-            sd_bus_get_property_trivial(bus_.get(), Service, path_.c_str(), User, property, nullptr,
-                                        'x', &number) < 0)
+            sd_bus_get_property_trivial(bus_.get(), service_name, path_.c_str(), user_interface,
+                                        property, nullptr, 'x', &number) < 0)
             return std::nullopt;
         return number;
     }
@@ -114,9 +115,9 @@ std::int64_t today()
 PasswordPolicy policy_of_ages(std::int64_t last_change, std::int64_t shortest, std::int64_t longest,
                               std::int64_t today)
 {
-    constexpr std::int64_t NoEnd = 99999;
+    constexpr std::int64_t no_end = 99999;
     const bool old_enough = shortest <= 0 || last_change <= 0 || today - last_change >= shortest;
-    return {.expires = longest >= 0 && longest < NoEnd, .changeable = old_enough};
+    return {.expires = longest >= 0 && longest < no_end, .changeable = old_enough};
 }
 
 std::optional<PasswordPolicy> password_policy(std::uint64_t uid)

@@ -9,14 +9,14 @@ namespace ostrelum::linux_platform {
 namespace {
 
 /// A log of more bytes is not read.
-constexpr std::size_t LongestLog = std::size_t{64} << 20;
+constexpr std::size_t longest_log = std::size_t{64} << 20;
 
 } // namespace
 
 const std::optional<std::string>& LoginFiles::content_of(Log& log)
 {
     if (!log.tried)
-        log.bytes = machine_.root.read(log.path, LongestLog);
+        log.bytes = machine_.root.read(log.path, longest_log);
     log.tried = true;
     return log.bytes;
 }
@@ -24,7 +24,8 @@ const std::optional<std::string>& LoginFiles::content_of(Log& log)
 std::size_t LoginFiles::record_bytes(const std::optional<std::string>& log) const
 {
     const auto kind = kernel_architecture(machine_);
-    return utmp_bytes(bytes_of(log.value_or("")), kind == "aarch64" ? WideUtmpBytes : UtmpBytes);
+    return utmp_bytes(bytes_of(log.value_or("")),
+                      kind == "aarch64" ? wide_utmp_bytes : usual_utmp_bytes);
 }
 
 std::optional<std::int64_t> LoginFiles::last(const Account& account)

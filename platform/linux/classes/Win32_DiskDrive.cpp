@@ -47,12 +47,12 @@ Value interface_type(const Drive& drive)
 std::optional<std::string> model_of_identity(const Drive& drive)
 {
     constexpr std::string_view kind = "t10.ATA";
-    constexpr std::size_t ModelWidth = 40;
+    constexpr std::size_t model_width = 40;
     const auto identity = drive.machine.root.text(drive.folder() + "/device/wwid");
     if (!identity || !identity->starts_with(kind))
         return std::nullopt;
     const auto rest = trimmed_space(std::string_view(*identity).substr(kind.size()));
-    return text_or_none(rest.substr(0, ModelWidth));
+    return text_or_none(rest.substr(0, model_width));
 }
 
 /// Without its coded form udev's model is the kernel's with other characters in place of the
@@ -97,12 +97,12 @@ constexpr PropertyRow<Drive> rows[] = {
 };
 
 /// Block devices that are no drives: made by software, or listed as something else.
-constexpr std::array<std::string_view, 11> NoDrives{"dm-", "drbd", "fd",  "loop", "md",  "mtd",
-                                                    "nbd", "ram",  "rbd", "sr",   "zram"};
+constexpr std::array<std::string_view, 11> no_drives{"dm-", "drbd", "fd",  "loop", "md",  "mtd",
+                                                     "nbd", "ram",  "rbd", "sr",   "zram"};
 
 bool is_drive(const Sysroot& root, const std::string& name)
 {
-    for (const std::string_view kind : NoDrives) {
+    for (const std::string_view kind : no_drives) {
         if (name.starts_with(kind))
             return false;
     }

@@ -10,11 +10,11 @@
 namespace ostrelum::linux_platform {
 namespace {
 
-constexpr int Removable = 2;
-constexpr int Fixed = 3;
-constexpr int Network = 4;
-constexpr int Optical = 5;
-constexpr int Memory = 6;
+constexpr int removable_disk = 2;
+constexpr int fixed_disk = 3;
+constexpr int network_disk = 4;
+constexpr int optical_disc = 5;
+constexpr int memory_disk = 6;
 
 /// A mounted volume, or an optical drive whatever is in it.
 struct Disk {
@@ -56,15 +56,15 @@ bool is_removable(const Disk& disk, const std::string& whole)
 Value drive_type(const Disk& disk)
 {
     if (disk.volume.network)
-        return Network;
+        return network_disk;
     if (disk.device.starts_with("sr"))
-        return Optical;
+        return optical_disc;
     if (disk.device.starts_with("zram") || disk.device.starts_with("ram"))
-        return Memory;
+        return memory_disk;
     const auto disks = whole_disks(disk.machine.root, disk.device);
     const bool removable = std::ranges::any_of(
         disks, [&](const std::string& whole) { return is_removable(disk, whole); });
-    return removable ? Removable : Fixed;
+    return removable ? removable_disk : fixed_disk;
 }
 
 Value volume_name(const Disk& disk)

@@ -52,13 +52,13 @@ Value number_of_logons(const Profile& profile)
 
 Value privileges(const Profile& profile)
 {
-    constexpr int Guest = 0;
-    constexpr int User = 1;
-    constexpr int Administrator = 2;
+    constexpr int guest = 0;
+    constexpr int user = 1;
+    constexpr int administrator = 2;
     const std::string groups = profile.machine.root.read("/etc/group").value_or("");
     if (profile.account.uid == 0 || administers(groups, profile.account))
-        return Administrator;
-    return profile.account.name.starts_with("guest") ? Guest : User;
+        return administrator;
+    return profile.account.name.starts_with("guest") ? guest : user;
 }
 
 constexpr PropertyRow<Profile> rows[] = {

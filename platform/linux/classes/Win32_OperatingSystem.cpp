@@ -67,13 +67,13 @@ bool is_installed(const Sysroot& root)
 /// only a year from 2000 on counts.
 Value install_date(const System& system)
 {
-    constexpr std::int64_t Year2000 = 946684800;
+    constexpr std::int64_t year_2000 = 946684800;
     if (!is_installed(system.root()))
         return {};
     std::optional<std::int64_t> oldest;
     for (const char* path : {"/", "/lost+found", "/etc/machine-id"}) {
         const auto birth = system.machine.system_calls->birth_time(path);
-        if (birth && *birth >= Year2000 && (!oldest || *birth < *oldest))
+        if (birth && *birth >= year_2000 && (!oldest || *birth < *oldest))
             oldest = birth;
     }
     return oldest

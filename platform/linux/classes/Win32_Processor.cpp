@@ -17,7 +17,7 @@
 namespace ostrelum::linux_platform {
 namespace {
 
-constexpr std::uint64_t KiloPerMega = 1000;
+constexpr std::uint64_t kilo_per_mega = 1000;
 
 /// What the kernel says of the package's first processor.
 CpuRecord first_record(const CpuPackage& package)
@@ -108,7 +108,7 @@ Value current_clock(const CpuPackage& package)
     const auto scaled = mean(package, [&](std::uint64_t cpu) -> std::optional<double> {
         const auto kilohertz =
             package.machine.root.number(cpu_file(cpu, "cpufreq/scaling_cur_freq"));
-        return kilohertz ? std::optional(static_cast<double>(*kilohertz) / KiloPerMega)
+        return kilohertz ? std::optional(static_cast<double>(*kilohertz) / kilo_per_mega)
                          : std::nullopt;
     });
     return whole_megahertz(scaled ? scaled : clock_of_cpuinfo(package));
@@ -162,14 +162,14 @@ std::optional<std::uint64_t> fastest(const CpuPackage& package, const char* file
 Value max_clock(const CpuPackage& package)
 {
     if (const auto kilohertz = fastest(package, "cpufreq/base_frequency"))
-        return *kilohertz / KiloPerMega;
+        return *kilohertz / kilo_per_mega;
     if (const auto megahertz = fastest(package, "acpi_cppc/nominal_freq").value_or(0))
         return megahertz;
     if (const auto megahertz = megahertz_in_name(model_name(package).value_or("")))
         return *megahertz;
     for (const char* file : {"cpufreq/bios_limit", "cpufreq/cpuinfo_max_freq"}) {
         if (const auto kilohertz = fastest(package, file))
-            return *kilohertz / KiloPerMega;
+            return *kilohertz / kilo_per_mega;
     }
     const auto rated = first_record(package).rated_megahertz();
     return whole_megahertz(rated ? rated : clock_of_cpuinfo(package));
@@ -202,12 +202,12 @@ Value name(const CpuPackage& package)
 /// order, empty ones left out (status, offset 18h, bit 6).
 Value socket(const CpuPackage& package)
 {
-    constexpr std::uint8_t ProcessorType = 4;
+    constexpr std::uint8_t processor_type = 4;
     const std::string table = firmware_table(package.machine.root);
     std::size_t place = 0;
     for (const SmbiosStructure& socket : smbios_structures(bytes_of(table))) {
         const bool fitted =
-            socket.type() == ProcessorType && (socket.byte(0x18).value_or(0) & 0x40) != 0;
+            socket.type() == processor_type && (socket.byte(0x18).value_or(0) & 0x40) != 0;
         if (!fitted || place++ != package.place)
             continue;
         const auto label = socket.string(0x04);

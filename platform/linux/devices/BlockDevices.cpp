@@ -6,9 +6,9 @@
 namespace ostrelum::linux_platform {
 namespace {
 
-constexpr std::uint64_t SectorBytes = 512;
+constexpr std::uint64_t sector_bytes = 512;
 /// Logical volumes may lie on each other; deeper than this is a circle.
-constexpr int DeepestStack = 16;
+constexpr int deepest_stack = 16;
 
 std::string last_part(std::string_view path)
 {
@@ -66,7 +66,7 @@ void gather_disks(const Sysroot& root, const std::string& name, std::set<std::st
     const auto below = root.list(in_class(disk) + "/slaves");
     if (below.empty())
         disks.insert(disk);
-    if (depth == DeepestStack)
+    if (depth == deepest_stack)
         return;
     for (const std::string& part : below)
         gather_disks(root, part, disks, depth + 1);
@@ -117,9 +117,9 @@ std::vector<std::string> block_devices(const Sysroot& root)
 std::optional<std::uint64_t> device_bytes(const Sysroot& root, const std::string& name)
 {
     const auto sectors = root.number("/sys/block/" + name + "/size");
-    if (!sectors || *sectors == 0 || *sectors > UINT64_MAX / SectorBytes)
+    if (!sectors || *sectors == 0 || *sectors > UINT64_MAX / sector_bytes)
         return std::nullopt;
-    return *sectors * SectorBytes;
+    return *sectors * sector_bytes;
 }
 
 } // namespace ostrelum::linux_platform

@@ -10,7 +10,7 @@ namespace ostrelum::linux_platform {
 namespace {
 
 /// No machine has more logical processors; a longer list is none.
-constexpr std::uint64_t MostCpus = 65536;
+constexpr std::uint64_t most_cpus = 65536;
 
 std::vector<std::uint64_t> cpus_in_use(const Sysroot& root)
 {
@@ -78,7 +78,7 @@ std::vector<std::uint64_t> numbers_of_list(std::string_view list)
         const auto hyphen = piece.find('-');
         const auto first = whole_number(piece.substr(0, hyphen));
         const auto last = hyphen == piece.npos ? first : whole_number(piece.substr(hyphen + 1));
-        if (!first || !last || *last < *first || *last >= MostCpus)
+        if (!first || !last || *last < *first || *last >= most_cpus)
             return {};
         for (std::uint64_t number = *first; number <= *last; ++number)
             numbers.push_back(number);

@@ -89,33 +89,44 @@ std::optional<int> type_of_code(std::optional<std::uint8_t> code)
 /// Chips that hold the firmware are no memory modules.
 bool holds_firmware(const MemoryDevice& device)
 {
-    constexpr int Rom = 10;
-    constexpr int Flash = 11;
-    return device.type == Rom || device.type == Flash;
+    constexpr int rom = 10;
+    constexpr int flash = 11;
+    return device.type == rom || device.type == flash;
 }
+
+/// Values of the sizes and widths of a slot that are no sizes and widths (DSP0134, 7.18).
+constexpr unsigned unknown_size = 0xFFFF;
+constexpr unsigned size_in_extended_field = 0x7FFF;
+constexpr unsigned unknown_width = 0xFFFF;
+/// Set in a size that counts kibibytes, not mebibytes.
+constexpr unsigned in_kibibytes = 0x8000;
+/// The highest bit of the extended size is reserved.
+constexpr std::uint64_t extended_size_bits = 0x7FFFFFFF;
 
 /// What offsets 0Ch and 1Ch say; nothing inside for a size that is not known, nothing at all for an
 /// empty slot.
 std::optional<std::optional<std::uint64_t>> size_of(const SmbiosStructure& slot)
 {
-    constexpr std::uint64_t KiB = 1024;
+    constexpr std::uint64_t kibibyte = 1024;
+    constexpr std::uint64_t mebibyte = 1024 * kibibyte;
     const auto size = slot.word(0x0C);
     if (!size || *size == 0)
         return std::nullopt;
-    if (*size == 0xFFFF)
+    if (*size == unknown_size)
         return std::optional<std::uint64_t>();
-    if (*size == 0x7FFF) {
+    if (*size == size_in_extended_field) {
         const auto mebibytes = slot.dword(0x1C);
-        return mebibytes ? std::optional((*mebibytes & 0x7FFFFFFFULL) * KiB * KiB) : std::nullopt;
+        return mebibytes ? std::optional((*mebibytes & extended_size_bits) * mebibyte)
+                         : std::nullopt;
     }
-    const std::uint64_t number = *size & 0x7FFF;
-    return std::optional(number * ((*size & 0x8000) != 0 ? KiB : KiB * KiB));
+    const std::uint64_t unit = (*size & in_kibibytes) != 0 ? kibibyte : mebibyte;
+    return std::optional((*size & ~in_kibibytes) * unit);
 }
 
 std::optional<int> width_of(std::optional<std::uint64_t> bits)
 {
-    return bits && *bits != 0 && *bits < 0xFFFF ? std::optional(static_cast<int>(*bits))
-                                                : std::nullopt;
+    return bits && *bits != 0 && *bits < unknown_width ? std::optional(static_cast<int>(*bits))
+                                                       : std::nullopt;
 }
 
 std::optional<std::uint64_t> number_of(const std::optional<std::string>& text)
@@ -162,9 +173,9 @@ std::optional<int> form_factor_of_text(std::string_view text)
 std::vector<MemoryDevice> published_memory(const UdevRecord& firmware)
 {
     /// Numbers may have gaps; a table has no more structures than this.
-    constexpr int Most = 256;
+    constexpr int most = 256;
     std::vector<MemoryDevice> devices;
-    for (int number = 0; number < Most; ++number) {
+    for (int number = 0; number < most; ++number) {
         const auto device = published_slot(firmware, number);
         if (device && !holds_firmware(*device))
             devices.push_back(*device);
@@ -174,10 +185,10 @@ std::vector<MemoryDevice> published_memory(const UdevRecord& firmware)
 
 std::vector<MemoryDevice> memory_of_table(ByteView table)
 {
-    constexpr std::uint8_t MemoryDeviceType = 17;
+    constexpr std::uint8_t memory_device_type = 17;
     std::vector<MemoryDevice> devices;
     for (const SmbiosStructure& slot : smbios_structures(table)) {
-        const auto size = slot.type() == MemoryDeviceType ? size_of(slot) : std::nullopt;
+        const auto size = slot.type() == memory_device_type ? size_of(slot) : std::nullopt;
         if (!size)
             continue;
         const auto locator = slot.string(0x10);
@@ -194,7 +205,7 @@ std::vector<MemoryDevice> memory_of_table(ByteView table)
 
 std::vector<MemoryDevice> memory_of_controllers(const Sysroot& root)
 {
-    constexpr std::uint64_t MiB = 1024ULL * 1024;
+    constexpr std::uint64_t mebibyte = 1024ULL * 1024;
     const std::string controllers = "/sys/devices/system/edac/mc";
     std::vector<MemoryDevice> devices;
     for (const std::string& controller : root.list(controllers)) {
@@ -206,7 +217,7 @@ std::vector<MemoryDevice> memory_of_controllers(const Sysroot& root)
                 continue;
             const auto label = root.text(folder + "/dimm_label");
             devices.push_back(
-                {.capacity = *size * MiB,
+                {.capacity = *size * mebibyte,
                  .type = type_of_words(root.text(folder + "/dimm_mem_type").value_or("")),
                  .locator = label ? told_text(*label) : std::nullopt});
         }

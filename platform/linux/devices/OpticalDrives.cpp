@@ -8,8 +8,8 @@ namespace {
 
 /// What the kernel gives as the size of an empty drive, in bytes: a gigabyte less a sector, or next
 /// to nothing (drivers/scsi/sr.c).
-constexpr std::uint64_t EmptyDriveBytes = 2097151ULL * 512;
-constexpr std::uint64_t NextToNothing = 4ULL * 512;
+constexpr std::uint64_t empty_drive_bytes = 2097151ULL * 512;
+constexpr std::uint64_t next_to_nothing = 4ULL * 512;
 
 } // namespace
 
@@ -31,7 +31,7 @@ std::optional<std::uint64_t> disc_bytes(const Sysroot& root, const std::string& 
     const UdevRecord udev = udev_record(root, "b" + device_number(root, drive).value_or(""));
     if (udev.text("ID_CDROM"))
         return udev.text("ID_CDROM_MEDIA") == "1" ? bytes : std::nullopt;
-    return *bytes == EmptyDriveBytes || *bytes <= NextToNothing ? std::nullopt : bytes;
+    return *bytes == empty_drive_bytes || *bytes <= next_to_nothing ? std::nullopt : bytes;
 }
 
 } // namespace ostrelum::linux_platform

@@ -15,9 +15,9 @@ namespace {
 using Milliseconds = std::chrono::milliseconds;
 using Space = std::optional<VolumeSpace>;
 
-constexpr Milliseconds LongestWait{2000};
+constexpr Milliseconds longest_wait{2000};
 /// While another answer is overdue: ten dead volumes take little longer than one.
-constexpr Milliseconds ShorterWait{100};
+constexpr Milliseconds shorter_wait{100};
 
 /// Paths whose answer is outstanding. Lives as long as the process: a worker may outlive all else.
 struct Outstanding {
@@ -28,7 +28,7 @@ struct Outstanding {
     std::optional<Milliseconds> begin(const std::string& path)
     {
         const std::lock_guard lock(mutex);
-        const auto wait = paths.empty() ? LongestWait : ShorterWait;
+        const auto wait = paths.empty() ? longest_wait : shorter_wait;
         return paths.insert(path).second ? std::optional(wait) : std::nullopt;
     }
     void end(const std::string& path)

@@ -18,32 +18,32 @@ bool contains(const std::array<std::string_view, Count>& sorted, std::string_vie
 }
 
 /// Types without data of their own, or whose data is listed with another mount.
-constexpr std::array<std::string_view, 31> PseudoTypes{
+constexpr std::array<std::string_view, 31> pseudo_types{
     "autofs",    "binder", "binfmt_misc", "bpf",        "cgroup",     "cgroup2",   "configfs",
     "debugfs",   "devpts", "devtmpfs",    "efivarfs",   "erofs",      "fuse",      "fusectl",
     "hugetlbfs", "mqueue", "nfsd",        "none",       "nsfs",       "overlay",   "pipefs",
     "proc",      "pstore", "ramfs",       "rpc_pipefs", "securityfs", "selinuxfs", "squashfs",
     "sysfs",     "tmpfs",  "tracefs"};
-static_assert(std::ranges::is_sorted(PseudoTypes));
+static_assert(std::ranges::is_sorted(pseudo_types));
 
-constexpr std::array<std::string_view, 24> NetworkTypes{
+constexpr std::array<std::string_view, 24> network_types{
     "9p",        "afs",           "beegfs",         "ceph",        "cifs",           "coda",
     "davfs",     "fuse.ceph",     "fuse.curlftpfs", "fuse.davfs2", "fuse.glusterfs", "fuse.rclone",
     "fuse.s3fs", "fuse.smbnetfs", "fuse.sshfs",     "glusterfs",   "gpfs",           "lustre",
     "ncpfs",     "nfs",           "nfs4",           "smb3",        "smbfs",          "virtiofs"};
-static_assert(std::ranges::is_sorted(NetworkTypes));
+static_assert(std::ranges::is_sorted(network_types));
 
 /// Folders under which mounts belong to the system, not to the user.
-constexpr std::array<std::string_view, 10> SystemFolders{"/dev",
-                                                         "/proc",
-                                                         "/snap",
-                                                         "/sys",
-                                                         "/var/lib/containerd",
-                                                         "/var/lib/containers",
-                                                         "/var/lib/docker",
-                                                         "/var/lib/flatpak",
-                                                         "/var/lib/lxcfs",
-                                                         "/var/lib/snapd"};
+constexpr std::array<std::string_view, 10> system_folders{"/dev",
+                                                          "/proc",
+                                                          "/snap",
+                                                          "/sys",
+                                                          "/var/lib/containerd",
+                                                          "/var/lib/containers",
+                                                          "/var/lib/docker",
+                                                          "/var/lib/flatpak",
+                                                          "/var/lib/lxcfs",
+                                                          "/var/lib/snapd"};
 
 bool lies_under(std::string_view path, std::string_view folder)
 {
@@ -54,7 +54,7 @@ bool in_system_folder(std::string_view target)
 {
     if (lies_under(target, "/run"))
         return !lies_under(target, "/run/media") && !lies_under(target, "/run/live");
-    return std::ranges::any_of(SystemFolders,
+    return std::ranges::any_of(system_folders,
                                [&](std::string_view folder) { return lies_under(target, folder); });
 }
 
@@ -72,7 +72,7 @@ bool is_volume(const Mount& mount)
         return false;
     if (is_network_type(mount.type))
         return true;
-    return !contains(PseudoTypes, mount.type) && !mount.type.starts_with("fuse.") &&
+    return !contains(pseudo_types, mount.type) && !mount.type.starts_with("fuse.") &&
            !mount.source.starts_with("/dev/loop");
 }
 
@@ -160,7 +160,7 @@ bool way_leads_over_network(const Mount& mount, const std::vector<Mount>& mounts
 
 bool is_network_type(std::string_view type)
 {
-    return contains(NetworkTypes, type);
+    return contains(network_types, type);
 }
 
 std::vector<Volume> volumes_of(const std::vector<Mount>& mounts)

@@ -16,7 +16,7 @@ namespace ostrelum::linux_platform {
 std::optional<std::string> read_whole_file(const std::string& path, std::size_t limit);
 
 /// Permissions of a file that nobody but its owner may read.
-inline constexpr mode_t OwnerAlone = 0600;
+inline constexpr mode_t owner_alone = 0600;
 
 /// Gives a file its next content in one step: at any moment, and after a loss of power, the name
 /// leads to the old content or to the new one, whole. A symbolic link is kept and what it leads to
@@ -27,7 +27,7 @@ public:
     /// Begins: from here to the end of the object no other process replaces the file. A file that
     /// was not there gets the permissions `new_mode`, less what the process's mask takes away.
     /// Throws Failure if the folder cannot be written or another process is at it.
-    explicit FileReplacement(const std::string& path, mode_t new_mode = OwnerAlone);
+    explicit FileReplacement(const std::string& path, mode_t new_mode = owner_alone);
     FileReplacement(const FileReplacement&) = delete;
     FileReplacement& operator=(const FileReplacement&) = delete;
     /// Without a finished commit the old content stays, and nothing is left behind.

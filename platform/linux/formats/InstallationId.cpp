@@ -12,8 +12,8 @@ namespace {
 using Id = std::array<std::uint8_t, 16>;
 
 /// This program's own, drawn at random once.
-constexpr Id ApplicationId{0x5b, 0x0e, 0x9c, 0x41, 0xd7, 0x2a, 0x4f, 0x83,
-                           0x96, 0x1d, 0xc3, 0x74, 0xae, 0x58, 0x20, 0xb9};
+constexpr Id application_id{0x5b, 0x0e, 0x9c, 0x41, 0xd7, 0x2a, 0x4f, 0x83,
+                            0x96, 0x1d, 0xc3, 0x74, 0xae, 0x58, 0x20, 0xb9};
 
 std::optional<Id> parse_id(std::string_view text)
 {
@@ -36,7 +36,7 @@ std::optional<std::string> installation_id(std::string_view machine_id)
     const auto machine = parse_id(trimmed_space(machine_id));
     if (!machine || std::ranges::all_of(*machine, [](std::uint8_t byte) { return byte == 0; }))
         return std::nullopt;
-    Digest digest = hmac_sha256(*machine, ApplicationId);
+    Digest digest = hmac_sha256(*machine, application_id);
     // A random UUID's version and variant (RFC 9562, 5.4), as the service that made the scheme sets
     // them.
     digest[6] = static_cast<std::uint8_t>((digest[6] & 0x0F) | 0x40);

@@ -42,7 +42,7 @@ constexpr std::array<LocaleRow, 108> locales{{
 static_assert(std::ranges::adjacent_find(locales, std::ranges::greater_equal{}, &LocaleRow::name) ==
               locales.end());
 
-constexpr std::uint32_t English = 1033;
+constexpr std::uint32_t english = 1033;
 
 const LocaleRow* row_from(std::string_view name)
 {
@@ -64,7 +64,7 @@ std::optional<std::uint32_t> locale_id(std::string_view locale)
     const auto at = locale.find('@');
     const std::string_view modifier = at == locale.npos ? "" : locale.substr(at);
     if (plain == "C" || plain == "POSIX")
-        return English;
+        return english;
     if (const auto id = exactly(std::string(plain) + std::string(modifier)))
         return id;
     if (const auto id = exactly(plain))

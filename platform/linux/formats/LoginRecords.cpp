@@ -5,7 +5,7 @@
 namespace ostrelum::linux_platform {
 namespace {
 
-constexpr std::uint64_t UserProcess = 7;
+constexpr std::uint64_t user_process = 7;
 
 std::uint64_t type_of(ByteView record)
 {
@@ -33,7 +33,7 @@ bool names(ByteView record, std::string_view account)
 
 std::int64_t time_of(ByteView record)
 {
-    const bool wide = record.size() == WideUtmpBytes;
+    const bool wide = record.size() == wide_utmp_bytes;
     const std::uint64_t seconds =
         wide ? little_endian(record, 344, 8) : little_endian(record, 340, 4);
     return static_cast<std::int64_t>(seconds);
@@ -43,11 +43,11 @@ std::int64_t time_of(ByteView record)
 
 std::size_t utmp_bytes(ByteView log, std::size_t otherwise)
 {
-    const std::size_t narrow = records_of_known_type(log, UtmpBytes);
-    const std::size_t wide = records_of_known_type(log, WideUtmpBytes);
+    const std::size_t narrow = records_of_known_type(log, usual_utmp_bytes);
+    const std::size_t wide = records_of_known_type(log, wide_utmp_bytes);
     if (narrow == wide)
         return otherwise;
-    return wide > narrow ? WideUtmpBytes : UtmpBytes;
+    return wide > narrow ? wide_utmp_bytes : usual_utmp_bytes;
 }
 
 LoginHistory login_history(ByteView log, std::size_t record_bytes, std::string_view account)
@@ -55,7 +55,7 @@ LoginHistory login_history(ByteView log, std::size_t record_bytes, std::string_v
     LoginHistory history;
     for (; log.size() >= record_bytes; log = log.subspan(record_bytes)) {
         const ByteView record = log.first(record_bytes);
-        if (type_of(record) != UserProcess || !names(record, account))
+        if (type_of(record) != user_process || !names(record, account))
             continue;
         ++history.logins;
         history.last = time_of(record);
@@ -65,8 +65,8 @@ LoginHistory login_history(ByteView log, std::size_t record_bytes, std::string_v
 
 std::optional<std::int64_t> last_login(ByteView record)
 {
-    const bool wide = record.size() == lastlog_bytes(WideUtmpBytes);
-    if (!wide && record.size() != lastlog_bytes(UtmpBytes))
+    const bool wide = record.size() == lastlog_bytes(wide_utmp_bytes);
+    if (!wide && record.size() != lastlog_bytes(usual_utmp_bytes))
         return std::nullopt;
     const auto seconds = static_cast<std::int64_t>(little_endian(record, 0, wide ? 8 : 4));
     return seconds > 0 ? std::optional(seconds) : std::nullopt;
@@ -74,12 +74,12 @@ std::optional<std::int64_t> last_login(ByteView record)
 
 std::uint32_t failed_logins(ByteView file)
 {
-    constexpr std::size_t RecordBytes = 64;
-    constexpr std::size_t StatusAt = 54;
-    constexpr std::uint64_t Valid = 1;
+    constexpr std::size_t record_bytes = 64;
+    constexpr std::size_t status_at = 54;
+    constexpr std::uint64_t valid = 1;
     std::uint32_t count = 0;
-    for (; file.size() >= RecordBytes; file = file.subspan(RecordBytes))
-        count += (little_endian(file, StatusAt, 2) & Valid) != 0 ? 1U : 0U;
+    for (; file.size() >= record_bytes; file = file.subspan(record_bytes))
+        count += (little_endian(file, status_at, 2) & valid) != 0 ? 1U : 0U;
     return count;
 }
 

@@ -18,8 +18,8 @@ struct LoginHistory {
 };
 
 /// Bytes of a record of the log: some kinds of processor have a wider clock in it.
-inline constexpr std::size_t UtmpBytes = 384;
-inline constexpr std::size_t WideUtmpBytes = 400;
+inline constexpr std::size_t usual_utmp_bytes = 384;
+inline constexpr std::size_t wide_utmp_bytes = 400;
 
 /// The width of a log's records: the one by which more of them are of a known type. The kernel does
 /// not tell it, since a system of 32 bits may run on a kernel of 64. `otherwise` where the log does
@@ -31,7 +31,7 @@ LoginHistory login_history(ByteView log, std::size_t record_bytes, std::string_v
 /// Bytes of a record of the file lastlog, which stand by user number, beside each width of the log.
 constexpr std::size_t lastlog_bytes(std::size_t record_bytes)
 {
-    return record_bytes == WideUtmpBytes ? 296 : 292;
+    return record_bytes == wide_utmp_bytes ? 296 : 292;
 }
 
 /// When an account last logged in, by its whole record of lastlog: in seconds since 1970. Nothing

@@ -7,7 +7,7 @@ namespace ostrelum::linux_platform {
 namespace {
 
 using Words = std::array<std::uint32_t, 8>;
-constexpr std::size_t BlockBytes = 64;
+constexpr std::size_t block_bytes = 64;
 
 /// The fractional parts of the cube roots of the first 64 primes (FIPS 180-4, 4.2.2).
 constexpr std::array<std::uint32_t, 64> constants{
@@ -25,7 +25,7 @@ Bytes padded(ByteView bytes)
 {
     Bytes message(bytes.begin(), bytes.end());
     message.push_back(0x80);
-    while (message.size() % BlockBytes != BlockBytes - 8)
+    while (message.size() % block_bytes != block_bytes - 8)
         message.push_back(0);
     const std::uint64_t bits = std::uint64_t{bytes.size()} * 8;
     for (int shift = 56; shift >= 0; shift -= 8)
@@ -80,7 +80,7 @@ Digest sha256(ByteView bytes)
     Words hash{0x6a09e667, 0xbb67ae85, 0x3c6ef372, 0xa54ff53a,
                0x510e527f, 0x9b05688c, 0x1f83d9ab, 0x5be0cd19};
     const auto message = padded(bytes);
-    for (std::size_t at = 0; at < message.size(); at += BlockBytes)
+    for (std::size_t at = 0; at < message.size(); at += block_bytes)
         digest_block(hash, message.data() + at);
     Digest digest{};
     for (std::size_t i = 0; i < digest.size(); ++i)
@@ -90,9 +90,9 @@ Digest sha256(ByteView bytes)
 
 Digest hmac_sha256(ByteView key, ByteView message)
 {
-    assert(key.size() <= BlockBytes);
-    Bytes inner(BlockBytes, 0x36);
-    Bytes outer(BlockBytes, 0x5c);
+    assert(key.size() <= block_bytes);
+    Bytes inner(block_bytes, 0x36);
+    Bytes outer(block_bytes, 0x5c);
     for (std::size_t i = 0; i < key.size(); ++i) {
         inner[i] ^= key[i];
         outer[i] ^= key[i];

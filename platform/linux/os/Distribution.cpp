@@ -10,10 +10,10 @@ namespace ostrelum::linux_platform {
 namespace {
 
 /// Distributions whose version is the release and the number of its renewal.
-constexpr std::array<std::string_view, 10> EnterpriseIds{
+constexpr std::array<std::string_view, 10> enterprise_ids{
     "almalinux",     "centos", "eurolinux", "miraclelinux", "ol",
     "opensuse-leap", "rhel",   "rocky",     "sles",         "virtuozzo"};
-static_assert(std::ranges::is_sorted(EnterpriseIds));
+static_assert(std::ranges::is_sorted(enterprise_ids));
 
 } // namespace
 
@@ -39,7 +39,7 @@ std::uint32_t Distribution::point_release() const
         return dotted_number(root_.text("/etc/debian_version").value_or(""), 1);
     if (id == "ubuntu")
         return dotted_number(assigned(text_, "VERSION").value_or(""), 2);
-    if (std::ranges::binary_search(EnterpriseIds, id))
+    if (std::ranges::binary_search(enterprise_ids, id))
         return dotted_number(assigned(text_, "VERSION_ID").value_or(""), 1);
     return 0;
 }

@@ -41,8 +41,8 @@ std::string build_number(std::string_view rest)
 
 std::string four_digits(const std::string& digits)
 {
-    constexpr std::size_t Wide = 4;
-    return digits.size() < Wide ? std::string(Wide - digits.size(), '0') + digits : digits;
+    constexpr std::size_t wide = 4;
+    return digits.size() < wide ? std::string(wide - digits.size(), '0') + digits : digits;
 }
 
 /// What the processor itself tells, for a recorded machine without anything else: flag "lm" is

@@ -8,11 +8,11 @@ namespace ostrelum::linux_platform {
 namespace {
 
 /// PF_KTHREAD of the flags (include/linux/sched.h).
-constexpr std::uint64_t KernelThread = 0x00200000;
+constexpr std::uint64_t kernel_thread = 0x00200000;
 /// Place of the flags among the words behind the name, which may hold blanks and brackets itself.
-constexpr std::size_t FlagsWord = 6;
+constexpr std::size_t flags_word = 6;
 /// The words up to the flags are a letter and numbers of at most 11 signs.
-constexpr std::size_t FlagsEnd = 80;
+constexpr std::size_t flags_end = 80;
 
 } // namespace
 
@@ -21,11 +21,11 @@ std::optional<bool> is_kernel_thread(std::string_view stat)
     const auto name_end = stat.rfind(')');
     if (name_end == stat.npos)
         return std::nullopt;
-    const auto words = words_of(stat.substr(name_end + 1, FlagsEnd));
-    if (words.size() <= FlagsWord)
+    const auto words = words_of(stat.substr(name_end + 1, flags_end));
+    if (words.size() <= flags_word)
         return std::nullopt;
-    const auto flags = whole_number(words[FlagsWord]);
-    return flags ? std::optional((*flags & KernelThread) != 0) : std::nullopt;
+    const auto flags = whole_number(words[flags_word]);
+    return flags ? std::optional((*flags & kernel_thread) != 0) : std::nullopt;
 }
 
 std::optional<std::uint32_t> process_count(const Sysroot& root)

@@ -14,7 +14,7 @@
 namespace ostrelum::linux_platform {
 namespace {
 
-const std::string hidden(Hidden);
+const std::string hidden(hidden_text);
 
 /// The lines that begin with one of these.
 std::string lines_with(const std::string& content, std::span<const std::string_view> beginnings)

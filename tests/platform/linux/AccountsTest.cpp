@@ -7,15 +7,13 @@
 namespace ostrelum::linux_platform {
 namespace {
 
-using Bytes8 = std::vector<std::uint8_t>;
-
 /// A record of the log of logins.
-Bytes8 login(std::size_t size, std::uint8_t type, std::string_view user, std::uint64_t seconds)
+Bytes login(std::size_t size, std::uint8_t type, std::string_view user, std::uint64_t seconds)
 {
-    Bytes8 record(size, 0);
+    Bytes record(size, 0);
     record[0] = type;
     std::ranges::copy(user, record.begin() + 44);
-    const std::size_t at = size == WideUtmpBytes ? 344 : 340;
+    const std::size_t at = size == wide_utmp_bytes ? 344 : 340;
     record[at] = static_cast<std::uint8_t>(seconds);
     record[at + 1] = static_cast<std::uint8_t>(seconds >> 8);
     return record;
@@ -24,13 +22,13 @@ Bytes8 login(std::size_t size, std::uint8_t type, std::string_view user, std::ui
 TEST(Logins, AreCountedByAccountInBothWidths)
 {
     const std::string long_name(32, 'n');
-    for (const std::size_t size : {UtmpBytes, WideUtmpBytes}) {
-        Bytes8 log = login(size, 2, "reboot", 1);
+    for (const std::size_t size : {usual_utmp_bytes, wide_utmp_bytes}) {
+        Bytes log = login(size, 2, "reboot", 1);
         // 9600 bytes are whole records of both widths, whose kinds alone tell which they are.
         while (log.size() < 9600)
             std::ranges::copy(login(size, log.size() > 8000 ? 8 : 7, "ana", log.size()),
                               std::back_inserter(log));
-        const std::size_t other = size == UtmpBytes ? WideUtmpBytes : UtmpBytes;
+        const std::size_t other = size == usual_utmp_bytes ? wide_utmp_bytes : usual_utmp_bytes;
         EXPECT_EQ(utmp_bytes(log, other), size);
         EXPECT_EQ(utmp_bytes(std::span(log).first(size - 1), other), other) << "cut";
         std::ranges::copy(login(size, 7, long_name, 300), std::back_inserter(log));
@@ -42,19 +40,20 @@ TEST(Logins, AreCountedByAccountInBothWidths)
         log.pop_back();
         EXPECT_EQ(login_history(log, size, long_name).logins, 0U) << "a record that is cut off";
     }
-    EXPECT_EQ(utmp_bytes(Bytes8(4800, 0xFF), WideUtmpBytes), WideUtmpBytes);
+    EXPECT_EQ(utmp_bytes(Bytes(4800, 0xFF), wide_utmp_bytes), wide_utmp_bytes);
 }
 
 TEST(Logins, OlderFilesGiveTheLastOneAndFailures)
 {
-    for (const std::size_t size : {lastlog_bytes(UtmpBytes), lastlog_bytes(WideUtmpBytes)}) {
-        Bytes8 record(size, 0);
+    for (const std::size_t size :
+         {lastlog_bytes(usual_utmp_bytes), lastlog_bytes(wide_utmp_bytes)}) {
+        Bytes record(size, 0);
         EXPECT_EQ(last_login(record), std::nullopt) << "never";
         record[0] = 77;
         EXPECT_EQ(last_login(record), 77);
         EXPECT_EQ(last_login(std::span(record).first(size - 1)), std::nullopt) << "cut";
     }
-    Bytes8 failures(3 * 64 + 10, 0);
+    Bytes failures(3 * 64 + 10, 0);
     for (std::uint8_t each = 1; each <= 3; ++each)
         failures[each * 64U - 10U] = each;
     EXPECT_EQ(failed_logins(failures), 2U);
