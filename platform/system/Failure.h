@@ -5,7 +5,8 @@
 namespace ostrelum::inline system {
 
 /// The one way in which an operation of the machine fails: a query refused, a value missing or of
-/// the wrong kind, a write without rights. Only the helpers of figures/PassOver.h catch it.
+/// the wrong kind, a write without rights. The logic passes over it by the helpers of
+/// figures/PassOver.h alone; the console tells the user of it.
 class Failure : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
