@@ -3,14 +3,13 @@
 #include "figures/Platform.h"
 #include "frame/MainForm.h"
 #include "frame/PageTable.h"
+#include "sources/Texts.h"
 
 #include <string>
 
 /// Copying reads the labels as they stand on the page, so the clipboard gets what the user sees.
 namespace ostrelum::inline commands {
 namespace {
-
-const std::string CRLF = "\r\n";
 
 std::string row_text(int row)
 {
@@ -31,11 +30,11 @@ std::string line_text(const PageEntry& page, int row)
 
 std::string page_text()
 {
-    std::string text = F1.Titulo.Caption + CRLF + CRLF;
+    std::string text = F1.Titulo.Caption + crlf + crlf;
     const PageEntry* page = page_on_show();
     const std::size_t rows = page ? page->rows.size() : 0;
     for (int row = 1; row <= static_cast<int>(rows); ++row)
-        text += line_text(*page, row) + CRLF;
+        text += line_text(*page, row) + crlf;
     return text;
 }
 

@@ -1,5 +1,7 @@
 #include "report/AnsiText.h"
 
+#include "sources/Utf8.h"
+
 #include <algorithm>
 #include <array>
 
@@ -21,36 +23,17 @@ char ansi_byte(char32_t point)
     return found == block80.end() ? '?' : static_cast<char>(0x80 + (found - block80.begin()));
 }
 
-/// Bytes of the sequence that a byte begins; 1 for a byte that begins none.
-std::size_t length_of(unsigned char first)
-{
-    if (first >= 0xF0)
-        return 4;
-    if (first >= 0xE0)
-        return 3;
-    return first >= 0xC0 ? 2 : 1;
-}
-
-/// Takes the first character off; the last one may be cut short.
-char32_t next_point(std::string_view& utf8)
-{
-    const auto first = static_cast<unsigned char>(utf8.front());
-    const std::size_t length = std::min(length_of(first), utf8.size());
-    char32_t point = length == 1 ? first : first & 0x7FU >> length;
-    for (const char byte : utf8.substr(1, length - 1))
-        point = point << 6 | (static_cast<unsigned char>(byte) & 0x3FU);
-    utf8.remove_prefix(length);
-    return point;
-}
-
 } // namespace
 
 std::string ansi_text(std::string_view utf8)
 {
     std::string bytes;
     bytes.reserve(utf8.size());
-    while (!utf8.empty())
-        bytes += ansi_byte(next_point(utf8));
+    while (!utf8.empty()) {
+        const Utf8Character next = leading_character(utf8);
+        bytes += ansi_byte(next.point);
+        utf8.remove_prefix(next.length);
+    }
     return bytes;
 }
 

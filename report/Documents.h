@@ -9,8 +9,6 @@
 /// escaped.
 namespace ostrelum::inline report {
 
-inline constexpr std::string_view CRLF = "\r\n";
-
 /// What heads and feet take from the program.
 struct ReportLook {
     /// Heading of the document; its mark "(2)" stays until the seconds are known.

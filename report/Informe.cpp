@@ -51,11 +51,6 @@ void run_stages()
     }
 }
 
-std::string two_digits(int number)
-{
-    return (number < 10 ? "0" : "") + std::to_string(number);
-}
-
 /// The 12-hour form: "02:05 PM".
 std::string medium_time(const TimeOfDay& time)
 {

@@ -6,6 +6,7 @@
 #include "report/ReportEvents.h"
 #include "report/ReportForm.h"
 #include "sources/Ascii.h"
+#include "sources/Texts.h"
 
 #include <algorithm>
 
@@ -98,7 +99,7 @@ const HandlerTable save_handlers{handlers};
 
 std::string ansi_file(const std::string& document)
 {
-    return ansi_text(document) + std::string(CRLF);
+    return ansi_text(document) + crlf;
 }
 
 } // namespace ostrelum::inline report

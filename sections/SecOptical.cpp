@@ -90,7 +90,7 @@ void show_no_disc()
 {
     show_title();
     show_notice(Text::NoDiscNotice, notice_top(), 180);
-    show_alert(nothing_found, Trad[Text::NoDisc] + "\r\n" + Trad[Text::InsertDisc]);
+    show_alert(nothing_found, Trad[Text::NoDisc] + crlf + Trad[Text::InsertDisc]);
     F1.Line1.Visible = false;
 }
 
@@ -105,7 +105,7 @@ std::string count_text()
     const std::string empty = F1.EmptyDrives == 0
                                   ? Trad[Text::NoDriveEmpty]
                                   : counted(F1.EmptyDrives, Text::OneDriveEmpty, Text::DrivesEmpty);
-    return counted(F1.MediaCount, Text::OneDriveLoaded, Text::DrivesLoaded) + "\r\n" + empty;
+    return counted(F1.MediaCount, Text::OneDriveLoaded, Text::DrivesLoaded) + crlf + empty;
 }
 
 void show_discs()

@@ -28,7 +28,7 @@ void show_no_drive()
     else
         show_notice(Text::NoRemovableDriveNotice, preferred ? 170 : 190, 220);
     show_alert(nothing_found,
-               Trad[Text::NoRemovableDrive] + "\r\n" + Trad[Text::ConnectRemovableDrive]);
+               Trad[Text::NoRemovableDrive] + crlf + Trad[Text::ConnectRemovableDrive]);
     F1.Line1.Visible = false;
 }
 
@@ -76,8 +76,8 @@ void read_volumes()
 std::string count_text()
 {
     if (F1.MediaCount == 1)
-        return "\r\n" + Trad[Text::OneRemovableDrive];
-    return "\r\n" + FillMark(Trad[Text::RemovableDrives], "(#)", WholeText(F1.MediaCount));
+        return crlf + Trad[Text::OneRemovableDrive];
+    return crlf + FillMark(Trad[Text::RemovableDrives], "(#)", WholeText(F1.MediaCount));
 }
 
 void show_drives()

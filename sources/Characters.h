@@ -7,9 +7,6 @@
 /// Characters of UTF-8 text are code points, not bytes.
 namespace ostrelum::inline sources {
 
-/// Number of characters.
-std::size_t character_count(std::string_view text);
-
 /// The first `count` characters; the whole text where it is shorter.
 std::string first_characters(std::string_view text, std::size_t count);
 

@@ -1,16 +1,9 @@
 #include "sources/Durations.h"
 
 #include "platform/system/Failure.h"
+#include "sources/NumberText.h"
 
 namespace ostrelum::inline sources {
-namespace {
-
-std::string two_digits(int number)
-{
-    return (number < 10 ? "0" : "") + std::to_string(number);
-}
-
-} // namespace
 
 std::string UptimeText(std::uint32_t milliseconds, Regional& regional)
 {

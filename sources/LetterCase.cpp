@@ -1,5 +1,7 @@
 #include "sources/LetterCase.h"
 
+#include "sources/Utf8.h"
+
 #include <algorithm>
 #include <array>
 
@@ -55,33 +57,7 @@ char32_t mapped(const std::array<OneWay, Count>& letters, char32_t character)
     return row == letters.end() ? character : row->to;
 }
 
-/// The character at the start of `text` and its length in bytes; 0 bytes where the text does not
-/// begin with a two- or three-byte character, the only ones besides ASCII that have case here.
-struct Decoded {
-    char32_t character = 0;
-    std::size_t length = 0;
-};
-
-bool continues(std::string_view text, std::size_t at)
-{
-    return at < text.size() && (static_cast<unsigned char>(text[at]) & 0xC0U) == 0x80U;
-}
-
-Decoded decoded(std::string_view text)
-{
-    const auto bits = [&](std::size_t at, unsigned mask) {
-        return static_cast<char32_t>(static_cast<unsigned char>(text[at]) & mask);
-    };
-    const auto lead = static_cast<unsigned char>(text.front());
-    if (lead < 0x80)
-        return {lead, 1};
-    if (lead >= 0xC2 && lead <= 0xDF && continues(text, 1))
-        return {bits(0, 0x1F) << 6U | bits(1, 0x3F), 2};
-    if (lead >= 0xE0 && lead <= 0xEF && continues(text, 1) && continues(text, 2))
-        return {bits(0, 0x0F) << 12U | bits(1, 0x3F) << 6U | bits(2, 0x3F), 3};
-    return {};
-}
-
+/// Appends a character of at most three bytes, the longest that have case here.
 void append(std::string& text, char32_t character)
 {
     const auto put = [&](char32_t byte) { text += static_cast<char>(byte); };
@@ -100,13 +76,13 @@ std::string each_mapped(std::string_view text, char32_t (*map)(char32_t))
 {
     std::string result;
     while (!text.empty()) {
-        const Decoded next = decoded(text);
-        const char32_t wanted = map(next.character);
-        if (next.length != 0 && wanted != next.character)
+        const Utf8Character next = leading_character(text);
+        const char32_t wanted = map(next.point);
+        if (wanted != next.point)
             append(result, wanted);
         else
-            result.append(text.substr(0, std::max<std::size_t>(next.length, 1)));
-        text.remove_prefix(std::max<std::size_t>(next.length, 1));
+            result.append(text.substr(0, next.length));
+        text.remove_prefix(next.length);
     }
     return result;
 }

@@ -13,6 +13,11 @@ std::string WholeText(std::int64_t number)
     return std::to_string(number);
 }
 
+std::string two_digits(int number)
+{
+    return (number < 10 ? "0" : "") + std::to_string(number);
+}
+
 std::string RealText(double number, std::string_view decimal_sign)
 {
     constexpr int significant_digits = 15;

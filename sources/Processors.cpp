@@ -2,6 +2,7 @@
 
 #include "sources/Characters.h"
 #include "sources/NumberText.h"
+#include "sources/Utf8.h"
 #include "sources/Value.h"
 
 namespace ostrelum::inline sources {

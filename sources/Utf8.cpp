@@ -39,13 +39,34 @@ std::size_t character_length(std::string_view text)
 
 } // namespace
 
+Utf8Character leading_character(std::string_view text)
+{
+    const std::size_t length = character_length(text);
+    if (length == 0)
+        return {};
+    // The first of several bytes begins with a set bit for each of them, and a clear one.
+    const auto lead = static_cast<unsigned char>(text.front());
+    char32_t point = length == 1 ? lead : lead & 0xFFU >> (length + 1);
+    for (const char byte : text.substr(1, length - 1))
+        point = point << 6U | (static_cast<unsigned char>(byte) & 0x3FU);
+    return {.point = point, .length = length, .well_formed = true};
+}
+
+std::size_t character_count(std::string_view text)
+{
+    std::size_t count = 0;
+    for (; !text.empty(); text.remove_prefix(leading_character(text).length))
+        ++count;
+    return count;
+}
+
 bool valid_utf8(std::string_view text)
 {
     while (!text.empty()) {
-        const std::size_t length = character_length(text);
-        if (length == 0)
+        const Utf8Character next = leading_character(text);
+        if (!next.well_formed)
             return false;
-        text.remove_prefix(length);
+        text.remove_prefix(next.length);
     }
     return true;
 }
@@ -54,9 +75,9 @@ std::string made_valid_utf8(std::string_view text)
 {
     std::string result;
     while (!text.empty()) {
-        const std::size_t length = character_length(text);
-        result += length == 0 ? "\xEF\xBF\xBD" : text.substr(0, length);
-        text.remove_prefix(length == 0 ? 1 : length);
+        const Utf8Character next = leading_character(text);
+        result += next.well_formed ? text.substr(0, next.length) : "\xEF\xBF\xBD";
+        text.remove_prefix(next.length);
     }
     return result;
 }

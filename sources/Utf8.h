@@ -1,9 +1,25 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
 namespace ostrelum::inline sources {
+
+/// The character that a text begins with.
+struct Utf8Character {
+    /// U+FFFD for a byte that belongs to no well-formed character.
+    char32_t point = 0xFFFD;
+    /// Number of its bytes.
+    std::size_t length = 1;
+    bool well_formed = false;
+};
+
+/// How everything here steps through a text: the first character of one that is not empty.
+Utf8Character leading_character(std::string_view text);
+
+/// Number of characters: code points, not bytes.
+std::size_t character_count(std::string_view text);
 
 /// Well-formed UTF-8 (Unicode Standard, table 3-7): no overlong form, no surrogate, nothing above
 /// U+10FFFF.

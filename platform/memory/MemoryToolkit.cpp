@@ -1,21 +1,12 @@
 #include "platform/memory/MemoryToolkit.h"
 
-#include <algorithm>
+#include "sources/Utf8.h"
 
 namespace ostrelum::memory_platform {
-namespace {
-
-int code_points(const std::string& text)
-{
-    return static_cast<int>(std::ranges::count_if(
-        text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
-}
-
-} // namespace
 
 TextSize MemoryToolkit::text_size(const std::string& text, const FontSpec&) const
 {
-    return {code_points(text) * character_width, line_height};
+    return {static_cast<int>(character_count(text)) * character_width, line_height};
 }
 
 std::shared_ptr<MemoryWindow> MemoryToolkit::window_of(const Form& form) const

@@ -5,6 +5,7 @@
 #include "sources/NumberText.h"
 #include "sources/Percent.h"
 #include "sources/Processors.h"
+#include "sources/Utf8.h"
 #include "tests/Split.h"
 
 #include <gtest/gtest.h>
@@ -40,6 +41,13 @@ TEST(RoundedDown, FailsBeyond32Bits)
 TEST(Characters, AreCodePoints)
 {
     EXPECT_EQ(character_count("añ€"), 3U);
+    for (const auto& [text, point, length] : {std::tuple("ñb", U'ñ', 2U),
+                                              {"€", U'€', 3U},
+                                              {"😀€", U'😀', 4U},
+                                              {"\xE2\x82", U'\uFFFD', 1U}}) {
+        EXPECT_EQ(leading_character(text).point, point) << text;
+        EXPECT_EQ(leading_character(text).length, length) << text;
+    }
     EXPECT_EQ(first_characters("añ€", 2), "añ");
     EXPECT_EQ(last_characters("añ€", 2), "ñ€");
     EXPECT_EQ(first_characters("añ", 3) + last_characters("añ", 3), "añañ");
