@@ -1,4 +1,5 @@
-#include "console/Machine.h"
+#include "console/ConsoleProgram.h"
+#include "console/linux/LinuxHost.h"
 #include "frame/MainForm.h"
 #include "frame/Navigation.h"
 
@@ -24,7 +25,8 @@ Options machine_options()
 
 void OpenMachinePage(benchmark::State& state)
 {
-    ConsoleMachine machine(machine_options());
+    const auto machine = LinuxHost().open(machine_options());
+    ConsoleProgram program(*machine, "English");
     const int section = static_cast<int>(state.range(0));
     // From another page each time: a page may keep what it has while it stays open.
     for (auto _ : state) {
@@ -37,7 +39,8 @@ BENCHMARK(OpenMachinePage)->DenseRange(1, 13)->Unit(benchmark::kMicrosecond);
 /// One tick of the live refresh, on the pages that have it.
 void RefreshMachinePage(benchmark::State& state)
 {
-    ConsoleMachine machine(machine_options());
+    const auto machine = LinuxHost().open(machine_options());
+    ConsoleProgram program(*machine, "English");
     LMenu_MouseDown(static_cast<int>(state.range(0)), LeftButton, 0, 0, 0);
     for (auto _ : state)
         F1.raise("Timer1", {.kind = EventKind::Timer});
@@ -46,9 +49,10 @@ BENCHMARK(RefreshMachinePage)->Arg(2)->Arg(4)->Arg(6)->Arg(13)->Unit(benchmark::
 
 void CollectMachineReport(benchmark::State& state)
 {
-    ConsoleMachine machine(machine_options());
+    const auto machine = LinuxHost().open(machine_options());
+    ConsoleProgram program(*machine, "English");
     for (auto _ : state)
-        benchmark::DoNotOptimize(machine.report("text").size());
+        benchmark::DoNotOptimize(program.report("text").size());
 }
 BENCHMARK(CollectMachineReport)->Unit(benchmark::kMicrosecond);
 

@@ -8,8 +8,8 @@ namespace ostrelum::console {
 
 /// What the console's command line asks for.
 struct Options {
-    /// Root folder of the machine: "/" or a recorded tree.
-    std::string sysroot = "/";
+    /// Folder of a recorded machine; nothing for this one.
+    std::optional<std::string> sysroot;
     /// "English", "Spanish", "Dutch".
     std::string language = "English";
     /// Account whose page is shown; nothing for the user's own.

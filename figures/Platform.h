@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/system/AnsiCodePage.h"
 #include "platform/system/Browser.h"
 #include "platform/system/Clipboard.h"
 #include "platform/system/Clock.h"
@@ -30,6 +31,7 @@ struct Platform {
     Clock* clock = nullptr;
     Regional* regional = nullptr;
     SystemApi* system_api = nullptr;
+    AnsiCodePage* ansi_code_page = nullptr;
 
     /// The object behind a moniker. Throws Failure if it cannot be bound.
     std::function<std::unique_ptr<ManagementService>(const std::string& moniker)> get_object;

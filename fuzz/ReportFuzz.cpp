@@ -1,4 +1,5 @@
-#include "console/Machine.h"
+#include "console/ConsoleProgram.h"
+#include "console/linux/LinuxHost.h"
 #include "fuzz/Cleanness.h"
 #include "fuzz/RenamedSysroot.h"
 #include "platform/linux/LinuxManagementService.h"
@@ -36,10 +37,11 @@ void check_service(const std::string& root)
 /// Every page, and each document of a report, as the window shows and saves them.
 void check_program(const std::string& root)
 {
-    ConsoleMachine machine({.sysroot = root, .user = "eva"});
+    const auto machine = LinuxHost().open({.sysroot = root, .user = "eva"});
+    ConsoleProgram program(*machine, "English");
     for (int section = 1; section <= 13; ++section)
-        require(are_clean_lines(machine.page(section), "\n"));
-    machine.report("text");
+        require(are_clean_lines(program.page(section), "\n"));
+    program.report("text");
     for (const ReportDocument& document : made_documents()) {
         std::string text = *document.text;
         std::erase(text, '\t'); // HTML's own

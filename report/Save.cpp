@@ -1,6 +1,5 @@
 #include "figures/PassOver.h"
 #include "figures/Platform.h"
-#include "report/AnsiText.h"
 #include "report/Documents.h"
 #include "report/Report.h"
 #include "report/ReportEvents.h"
@@ -99,7 +98,7 @@ const HandlerTable save_handlers{handlers};
 
 std::string ansi_file(const std::string& document)
 {
-    return ansi_text(document) + crlf;
+    return platform.ansi_code_page->encoded(document) + crlf;
 }
 
 } // namespace ostrelum::inline report

@@ -28,6 +28,7 @@ public:
                     .clock = &clock,
                     .regional = &regional,
                     .system_api = &system_api,
+                    .ansi_code_page = &ansi_code_page,
                     .get_object = [this](const std::string& moniker) { return bind(moniker); },
                     .create_object = [this](const std::string& name) { return create(name); }};
     }
@@ -64,6 +65,7 @@ public:
     MemorySaveDialog save_dialog;
     MemoryFileWriter file_writer;
     MemoryBrowser browser;
+    MemoryAnsiCodePage ansi_code_page;
     MemoryClock clock;
     MemoryRegional regional;
     MemorySystemApi system_api;

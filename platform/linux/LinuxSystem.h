@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/linux/services/AnsiCodePage.h"
 #include "platform/linux/services/Clock.h"
 #include "platform/linux/services/Environment.h"
 #include "platform/linux/services/FileWriter.h"
@@ -42,6 +43,7 @@ struct LinuxSystem {
     LinuxSystemApi system_api;
     LinuxRegistry registry;
     LinuxFileWriter file_writer;
+    LinuxAnsiCodePage ansi_code_page;
 };
 
 } // namespace ostrelum::linux_platform

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/system/AnsiCodePage.h"
 #include "platform/system/Browser.h"
 #include "platform/system/Clipboard.h"
 #include "platform/system/Clock.h"
@@ -9,6 +10,7 @@
 #include "platform/system/SaveDialog.h"
 #include "platform/system/Shell.h"
 #include "platform/system/SystemApi.h"
+#include "sources/Windows1252.h"
 
 #include <map>
 #include <optional>
@@ -93,6 +95,11 @@ public:
     /// Files by path.
     std::map<std::string, std::string> files;
     bool fails = false;
+};
+
+class MemoryAnsiCodePage : public AnsiCodePage {
+public:
+    std::string encoded(std::string_view utf8) override { return windows_1252(utf8); }
 };
 
 class MemoryBrowser : public Browser {

@@ -1,4 +1,5 @@
-#include "console/Machine.h"
+#include "console/ConsoleProgram.h"
+#include "console/linux/LinuxHost.h"
 #include "frame/MainForm.h"
 
 #include <gtest/gtest.h>
@@ -30,10 +31,12 @@ TEST(LivePages, StandOpenForHoursWithoutGrowing)
 #ifdef __SANITIZE_ADDRESS__
     GTEST_SKIP() << "the sanitizer keeps what was given back";
 #endif
-    ConsoleMachine machine({.sysroot = OSTRELUM_TESTS_DIR "/machines/notebook", .user = "alma"});
+    const auto machine =
+        LinuxHost().open({.sysroot = OSTRELUM_TESTS_DIR "/machines/notebook", .user = "alma"});
+    ConsoleProgram program(*machine, "English");
     const auto round = [&](int ticks) {
         for (const int page : live_pages) {
-            machine.page(page);
+            program.page(page);
             tick(ticks);
             ASSERT_TRUE(F1.Timer1.Enabled) << "page " << page << " is not live";
         }

@@ -1,4 +1,4 @@
-#include "window/Window.h"
+#include "window/linux/Window.h"
 
 #include "figures/Platform.h"
 #include "frame/Lifecycle.h"
@@ -63,6 +63,7 @@ int run_window(int& argc, char** argv, const MachineSource& source)
                 .clock = &system.clock,
                 .regional = &system.regional,
                 .system_api = &system_api,
+                .ansi_code_page = &system.ansi_code_page,
                 .get_object =
                     [&](const std::string&) {
                         return make_linux_management_service(source.root, session_of(source));

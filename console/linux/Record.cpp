@@ -1,6 +1,8 @@
-#include "console/Record.h"
+#include "console/linux/Record.h"
 
-#include "console/Machine.h"
+#include "console/ConsoleProgram.h"
+#include "console/linux/LinuxHost.h"
+#include "figures/Platform.h"
 #include "frame/MainForm.h"
 #include "platform/linux/recording/MaskedRecording.h"
 #include "platform/linux/recording/Recorder.h"
@@ -11,6 +13,9 @@
 #include <vector>
 
 namespace ostrelum::console {
+
+using namespace linux_platform;
+
 namespace {
 
 /// All that the program can ask: the pages and the report as they do, and of each class also the
@@ -18,16 +23,17 @@ namespace {
 /// first.
 std::vector<std::string> ask_everything(const Options& options, const Sysroot& files)
 {
-    ConsoleMachine machine(options, files);
+    const auto machine = machine_with(files, options);
+    ConsoleProgram program(*machine, options.language);
     for (int section = 1; section <= section_count; ++section)
-        machine.page(section);
-    machine.report("text");
-    const auto service = service_of(options, files);
+        program.page(section);
+    program.report("text");
+    const auto service = machine->management_service();
     for (const ClassSchema& schema : class_schemas())
         service->ExecQuery("Select * from " + std::string(schema.name));
     // The clock of a running machine is no file, but that of its recording is one.
     files.read("/proc/uptime");
-    std::vector<std::string> accounts{machine.user()};
+    std::vector<std::string> accounts{platform.system_api->Environ("UserName")};
     files.report_answer("env", "UserName=" + accounts.front(), "");
     for (const Instance& account : service->ExecQuery("Select Name from Win32_UserAccount"))
         accounts.push_back(account["Name"].text());
@@ -39,7 +45,7 @@ std::vector<std::string> ask_everything(const Options& options, const Sysroot& f
 void record_machine(const Options& options, const std::string& folder)
 {
     check_unused(folder);
-    const Sysroot files(options.sysroot);
+    const Sysroot files(options.sysroot.value_or("/"));
     const auto recorder = std::make_shared<Recorder>(files);
     // What is hidden is so in the recording: the machine itself is asked as it is.
     Options open = options;

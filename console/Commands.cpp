@@ -1,7 +1,7 @@
+#include "console/Commands.h"
+
+#include "console/ConsoleProgram.h"
 #include "console/Json.h"
-#include "console/Machine.h"
-#include "console/Options.h"
-#include "console/Record.h"
 #include "frame/MainForm.h"
 #include "report/Report.h"
 #include "sources/Schema.h"
@@ -10,24 +10,22 @@
 #include <charconv>
 #include <iostream>
 
-using namespace ostrelum;
-using namespace ostrelum::console;
-
+namespace ostrelum::console {
 namespace {
 
-constexpr int Done = 0;
-constexpr int Failed = 1;
-constexpr int WrongUsage = 2;
+constexpr int done = 0;
+constexpr int failed = 1;
+constexpr int wrong_usage = 2;
 
 using Arguments = std::vector<std::string>;
 
-int run_query(const Options& options, const Arguments& arguments)
+int run_query(Host& host, const Options& options, const Arguments& arguments)
 {
     if (arguments.size() != 1)
-        return WrongUsage;
-    const auto service = service_of(options, Sysroot(options.sysroot));
-    std::cout << as_json(service->ExecQuery(arguments[0])) << '\n';
-    return Done;
+        return wrong_usage;
+    const auto machine = host.open(options);
+    std::cout << as_json(machine->management_service()->ExecQuery(arguments[0])) << '\n';
+    return done;
 }
 
 /// The section that a word names; 0 for none.
@@ -39,16 +37,17 @@ int section_of(const std::string& word)
     return whole && number >= 1 && number <= section_count ? number : 0;
 }
 
-int run_page(const Options& options, const Arguments& arguments)
+int run_page(Host& host, const Options& options, const Arguments& arguments)
 {
     const bool all = arguments.size() == 1 && arguments[0] == "all";
     const int section = arguments.size() == 1 ? section_of(arguments[0]) : 0;
     if (!all && section == 0)
-        return WrongUsage;
-    ConsoleMachine machine(options);
+        return wrong_usage;
+    const auto machine = host.open(options);
+    ConsoleProgram program(*machine, options.language);
     for (int n = all ? 1 : section; n <= (all ? section_count : section); ++n)
-        std::cout << machine.page(n) << (all && n < section_count ? "\n" : "");
-    return Done;
+        std::cout << program.page(n) << (all && n < section_count ? "\n" : "");
+    return done;
 }
 
 bool is_format(const std::string& word)
@@ -58,44 +57,45 @@ bool is_format(const std::string& word)
         documents, [&](const ReportDocument& document) { return word == document.format; });
 }
 
-int run_report(const Options& options, const Arguments& arguments)
+int run_report(Host& host, const Options& options, const Arguments& arguments)
 {
     const bool to_file =
         arguments.size() == 3 && arguments[1] == "--output" && !arguments[2].empty();
     if ((arguments.size() != 1 && !to_file) || !is_format(arguments[0]))
-        return WrongUsage;
-    ConsoleMachine machine(options);
-    const std::string& document = machine.report(arguments[0]);
+        return wrong_usage;
+    const auto machine = host.open(options);
+    ConsoleProgram program(*machine, options.language);
+    const std::string& document = program.report(arguments[0]);
     if (to_file)
-        machine.save(arguments[2], document);
+        program.save(arguments[2], document);
     else
         std::cout << with_lf(document);
-    return Done;
+    return done;
 }
 
-int run_record(const Options& options, const Arguments& arguments)
+int run_record(Host& host, const Options& options, const Arguments& arguments)
 {
     if (arguments.size() != 1 || arguments[0].empty())
-        return WrongUsage;
-    record_machine(options, arguments[0]);
-    return Done;
+        return wrong_usage;
+    host.record(options, arguments[0]);
+    return done;
 }
 
-int run_classes(const Options&, const Arguments& arguments)
+int run_classes(Host&, const Options&, const Arguments& arguments)
 {
     if (!arguments.empty())
-        return WrongUsage;
+        return wrong_usage;
     for (const ClassSchema& schema : class_schemas()) {
         std::cout << schema.name << '\n';
         for (const PropertySchema& property : schema.properties)
             std::cout << "  " << property.name << ": " << type_name(property.type) << '\n';
     }
-    return Done;
+    return done;
 }
 
 struct Command {
     std::string_view name;
-    int (*run)(const Options&, const Arguments&);
+    int (*run)(Host&, const Options&, const Arguments&);
 };
 
 constexpr Command commands[] = {
@@ -103,34 +103,38 @@ constexpr Command commands[] = {
     {"record", run_record}, {"classes", run_classes},
 };
 
-int run(const Options& options)
+int run(Host& host, const Options& options)
 {
     const Arguments arguments(options.command.begin() + 1, options.command.end());
-    for (const Command& command : commands) {
-        if (command.name == options.command.front())
-            return command.run(options, arguments);
-    }
-    return WrongUsage;
+    const std::string& name = options.command.front();
+    const Command* command = std::ranges::find(commands, name, &Command::name);
+    if (command == std::end(commands))
+        return wrong_usage;
+    if (!host.knows_recordings() && (options.sysroot || command->run == run_record))
+        throw Failure("machines can neither be recorded nor shown from a recording here");
+    return command->run(host, options, arguments);
 }
 
 } // namespace
 
-int main(int argc, char** argv)
+int run_console(Host& host, const std::vector<std::string>& arguments)
 {
-    const auto options = read_options({argv + 1, argv + argc});
-    int code = WrongUsage;
+    const auto options = read_options(arguments);
+    int code = wrong_usage;
     try {
         if (options)
-            code = run(*options);
+            code = run(host, *options);
     } catch (const Failure& failure) {
         std::cerr << "ostrelum-console: " << failure.what() << '\n';
-        return Failed;
+        return failed;
     }
-    if (code == WrongUsage)
+    if (code == wrong_usage)
         std::cerr << usage;
     if (!std::cout.flush()) {
         std::cerr << "ostrelum-console: standard output cannot be written\n";
-        return Failed;
+        return failed;
     }
     return code;
 }
+
+} // namespace ostrelum::console

@@ -1,11 +1,11 @@
-#include "report/AnsiText.h"
+#include "sources/Windows1252.h"
 
 #include "sources/Utf8.h"
 
 #include <algorithm>
 #include <array>
 
-namespace ostrelum::inline report {
+namespace ostrelum::inline sources {
 namespace {
 
 /// Code points of the bytes 0x80 to 0x9F. The five that the page leaves open stand for the control
@@ -25,7 +25,7 @@ char ansi_byte(char32_t point)
 
 } // namespace
 
-std::string ansi_text(std::string_view utf8)
+std::string windows_1252(std::string_view utf8)
 {
     std::string bytes;
     bytes.reserve(utf8.size());
@@ -37,4 +37,4 @@ std::string ansi_text(std::string_view utf8)
     return bytes;
 }
 
-} // namespace ostrelum::inline report
+} // namespace ostrelum::inline sources

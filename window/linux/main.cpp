@@ -1,4 +1,4 @@
-#include "window/Window.h"
+#include "window/linux/Window.h"
 
 int main(int argc, char** argv)
 {

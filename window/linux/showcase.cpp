@@ -1,6 +1,6 @@
 #include "platform/linux/files/Sysroot.h"
 #include "platform/system/Failure.h"
-#include "window/Window.h"
+#include "window/linux/Window.h"
 
 #include <iostream>
 #include <string_view>

@@ -1,0 +1,97 @@
+#include "console/linux/LinuxHost.h"
+
+#include "console/linux/Record.h"
+#include "platform/linux/LinuxManagementService.h"
+#include "platform/linux/LinuxSystem.h"
+#include "platform/linux/recording/RecordedSystemCalls.h"
+#include "platform/linux/services/MachineShell.h"
+#include "platform/masking/MaskedService.h"
+
+namespace ostrelum::console {
+
+using namespace linux_platform;
+
+namespace {
+
+constexpr const char* user_name = "UserName";
+
+/// A recording tells whose pages it was made of.
+std::optional<std::string> user_of(const Options& options, const Sysroot& files)
+{
+    if (options.user || files.is_live())
+        return options.user;
+    return recorded_system_calls(Sysroot(files, nullptr))->variable(user_name);
+}
+
+Environment environment_of(const Options& options, const Sysroot& files)
+{
+    Environment environment = process_environment();
+    if (const auto user = user_of(options, files))
+        environment[user_name] = *user;
+    return environment;
+}
+
+/// The environment that the program sees.
+Environment shown_environment(const Options& options, const Sysroot& files)
+{
+    Environment environment = environment_of(options, files);
+    if (options.mask)
+        environment[user_name] = hidden_text;
+    return environment;
+}
+
+class LinuxHostedMachine : public HostedMachine {
+public:
+    LinuxHostedMachine(const Sysroot& files, const Options& options)
+        : files_(files), options_(options), system_(files, shown_environment(options, files))
+    {
+    }
+
+    Platform services() override
+    {
+        return {.registry = &system_.registry,
+                .file_writer = &system_.file_writer,
+                .clock = &system_.clock,
+                .regional = &system_.regional,
+                .system_api = &system_.system_api,
+                .ansi_code_page = &system_.ansi_code_page};
+    }
+
+    std::unique_ptr<ManagementService> management_service() override
+    {
+        auto service = make_linux_management_service(files_, SessionFactsSource());
+        if (!options_.mask)
+            return service;
+        LinuxSystemApi open(files_, environment_of(options_, files_));
+        return std::make_unique<MaskedService>(std::move(service), open.Environ(user_name));
+    }
+
+    std::unique_ptr<Shell> shell_over(std::unique_ptr<Shell> stored) override
+    {
+        return std::make_unique<MachineShell>(files_, std::move(stored));
+    }
+
+private:
+    Sysroot files_;
+    Options options_;
+    LinuxSystem system_;
+};
+
+} // namespace
+
+std::unique_ptr<HostedMachine> machine_with(const Sysroot& files, const Options& options)
+{
+    return std::make_unique<LinuxHostedMachine>(files, options);
+}
+
+std::unique_ptr<HostedMachine> LinuxHost::open(const Options& options)
+{
+    return machine_with(Sysroot(options.sysroot.value_or("/")), options);
+}
+
+void LinuxHost::record(const Options& options, const std::string& folder)
+{
+    record_machine(options, folder);
+}
+
+} // namespace ostrelum::console
