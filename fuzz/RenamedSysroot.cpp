@@ -17,7 +17,7 @@ constexpr std::array<std::string_view, 15> name_files{
     "model_name",   "chip_name",  "vendor_name", "sys_vendor",   "product_name",
     "board_vendor", "board_name", "bios_vendor", "bios_version", "hostname"};
 
-/// What names stand behind in the files of udev, the system and the processors.
+/// Keys of names in the files of udev, the system and the processors.
 constexpr std::array<std::string_view, 9> name_keys{
     "E:ID_MODEL", "E:ID_VENDOR", "E:ID_FS_LABEL", "E:ID_SERIAL", "E:MEMORY_DEVICE_",
     "E:ID_BOARD", "PRETTY_NAME", "model name",    "NAME"};

@@ -22,7 +22,7 @@ void require(bool held)
         std::abort();
 }
 
-/// One line for each text that the management service tells.
+/// One line for each text that the management service gives.
 void check_service(const std::string& root)
 {
     const auto service = make_linux_management_service(root, SessionFactsSource());

@@ -5,8 +5,8 @@
 #include <cstdint>
 #include <cstdlib>
 
-/// Any bytes as udev's record of a device: its texts are clean, and of memory modules it tells no
-/// more than a table can have.
+/// Any bytes as udev's record of a device: its texts are clean, and it has no more memory
+/// modules than a table can have.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)

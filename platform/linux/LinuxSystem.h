@@ -16,8 +16,8 @@
 
 namespace ostrelum::linux_platform {
 
-/// The services that need no window, on Linux. Facts about the machine come from under `root`, "/"
-/// or the folder of a recorded machine; the user's own folders and settings are always real.
+/// The services that need no window, on Linux. What concerns the machine is read under `root`,
+/// "/" or the folder of a recorded machine; the user's own folders and settings are always real.
 struct LinuxSystem {
     explicit LinuxSystem(const std::string& root = "/",
                          const Environment& variables = process_environment())

@@ -27,19 +27,19 @@ public:
 
     std::optional<std::int64_t> birth_time(const std::string& path) override
     {
-        struct statx told = {};
-        if (::statx(AT_FDCWD, path.c_str(), AT_SYMLINK_NOFOLLOW, STATX_BTIME, &told) != 0 ||
-            (told.stx_mask & STATX_BTIME) == 0)
+        struct statx status = {};
+        if (::statx(AT_FDCWD, path.c_str(), AT_SYMLINK_NOFOLLOW, STATX_BTIME, &status) != 0 ||
+            (status.stx_mask & STATX_BTIME) == 0)
             return std::nullopt;
-        return told.stx_btime.tv_sec;
+        return status.stx_btime.tv_sec;
     }
 
     std::optional<std::string> processor_kind() override
     {
-        utsname told = {};
-        if (::uname(&told) != 0)
+        utsname names = {};
+        if (::uname(&names) != 0)
             return std::nullopt;
-        return told.machine;
+        return names.machine;
     }
 
     std::optional<std::uint32_t> user_id() override { return ::getuid(); }

@@ -29,10 +29,10 @@ Value MaskedService::masked(const Value& value, Identity identity)
 
 ResultSet MaskedService::ExecQuery(std::string_view wql)
 {
-    const ResultSet told = service_->ExecQuery(wql);
+    const ResultSet answers = service_->ExecQuery(wql);
     const auto properties = schema_of(parse_wql(wql).class_name).properties;
     ResultSet result;
-    for (const Instance& instance : told) {
+    for (const Instance& instance : answers) {
         std::vector<Instance::Property> taken;
         for (const auto& [name, value] : instance.properties())
             taken.emplace_back(name, masked(value, find_named(properties, name)->identity));

@@ -9,8 +9,9 @@
 
 namespace ostrelum::inline masking {
 
-/// Another management service whose answers have pseudonyms for what the schema says to identify
-/// somebody. Conditions are tested on the true values. Null and empty text stay so.
+/// Passes queries on to another management service, and puts pseudonyms in place of what the schema
+/// marks as identifying somebody. Conditions are tested on the true values. Null and empty text
+/// stay so.
 class MaskedService : public ManagementService {
 public:
     /// `own_account` gets the first pseudonym of all accounts.

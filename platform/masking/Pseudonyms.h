@@ -6,13 +6,13 @@
 
 namespace ostrelum::inline masking {
 
-/// What stands where something that identifies was.
+/// What stands in place of something that identifies somebody.
 inline constexpr std::string_view hidden_text = "(hidden)";
 
 /// Whether a text is one of the pseudonyms below, as recordings have them in place of an identity.
 bool is_pseudonym(std::string_view text);
 
-/// Pseudonyms for names that must still be told from each other: "(hidden)" for the first one, then
+/// Pseudonyms for names that must still be distinguished: "(hidden)" for the first one, then
 /// "(hidden 2)" and so on; the same for the same name. A pseudonym stays what it is.
 class Pseudonyms {
 public:

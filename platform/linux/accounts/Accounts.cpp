@@ -9,7 +9,7 @@
 namespace ostrelum::linux_platform {
 namespace {
 
-/// What colons divide; missing fields are empty.
+/// The fields between colons; missing ones are empty.
 template <std::size_t Count>
 std::array<std::string_view, Count> fields_of(std::string_view line)
 {
@@ -25,7 +25,7 @@ std::array<std::string_view, Count> fields_of(std::string_view line)
 std::uint64_t defined(std::string_view definitions, std::string_view key, std::uint64_t fallback)
 {
     for (const std::string_view line : lines_of(definitions)) {
-        // Most lines of the file are comment.
+        // Most lines of the file are comments.
         if (line.find(key) == line.npos)
             continue;
         const auto words = words_of(line);

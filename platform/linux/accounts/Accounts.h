@@ -15,14 +15,14 @@ struct Account {
     std::string name;
     std::uint64_t uid = 0;
     std::uint64_t gid = 0;
-    /// Empty if none is told.
+    /// Empty if the file has none.
     std::string full_name;
 };
 
 /// The lines that are whole: a name, and numbers for user and group.
 std::vector<Account> parse_passwd(std::string_view text);
 
-/// Numbers of the accounts that are made for persons (login.defs(5)).
+/// Numbers of the accounts that belong to persons (login.defs(5)).
 struct PersonRange {
     std::uint64_t lowest = 1000;
     std::uint64_t highest = 60000;

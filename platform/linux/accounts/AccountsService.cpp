@@ -20,7 +20,7 @@ struct Release {
 using Bus = std::unique_ptr<sd_bus, Release>;
 using Message = std::unique_ptr<sd_bus_message, Release>;
 
-/// The end of all waiting for one answer, greetings of the bus included.
+/// The end of all waiting for one answer, the handshake with the bus included.
 class Deadline {
 public:
     /// Microseconds.
@@ -36,7 +36,7 @@ private:
     Clock::time_point end_ = Clock::now() + std::chrono::milliseconds(500);
 };
 
-/// Lets the bus greet us. A call would do it too, but waits 25 seconds for that.
+/// Completes the handshake with the bus. A call would do it too, but waits 25 seconds for that.
 bool becomes_ready(sd_bus* bus, const Deadline& deadline)
 {
     while (sd_bus_is_ready(bus) <= 0) {

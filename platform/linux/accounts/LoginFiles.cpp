@@ -38,8 +38,8 @@ std::optional<std::int64_t> LoginFiles::last(const Account& account)
     return last_in_lastlog(account);
 }
 
-/// Reads one record alone: the file has a place for every number up to the highest, and so a great
-/// size with little in it.
+/// Reads one record alone: the file has a place for every user number up to the highest, so that it
+/// is long with little in it.
 std::optional<std::int64_t> LoginFiles::last_in_lastlog(const Account& account)
 {
     const std::size_t size = lastlog_bytes(record_bytes(content_of(present_)));

@@ -9,8 +9,8 @@
 
 namespace ostrelum::linux_platform {
 
-/// What a machine's files tell of logins. A file is read when it is first asked for, and the logs
-/// are kept as long as the object: they are the same for every account.
+/// What the files of a machine say about logins. A file is read when it is first asked for, and the
+/// logs are kept as long as the object: they are the same for every account.
 class LoginFiles {
 public:
     explicit LoginFiles(const MachineView& machine) : machine_(machine) {}

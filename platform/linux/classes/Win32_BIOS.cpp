@@ -50,7 +50,7 @@ constexpr PropertyRow<FirmwareStrings> rows[] = {
     {"SMBIOSBIOSVersion", version},
 };
 
-/// One, if the firmware tells anything of itself.
+/// One, if anything is known of the firmware.
 std::vector<FirmwareStrings> firmware(const MachineView& machine)
 {
     const FirmwareStrings strings(machine.root);

@@ -21,7 +21,7 @@ constexpr PropertyRow<FirmwareStrings> rows[] = {
     {"Product", product},
 };
 
-/// One, if the firmware tells anything of the board.
+/// One, if anything is known of the board.
 std::vector<FirmwareStrings> board(const MachineView& machine)
 {
     const FirmwareStrings strings(machine.root);

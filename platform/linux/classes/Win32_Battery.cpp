@@ -19,11 +19,11 @@ struct Battery {
         return machine.root.text("/sys/class/power_supply/" + name + "/" + file);
     }
 
-    /// What a maker should have filled in.
-    std::optional<std::string> told(const char* file) const
+    /// A text of the maker's, unless it is a placeholder.
+    std::optional<std::string> maker_text(const char* file) const
     {
         const auto line = text(file);
-        return line ? told_text(*line) : std::nullopt;
+        return line ? meaningful_text(*line) : std::nullopt;
     }
 
     /// A quantity, whatever its sign: some drivers count what flows out of the battery as negative.
@@ -61,7 +61,7 @@ Value device_id(const Battery& battery)
 {
     std::string id;
     for (const char* file : {"serial_number", "manufacturer", "model_name"})
-        id += battery.told(file).value_or("");
+        id += battery.maker_text(file).value_or("");
     return id.empty() ? battery.name : id;
 }
 
@@ -99,7 +99,7 @@ Value run_time(const Battery& battery)
 
 Value battery_name(const Battery& battery)
 {
-    return battery.told("model_name").value_or(battery.name);
+    return battery.maker_text("model_name").value_or(battery.name);
 }
 
 constexpr PropertyRow<Battery> rows[] = {
@@ -107,7 +107,8 @@ constexpr PropertyRow<Battery> rows[] = {
     {"EstimatedRunTime", run_time}, {"Name", battery_name},
 };
 
-/// Those that feed the machine, by name: not those of mice and headsets, and no empty bays.
+/// The batteries that power the machine, by name: not those of mice and headsets, and no empty
+/// bays.
 std::vector<Battery> batteries(const MachineView& machine)
 {
     std::vector<Battery> batteries;

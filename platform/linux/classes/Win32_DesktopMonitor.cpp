@@ -9,7 +9,7 @@
 namespace ostrelum::linux_platform {
 namespace {
 
-/// A monitor by what it tells of itself, else by what the window system knows.
+/// A monitor by its own data (EDID), else by what the window system knows.
 struct Monitor {
     const MachineView& machine;
     std::optional<Edid> edid;
@@ -21,12 +21,12 @@ struct Monitor {
 Value manufacturer(const Monitor& monitor)
 {
     if (!monitor.edid)
-        return value_of(told_text(monitor.screen.maker));
+        return value_of(meaningful_text(monitor.screen.maker));
     const std::string& code = monitor.edid->maker;
     return code.empty() ? Value() : monitor_maker(monitor.machine.root, code, monitor.panel);
 }
 
-/// Maker and number as the monitor has them, for one without any text: "LGD 0690".
+/// The codes of maker and model, for a monitor without any name: "LGD 0690".
 std::string code_of(const Edid& edid)
 {
     return edid.maker + " " + upper_hex(edid.product, 4);
@@ -35,10 +35,10 @@ std::string code_of(const Edid& edid)
 Value monitor_name(const Monitor& monitor)
 {
     if (!monitor.edid)
-        return value_of(told_text(monitor.screen.model));
+        return value_of(meaningful_text(monitor.screen.model));
     for (const std::string& text : {monitor.edid->name, monitor.edid->free_text}) {
-        if (const auto told = told_text(text))
-            return *told;
+        if (const auto known = meaningful_text(text))
+            return *known;
     }
     return monitor.edid->maker.empty() ? Value() : code_of(*monitor.edid);
 }
@@ -68,7 +68,7 @@ std::vector<Monitor> monitors(const MachineView& machine)
     const SessionFacts session =
         monitors.empty() && machine.session ? machine.session() : SessionFacts{};
     for (const ScreenFact& screen : session.screens) {
-        if (told_text(screen.model) || told_text(screen.maker))
+        if (meaningful_text(screen.model) || meaningful_text(screen.maker))
             monitors.push_back({machine, std::nullopt, false, screen});
     }
     return monitors;

@@ -29,7 +29,7 @@ bool passes(std::string_view path, std::string_view word)
     return false;
 }
 
-/// A bridge from USB to SATA has both in its way: what the user plugs in counts.
+/// A bridge from USB to SATA has both in its path: what the user plugs in counts.
 Value interface_type(const Drive& drive)
 {
     const std::string path = device_path(drive.machine.root, drive.name);
@@ -76,7 +76,8 @@ Value caption(const Drive& drive)
     return drive.name.starts_with("vd") ? Value("VirtIO Disk") : Value();
 }
 
-/// The shell of an extended partition has a size of two sectors at most and is none of its own.
+/// An extended partition, which only contains others, has a size of two sectors at most and does
+/// not count.
 Value partitions(const Drive& drive)
 {
     const Sysroot& root = drive.machine.root;

@@ -26,12 +26,12 @@ Value name(const Profile& profile)
     return profile.account.name;
 }
 
-/// The service is asked for the user's own account alone, so that a dead one makes a query wait but
-/// once.
+/// The service is asked for the user's own account alone, so that a query waits only once for a
+/// service that does not answer.
 std::optional<std::int64_t> last_login_of(const Profile& profile)
 {
-    if (const auto told = profile.files->last(profile.account))
-        return told;
+    if (const auto recorded = profile.files->last(profile.account))
+        return recorded;
     const MachineView& machine = profile.machine;
     const bool own = machine.system_calls->user_id() == profile.account.uid;
     return own ? machine.system_calls->login_time(profile.account.uid) : std::nullopt;

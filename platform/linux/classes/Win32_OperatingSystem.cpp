@@ -63,8 +63,8 @@ bool is_installed(const Sysroot& root)
            type != "aufs";
 }
 
-/// When the oldest of the files came into being that installing makes. Some file systems give 1970:
-/// only a year from 2000 on counts.
+/// When the oldest of the files that an installation makes was created. Some file systems give
+/// 1970: only a year from 2000 on counts.
 Value install_date(const System& system)
 {
     constexpr std::int64_t year_2000 = 946684800;

@@ -34,7 +34,7 @@ Value device_interface(const Pointer& pointer)
     return int{row == std::end(interfaces) ? Unknown : row->interface};
 }
 
-/// Every desktop starts with the right hand.
+/// Every desktop is set up for the right hand at first.
 Value handedness(const Pointer& pointer)
 {
     const SessionFactsSource& session = pointer.machine.session;

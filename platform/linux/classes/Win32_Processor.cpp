@@ -77,7 +77,7 @@ Value caption(const CpuPackage& package)
     return value_of(arm_caption(record, kind == "aarch64"));
 }
 
-/// Mean over the package's processors, in MHz; nothing if none tells its clock.
+/// Mean over the package's processors, in MHz; nothing if no clock is known.
 template <class Clock>
 std::optional<double> mean(const CpuPackage& package, Clock clock)
 {
@@ -211,7 +211,7 @@ Value socket(const CpuPackage& package)
         if (!fitted || place++ != package.place)
             continue;
         const auto label = socket.string(0x04);
-        return label ? value_of(told_text(*label)) : Value();
+        return label ? value_of(meaningful_text(*label)) : Value();
     }
     return {};
 }

@@ -21,7 +21,7 @@ struct SoundDevice {
     std::optional<std::string> codec_text(const char* file) const
     {
         const auto line = machine.root.text(std::string(class_folder) + codec + "/" + file);
-        return line ? told_text(*line) : std::nullopt;
+        return line ? meaningful_text(*line) : std::nullopt;
     }
 };
 

@@ -29,7 +29,7 @@ Value name(const LocalAccount& local)
     return local.account.name;
 }
 
-/// The rules for the password of the user's own account; others' are not told.
+/// The rules for the password of the user's own account; those of others are not known.
 std::optional<PasswordPolicy> policy(const LocalAccount& local)
 {
     if (!local.policy) {

@@ -23,7 +23,7 @@ std::vector<std::uint64_t> cpus_in_use(const Sysroot& root)
                 name.starts_with("cpu") ? whole_number(name.substr(3)) : std::nullopt)
             cpus.push_back(*number);
     }
-    // Where the kernel has no such folders, its list of processors still tells that there is one.
+    // Where the kernel has no such folders, its list of processors still shows that there is one.
     if (cpus.empty() && root.exists("/proc/cpuinfo"))
         cpus.push_back(0);
     return cpus;

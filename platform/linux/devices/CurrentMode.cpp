@@ -24,7 +24,7 @@ const ScreenFact* screen_at(const Screens& screens, const Connector& connector)
     return found == screens.end() ? nullptr : &*found;
 }
 
-/// A connector comes before one whose screen is none or stands behind.
+/// The connector of the foremost screen; those without a screen come last.
 const Connector* main_connector(const Screens& screens, const std::vector<Connector>& connected)
 {
     const auto rank = [&](const Connector& connector) {
@@ -106,8 +106,8 @@ bool read_console_size(const Sysroot& root, const std::string& folder, DisplayMo
     return read_size(root.text(folder + "/virtual_size").value_or(""), ',', mode);
 }
 
-/// The consoles' mode. The kernel does not tell its refresh rate: it is that of the monitor's own
-/// mode of this size.
+/// The consoles' mode. The kernel does not publish its refresh rate: it is that of the monitor's
+/// own mode of this size.
 DisplayMode console_mode(const MachineView& machine, const GraphicsCard& card, bool first)
 {
     DisplayMode mode;

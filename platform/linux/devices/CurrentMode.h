@@ -11,7 +11,7 @@ namespace ostrelum::linux_platform {
 /// firmware left.
 DisplayMode current_mode(const MachineView& machine, const GraphicsCard& card, bool first);
 
-/// What the monitor at that place tells of itself.
+/// The data of the monitor that shows that mode.
 std::optional<Edid> main_monitor(const MachineView& machine, const GraphicsCard& card);
 
 } // namespace ostrelum::linux_platform

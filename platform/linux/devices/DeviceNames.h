@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-/// Names of makers and devices for the numbers by which devices tell what they are: what udev
+/// Names of makers and devices for the numbers by which devices identify themselves: what udev
 /// published for the device, then the hardware database.
 namespace ostrelum::linux_platform {
 

@@ -47,7 +47,7 @@ std::optional<std::string> FileSystemFacts::serial(std::string_view mounted_as) 
 std::optional<std::string> FileSystemFacts::type(std::string_view mounted_as) const
 {
     std::string type(mounted_as);
-    // Drivers in user space bear one type for all file systems.
+    // Drivers in user space have one type for all file systems.
     if (type.empty() || type == "fuseblk")
         type = udev("ID_FS_TYPE").value_or(type);
     if (type == "vfat" || type == "msdos")

@@ -83,8 +83,8 @@ Found from_device_tree(const Sysroot& root, const FirmwareSource& source)
 
 Found from_sysinfo(const Sysroot& root, const FirmwareSource& source)
 {
-    const std::string told = root.read("/proc/sysinfo").value_or("");
-    return Found(value_behind(told, source.sysinfo_label, ':'));
+    const std::string sysinfo = root.read("/proc/sysinfo").value_or("");
+    return Found(value_behind(sysinfo, source.sysinfo_label, ':'));
 }
 
 constexpr std::array readers = {from_id_file, from_udev, from_table, from_device_tree,
@@ -97,8 +97,8 @@ std::optional<std::string> FirmwareStrings::text(FirmwareText wanted) const
     const FirmwareSource& source = source_of(wanted);
     for (const auto reader : readers) {
         const Found raw = reader(*root_, source);
-        if (auto told = raw ? told_text(*raw) : std::nullopt)
-            return told;
+        if (auto found = raw ? meaningful_text(*raw) : std::nullopt)
+            return found;
     }
     return std::nullopt;
 }

@@ -7,7 +7,7 @@
 
 namespace ostrelum::linux_platform {
 
-/// Texts by which a machine's firmware tells what it and the machine are.
+/// Texts of a machine's firmware about itself and the machine.
 enum class FirmwareText {
     BiosVendor,
     BiosVersion,

@@ -41,8 +41,8 @@ std::vector<std::string> display_slots(const Sysroot& root)
     return slots;
 }
 
-/// Cards outside PCI that have a circuit behind them: not the firmware's picture memory, nor
-/// displays for programs and for screens over USB that another card draws.
+/// Cards outside PCI that are hardware of their own: not the firmware's picture memory, displays
+/// that programs make, and screens over USB that another card draws.
 bool is_hardware(const Sysroot& root, const DrmDevice& card)
 {
     constexpr std::array<std::string_view, 4> made = {"simple-framebuffer", "evdi", "vkms", "vgem"};

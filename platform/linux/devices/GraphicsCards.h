@@ -40,7 +40,7 @@ std::vector<Connector> connectors(const Sysroot& root, const GraphicsCard& card)
 /// Those with a monitor.
 std::vector<Connector> connected(const Sysroot& root, const GraphicsCard& card);
 
-/// What the monitor tells of itself.
+/// The data of the monitor at the connector.
 std::optional<Edid> edid_of(const Sysroot& root, const Connector& connector);
 
 } // namespace ostrelum::linux_platform

@@ -57,7 +57,7 @@ std::optional<std::string> graphics_driver_version(const Sysroot& root, const st
 std::optional<std::chrono::year_month_day> graphics_driver_date(const Sysroot& root,
                                                                 const std::string& driver)
 {
-    // This driver does not come with the kernel, so the kernel's date is not its.
+    // This driver does not come with the kernel, so it is not as old as the kernel.
     if (driver == nvidia)
         return build_date(root.text("/proc/driver/nvidia/version").value_or(""));
     const std::string line = root.text("/proc/version").value_or("");

@@ -38,12 +38,12 @@ std::optional<std::string> HardwareDatabase::text(const std::string& alias, cons
     if (!database_) {
         const std::string answers = root_.read("/.facts/hwdb").value_or("");
         const auto answer = value_behind(answers, line, '=');
-        return answer ? told_text(*answer) : std::nullopt;
+        return answer ? meaningful_text(*answer) : std::nullopt;
     }
     if (sd_hwdb_get(database_.get(), alias.c_str(), key, &value) < 0)
         return std::nullopt;
     root_.report_answer("hwdb", line + "=" + value, "");
-    return told_text(value);
+    return meaningful_text(value);
 }
 
 } // namespace ostrelum::linux_platform

@@ -10,8 +10,8 @@
 namespace ostrelum::linux_platform {
 
 /// systemd's compiled database of hardware names. A recorded machine brings its own database, or in
-/// /.facts/hwdb the answers that one gave, in lines of alias, key, "=" and value: this machine's
-/// would give it other names on every system.
+/// /.facts/hwdb the answers that one gave, in lines of alias, key, "=" and value: with the
+/// database of the system that shows it, it would get other names on each system.
 class HardwareDatabase {
 public:
     explicit HardwareDatabase(const Sysroot& root);

@@ -38,7 +38,7 @@ InputDevice capabilities(const Sysroot& root, const std::string& folder)
             text("/properties")};
 }
 
-/// Tells devices apart by what they can do, for where udev does not run.
+/// Recognises devices by what they can do, where udev does not run.
 class ByCapability {
 public:
     ByCapability(const Sysroot& root, const std::vector<std::string>& names) : root_(root)
@@ -72,7 +72,7 @@ bool udev_says(const UdevRecord& udev, InputKind kind)
 }
 
 /// The names of the kernel's mouse drivers: "SynPS/2 Synaptics TouchPad", in which "Generic" stands
-/// for a maker that did not tell.
+/// for an unknown maker.
 std::optional<std::string> maker_in_ps2_name(const std::string& name)
 {
     const auto words = words_of(name);
@@ -119,8 +119,8 @@ std::optional<std::string> input_maker(const Sysroot& root, const InputNode& nod
     if (bus == BusI8042)
         return maker_in_ps2_name(root.text(node.folder + "/name").value_or(""));
     if (bus == BusUsb) {
-        if (auto told = root.text(node.hardware + "/manufacturer"))
-            return told;
+        if (auto maker = root.text(node.hardware + "/manufacturer"))
+            return maker;
     }
     if (bus != BusUsb && bus != BusI2c && bus != BusBluetooth)
         return std::nullopt;

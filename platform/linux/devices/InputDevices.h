@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-/// Keyboards and pointing devices, as the kernel's input layer and udev tell of them.
+/// Keyboards and pointing devices, as the kernel's input layer and udev describe them.
 namespace ostrelum::linux_platform {
 
 enum class InputKind { Keyboard, Pointer };

@@ -82,7 +82,7 @@ std::vector<std::uint32_t> connector_ids(const Descriptor& card)
     return ids;
 }
 
-/// Asks with room for one mode: with none, the kernel would talk to the monitor first.
+/// Asks with room for one mode: with none, the kernel would query the monitor first.
 std::optional<ConnectorState> connector_state(const Descriptor& card, std::uint32_t id)
 {
     ModeInfo mode = {};
@@ -113,8 +113,8 @@ int bits_of(const Descriptor& card, std::uint32_t picture)
 {
     PictureMemory memory = {};
     memory.fb_id = picture;
-    const bool told = ask(card, ask_picture, memory) && memory.bits_per_pixel != 0;
-    return told ? static_cast<int>(memory.bits_per_pixel) : 32;
+    const bool known = ask(card, ask_picture, memory) && memory.bits_per_pixel != 0;
+    return known ? static_cast<int>(memory.bits_per_pixel) : 32;
 }
 
 int refresh_of(const ModeInfo& mode)

@@ -77,8 +77,8 @@ std::optional<int> by_code(const std::array<CodeText, Count>& rows,
     return row == rows.end() ? std::nullopt : std::optional(row->cim);
 }
 
-/// Codes behind the table's last one are the firmware's newer than this program; the schemas share
-/// them.
+/// Firmware that is newer than this program has codes behind the table's last one; they are the
+/// same in both schemas.
 std::optional<int> type_of_code(std::optional<std::uint8_t> code)
 {
     if (code && *code > types.back().smbios)
@@ -94,7 +94,7 @@ bool holds_firmware(const MemoryDevice& device)
     return device.type == rom || device.type == flash;
 }
 
-/// Values of the sizes and widths of a slot that are no sizes and widths (DSP0134, 7.18).
+/// Values with a meaning of their own in the sizes and widths of a slot (DSP0134, 7.18).
 constexpr unsigned unknown_size = 0xFFFF;
 constexpr unsigned size_in_extended_field = 0x7FFF;
 constexpr unsigned unknown_width = 0xFFFF;
@@ -150,7 +150,7 @@ std::optional<MemoryDevice> published_slot(const UdevRecord& firmware, int numbe
                         .type = type ? memory_type_of_text(*type) : std::nullopt,
                         .form_factor = form ? form_factor_of_text(*form) : std::nullopt,
                         .total_width = width_of(number_of(fact("TOTAL_WIDTH"))),
-                        .locator = locator ? told_text(*locator) : std::nullopt};
+                        .locator = locator ? meaningful_text(*locator) : std::nullopt};
 }
 
 /// The kind in a controller's own words, such as "Registered-DDR4".
@@ -196,7 +196,7 @@ std::vector<MemoryDevice> memory_of_table(ByteView table)
                             .type = type_of_code(slot.byte(0x12)),
                             .form_factor = by_code(form_factors, slot.byte(0x0E)),
                             .total_width = width_of(slot.word(0x08)),
-                            .locator = locator ? told_text(*locator) : std::nullopt};
+                            .locator = locator ? meaningful_text(*locator) : std::nullopt};
         if (!holds_firmware(device))
             devices.push_back(std::move(device));
     }
@@ -219,7 +219,7 @@ std::vector<MemoryDevice> memory_of_controllers(const Sysroot& root)
             devices.push_back(
                 {.capacity = *size * mebibyte,
                  .type = type_of_words(root.text(folder + "/dimm_mem_type").value_or("")),
-                 .locator = label ? told_text(*label) : std::nullopt});
+                 .locator = label ? meaningful_text(*label) : std::nullopt});
         }
     }
     return devices;

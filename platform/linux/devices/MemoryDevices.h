@@ -30,8 +30,8 @@ struct MemoryDevice {
 std::optional<int> memory_type_of_text(std::string_view text);
 std::optional<int> form_factor_of_text(std::string_view text);
 
-/// The fitted slots that udev published for the firmware's table. Slots are told apart by their
-/// number: labels repeat.
+/// The fitted slots that udev published for the firmware's table. Slots are distinguished by
+/// their number: labels repeat.
 std::vector<MemoryDevice> published_memory(const UdevRecord& firmware);
 
 /// The fitted slots of the firmware's table itself (SMBIOS type 17).

@@ -37,10 +37,11 @@ std::optional<std::uint64_t> nvidia_memory(const std::string& slot)
         return std::nullopt;
     Device device = nullptr;
     Memory memory = {};
-    const bool told =
+    const bool answered =
         find(slot.c_str(), &device) == success && memory_of(device, &memory) == success;
     end();
-    return told && memory.total != 0 ? std::optional<std::uint64_t>(memory.total) : std::nullopt;
+    return answered && memory.total != 0 ? std::optional<std::uint64_t>(memory.total)
+                                         : std::nullopt;
 }
 
 } // namespace ostrelum::linux_platform

@@ -16,7 +16,7 @@ using Milliseconds = std::chrono::milliseconds;
 using Space = std::optional<VolumeSpace>;
 
 constexpr Milliseconds longest_wait{2000};
-/// While another answer is overdue: ten dead volumes take little longer than one.
+/// While another answer is overdue: ten volumes that do not answer take little longer than one.
 constexpr Milliseconds shorter_wait{100};
 
 /// Paths whose answer is outstanding. Lives as long as the process: a worker may outlive all else.
@@ -46,10 +46,10 @@ Outstanding& outstanding()
 
 Space space_of(const std::string& path)
 {
-    struct statvfs told = {};
-    if (::statvfs(path.c_str(), &told) != 0)
+    struct statvfs space = {};
+    if (::statvfs(path.c_str(), &space) != 0)
         return std::nullopt;
-    return VolumeSpace{told.f_frsize, told.f_blocks, told.f_bfree, told.f_bavail};
+    return VolumeSpace{space.f_frsize, space.f_blocks, space.f_bfree, space.f_bavail};
 }
 
 /// Asks in a thread of its own, which is left to itself if the answer does not come.
@@ -57,7 +57,7 @@ std::future<Space> ask(const std::string& path)
 {
     const auto promise = std::make_shared<std::promise<Space>>();
     const auto answer = [=](const Space& space) {
-        // Before the answer is given: who has it may ask again at once.
+        // Before the answer is given: its receiver may ask again at once.
         outstanding().end(path);
         promise->set_value(space);
     };

@@ -11,7 +11,7 @@ namespace ostrelum::linux_platform {
 struct Volume {
     /// The mount by which it is listed.
     Mount mount;
-    /// Lies on another machine: told from the table's text alone, since asking may wait for ever.
+    /// Lies on another machine: by the table's text alone, since asking may wait for ever.
     bool network = false;
     /// The way to its mount point leads through a network mount, so it is not asked either.
     bool behind_network = false;

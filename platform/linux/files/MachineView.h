@@ -19,7 +19,7 @@ struct IdentityRules {
     std::optional<std::string> (*volume)(std::string_view identity, std::string_view type);
 };
 
-/// The machine that the classes tell of: this one or a recorded one.
+/// The machine that the classes describe: this one or a recorded one.
 struct MachineView {
     Sysroot root;
     std::unique_ptr<SystemCalls> system_calls;

@@ -25,8 +25,8 @@ Descriptor open_in_root(int root, const std::string& path, int flags)
         static_cast<int>(::syscall(SYS_openat2, root, path.c_str(), &how, sizeof how)));
 }
 
-/// The last call was not answered, rather than answered with no. The kernel does not say what lies
-/// behind a ".." while anything on the machine is renamed or mounted, however far away.
+/// The kernel declined to answer the last call, which is no failure to find the file. It does so
+/// for a path with ".." while anything on the machine is renamed or mounted, however far away.
 bool is_refused()
 {
     return errno == ENOSYS || errno == EPERM || errno == EAGAIN;

@@ -19,7 +19,7 @@ Descriptor resolve_in_root(int root, const std::string& path, LastLink last);
 /// and for the moments in which the kernel puts off its answer.
 Descriptor resolve_by_hand(int root, const std::string& path, LastLink last);
 
-/// Opens for reading what the kernel makes up under /proc and /sys of the running system. There are
+/// Opens for reading what the kernel provides under /proc and /sys of the running system. There are
 /// no device nodes, pipes and sockets among it, so that looking first at what a place is would only
 /// double the calls: a page opens hundreds. Nothing if the kernel does not help.
 std::optional<Descriptor> open_kernel_file(int root, const std::string& path);

@@ -16,8 +16,8 @@
 namespace ostrelum::linux_platform {
 namespace {
 
-/// Opens for reading what a place is, if it is a regular file. The place keeps the file in hand, so
-/// that nothing else can have taken its name meanwhile.
+/// Opens for reading what a place is, if it is a regular file. The place refers to
+/// the file itself, whatever has taken its name meanwhile.
 Descriptor opened(const Descriptor& place)
 {
     struct stat status = {};

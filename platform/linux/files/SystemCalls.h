@@ -58,12 +58,12 @@ public:
     /// sits at the machine may ask.
     virtual std::optional<DisplayMode> display_mode(const std::string& connector) = 0;
 
-    /// Memory in bytes of a graphics card whose driver tells no file of it, by place on the PCI bus
-    /// such as "0000:01:00.0".
+    /// Memory in bytes of a graphics card whose driver publishes it in no file, by place on the PCI
+    /// bus such as "0000:01:00.0".
     virtual std::optional<std::uint64_t> graphics_memory(const std::string& slot) = 0;
 
     /// The rules for the password of an account, and when it last logged in, in seconds since 1970,
-    /// as the accounts service tells them (AccountsService.h).
+    /// by the accounts service (AccountsService.h).
     virtual std::optional<PasswordPolicy> password_policy(std::uint64_t uid) = 0;
     virtual std::optional<std::int64_t> login_time(std::uint64_t uid) = 0;
 

@@ -94,7 +94,7 @@ void take_over(const Descriptor& file, const std::string& target)
     ::fchmod(file.number(), old.st_mode & 0777U);
 }
 
-/// Makes the renaming itself last. A file system that cannot do so has no better to offer.
+/// Makes the renaming itself survive a loss of power, where the file system can.
 void sync_folder(const fs::path& folder)
 {
     const Descriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));

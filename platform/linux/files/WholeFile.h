@@ -21,7 +21,7 @@ inline constexpr mode_t owner_alone = 0600;
 /// Gives a file its next content in one step: at any moment, and after a loss of power, the name
 /// leads to the old content or to the new one, whole. A symbolic link is kept and what it leads to
 /// replaced. The new file takes the owner and the permissions of the old one; without an old one
-/// its permissions are told. Several processes take turns: the second one fails.
+/// its permissions are those asked for. Several processes take turns: the second one fails.
 class FileReplacement {
 public:
     /// Begins: from here to the end of the object no other process replaces the file. A file that

@@ -23,8 +23,8 @@ std::optional<std::string> CpuRecord::text(std::initializer_list<std::string_vie
 {
     for (const std::string_view label : labels) {
         const auto value = value_behind(paragraph_, label, ':');
-        if (auto told = value ? text_or_none(*value) : std::nullopt)
-            return told;
+        if (auto found = value ? text_or_none(*value) : std::nullopt)
+            return found;
     }
     return std::nullopt;
 }

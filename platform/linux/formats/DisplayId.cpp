@@ -87,11 +87,11 @@ void read_block(const DisplayIdBlock& block, DisplayId& found)
 
 } // namespace
 
-bool DisplayIdBlock::tells_refresh() const
+bool DisplayIdBlock::has_refresh_rates() const
 {
-    constexpr std::uint8_t told[] = {DetailedTimings, RangeLimits,        DetailedTimingsV2,
-                                     FormulaTimings,  DynamicRangeLimits, CtaDataBlocks};
-    return std::ranges::find(told, kind) != std::end(told);
+    constexpr std::uint8_t kinds[] = {DetailedTimings, RangeLimits,        DetailedTimingsV2,
+                                      FormulaTimings,  DynamicRangeLimits, CtaDataBlocks};
+    return std::ranges::find(kinds, kind) != std::end(kinds);
 }
 
 std::vector<DisplayIdBlock> display_id_blocks(ByteView section)

@@ -16,14 +16,14 @@ struct DisplayIdBlock {
     ByteView content;
 
     /// Whether read_display_id has a use for it.
-    bool tells_refresh() const;
+    bool has_refresh_rates() const;
 };
 
 /// The pieces of a section, which begins with its version. One that is longer than its room ends
 /// the walk.
 std::vector<DisplayIdBlock> display_id_blocks(ByteView section);
 
-/// What a section of DisplayID tells of refresh rates (VESA DisplayID 1.3 and 2.1): the modes of
+/// What a section of DisplayID says about refresh rates (VESA DisplayID 1.3 and 2.1): the modes of
 /// fast built-in panels often stand there alone.
 struct DisplayId {
     std::optional<RefreshRange> limits;

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-/// What a monitor tells of itself (VESA Enhanced EDID Standard, release A, revision 2, with the
+/// The data of a monitor about itself (VESA Enhanced EDID Standard, release A, revision 2, with the
 /// extension blocks of CTA-861 and of DisplayID).
 namespace ostrelum::linux_platform {
 

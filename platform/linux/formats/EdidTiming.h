@@ -28,7 +28,7 @@ struct RefreshRange {
 std::optional<EdidTiming> timing_of(int width, int height, std::int64_t clock_mHz,
                                     std::int64_t clocks_of_two);
 
-/// Limits as a monitor tells them; nothing without a lowest one and where the highest is below it.
+/// Limits as a monitor gives them; nothing without a lowest one and where the highest is below it.
 std::optional<RefreshRange> limits_of(int lowest, int highest);
 
 } // namespace ostrelum::linux_platform

@@ -10,7 +10,7 @@
 /// The binary records of logins. A record that the end cuts off is left out.
 namespace ostrelum::linux_platform {
 
-/// What the log of logins (utmp(5)) tells of an account.
+/// What the log of logins (utmp(5)) says about an account.
 struct LoginHistory {
     std::uint32_t logins = 0;
     /// The last one, in seconds since 1970.
@@ -21,9 +21,9 @@ struct LoginHistory {
 inline constexpr std::size_t usual_utmp_bytes = 384;
 inline constexpr std::size_t wide_utmp_bytes = 400;
 
-/// The width of a log's records: the one by which more of them are of a known type. The kernel does
-/// not tell it, since a system of 32 bits may run on a kernel of 64. `otherwise` where the log does
-/// not tell it either.
+/// The width of a log's records: the one by which more of them are of a known type. It does not
+/// follow from the kernel: a system of 32 bits may run on a kernel of 64. `otherwise` where it does
+/// not follow from the log either.
 std::size_t utmp_bytes(ByteView log, std::size_t otherwise);
 
 LoginHistory login_history(ByteView log, std::size_t record_bytes, std::string_view account);

@@ -6,7 +6,7 @@
 
 namespace ostrelum::linux_platform {
 
-/// Figures of /proc/meminfo, in KB. What the file does not tell is nothing.
+/// Figures of /proc/meminfo, in KB. What the file does not have is nothing.
 struct MemoryInfo {
     std::optional<std::uint64_t> total;
     /// What programs can still have, files in memory that can be read again included.

@@ -6,7 +6,7 @@
 
 namespace ostrelum::linux_platform {
 
-/// What the kernel's input layer tells of a device: texts of hexadecimal words, the highest word
+/// What the kernel's input layer says about a device: texts of hexadecimal words, the highest word
 /// first, each word a `long` of the kernel that wrote them. Bit numbers are those of
 /// linux/input-event-codes.h.
 struct InputDevice {
@@ -16,7 +16,7 @@ struct InputDevice {
     std::string properties;
 };
 
-/// Bits in a word of the kernel that wrote these texts, 32 or 64: told by a word that needs more
+/// Bits in a word of the kernel that wrote these texts, 32 or 64: known by a word that needs more
 /// than 32, or by a keyboard whose lowest word is full. Without such a device, this program's own.
 unsigned kernel_word_bits(std::span<const InputDevice> devices);
 

@@ -91,7 +91,7 @@ bool is_placeholder(std::string_view text)
            (!text.empty() && is_filling(text));
 }
 
-std::optional<std::string> told_text(std::string_view raw)
+std::optional<std::string> meaningful_text(std::string_view raw)
 {
     return is_placeholder(raw) ? std::nullopt : text_or_none(raw);
 }

@@ -12,6 +12,6 @@ namespace ostrelum::linux_platform {
 bool is_placeholder(std::string_view text);
 
 /// The text, valid in UTF-8 and trimmed; nothing if that leaves none or a placeholder.
-std::optional<std::string> told_text(std::string_view raw);
+std::optional<std::string> meaningful_text(std::string_view raw);
 
 } // namespace ostrelum::linux_platform

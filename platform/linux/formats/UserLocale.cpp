@@ -14,7 +14,7 @@ namespace {
 std::string converted(std::string text, const std::string& set)
 {
     iconv_t converter = ::iconv_open("UTF-8", set.c_str());
-    // NOLINTNEXTLINE(performance-no-int-to-ptr): that is how iconv tells failure.
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): that is how iconv reports failure.
     if (converter == reinterpret_cast<iconv_t>(-1))
         return text;
     std::string output(text.size() * 4 + 1, '\0');

@@ -9,7 +9,7 @@
 
 namespace ostrelum::linux_platform {
 
-/// What a distribution tells of itself (os-release(5)).
+/// What a distribution says about itself (os-release(5)).
 class Distribution {
 public:
     explicit Distribution(const Sysroot& root);
@@ -18,7 +18,7 @@ public:
     std::optional<std::string> name() const;
 
     /// How often it was renewed as a whole since its release: the 8 of Debian 12.8, the 3 of
-    /// Ubuntu 24.04.3, the 4 of an enterprise release 9.4; 0 where it is not told.
+    /// Ubuntu 24.04.3, the 4 of an enterprise release 9.4; 0 where it is not known.
     std::uint32_t point_release() const;
 
 private:

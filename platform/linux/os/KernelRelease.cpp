@@ -45,7 +45,7 @@ std::string four_digits(const std::string& digits)
     return digits.size() < wide ? std::string(wide - digits.size(), '0') + digits : digits;
 }
 
-/// What the processor itself tells, for a recorded machine without anything else: flag "lm" is
+/// By what is known of the processor, for a recorded machine without anything else: flag "lm" is
 /// 64-bit mode on x86.
 std::optional<std::string> architecture_of_cpuinfo(const Sysroot& root)
 {

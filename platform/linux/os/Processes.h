@@ -8,7 +8,7 @@
 
 namespace ostrelum::linux_platform {
 
-/// Whether a line of /proc/N/stat (proc_pid_stat(5)) tells of a thread of the kernel. Nothing for
+/// Whether a line of /proc/N/stat (proc_pid_stat(5)) describes a thread of the kernel. Nothing for
 /// text that is no such line.
 std::optional<bool> is_kernel_thread(std::string_view stat);
 

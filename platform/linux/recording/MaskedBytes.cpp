@@ -98,8 +98,8 @@ std::string masked_display_id(const std::string& block)
     std::string masked = block.substr(0, header);
     for (const DisplayIdBlock& each : display_id_blocks(bytes.subspan(1, block_size - 2))) {
         masked.append(block, masked.size(), block_header);
-        masked += each.tells_refresh() ? std::string(each.content.begin(), each.content.end())
-                                       : std::string(each.content.size(), '\0');
+        masked += each.has_refresh_rates() ? std::string(each.content.begin(), each.content.end())
+                                           : std::string(each.content.size(), '\0');
     }
     masked.resize(block_size, '\0');
     return summed(std::move(masked));

@@ -10,8 +10,8 @@ namespace ostrelum::linux_platform {
 /// out.
 std::string masked_firmware_table(const std::string& table);
 
-/// What a monitor tells (Edid.h) without its serial numbers. Of a DisplayID extension its modes and
-/// limits stay, of one of another standard than CTA-861 nothing; nothing for data that is none.
+/// The data of a monitor (Edid.h) without its serial numbers. Of a DisplayID extension its modes
+/// and limits stay, of one of another standard than CTA-861 nothing; nothing for data that is none.
 std::string masked_edid(const std::string& edid);
 
 } // namespace ostrelum::linux_platform

@@ -52,7 +52,7 @@ bool MachinePseudonyms::shows(const std::string& account) const
 
 std::string hidden_line(const std::string& content, MachinePseudonyms&)
 {
-    return told_text(content) ? hidden + "\n" : content;
+    return meaningful_text(content) ? hidden + "\n" : content;
 }
 
 std::string masked_machine_id(const std::string& content, MachinePseudonyms&)

@@ -21,7 +21,7 @@ struct MachinePseudonyms {
     bool shows(const std::string& account) const;
 };
 
-/// A placeholder stays: it tells nothing.
+/// A placeholder stays: it identifies nobody.
 std::string hidden_line(const std::string& content, MachinePseudonyms& given);
 std::string unchanged(const std::string& content, MachinePseudonyms& given);
 /// machine-id(5); for another text, that the machine has none.

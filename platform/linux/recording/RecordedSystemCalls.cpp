@@ -38,18 +38,18 @@ public:
 
     std::optional<VolumeSpace> space(const std::string& path) override
     {
-        const auto told = numbers_of(spaces_, path, 4);
-        if (!told)
+        const auto numbers = numbers_of(spaces_, path, 4);
+        if (!numbers)
             return std::nullopt;
-        return VolumeSpace{(*told)[0], (*told)[1], (*told)[2], (*told)[3]};
+        return VolumeSpace{(*numbers)[0], (*numbers)[1], (*numbers)[2], (*numbers)[3]};
     }
 
     std::optional<std::int64_t> birth_time(const std::string& path) override
     {
-        const auto told = numbers_of(births_, path, 1);
-        if (!told)
+        const auto numbers = numbers_of(births_, path, 1);
+        if (!numbers)
             return std::nullopt;
-        return static_cast<std::int64_t>(told->front());
+        return static_cast<std::int64_t>(numbers->front());
     }
 
     /// The last word but one: behind it stands the name of the system alone.
@@ -75,31 +75,31 @@ public:
 
     std::optional<DisplayMode> display_mode(const std::string& connector) override
     {
-        const auto told = numbers_of(modes_, connector, 4);
-        if (!told)
+        const auto numbers = numbers_of(modes_, connector, 4);
+        if (!numbers)
             return std::nullopt;
-        const auto number = [&](std::size_t i) { return static_cast<int>((*told)[i]); };
+        const auto number = [&](std::size_t i) { return static_cast<int>((*numbers)[i]); };
         return DisplayMode{number(0), number(1), number(2), number(3)};
     }
 
     std::optional<std::uint64_t> graphics_memory(const std::string& slot) override
     {
-        const auto told = numbers_of(vram_, slot, 1);
-        return told ? std::optional(told->front()) : std::nullopt;
+        const auto numbers = numbers_of(vram_, slot, 1);
+        return numbers ? std::optional(numbers->front()) : std::nullopt;
     }
 
     std::optional<PasswordPolicy> password_policy(std::uint64_t uid) override
     {
-        const auto told = numbers_of(passwords_, std::to_string(uid) + " ", 2);
-        if (!told)
+        const auto numbers = numbers_of(passwords_, std::to_string(uid) + " ", 2);
+        if (!numbers)
             return std::nullopt;
-        return PasswordPolicy{.expires = (*told)[0] != 0, .changeable = (*told)[1] != 0};
+        return PasswordPolicy{.expires = (*numbers)[0] != 0, .changeable = (*numbers)[1] != 0};
     }
 
     std::optional<std::int64_t> login_time(std::uint64_t uid) override
     {
-        const auto told = numbers_of(logins_, std::to_string(uid) + " ", 1);
-        return told ? std::optional(static_cast<std::int64_t>(told->front())) : std::nullopt;
+        const auto numbers = numbers_of(logins_, std::to_string(uid) + " ", 1);
+        return numbers ? std::optional(static_cast<std::int64_t>(numbers->front())) : std::nullopt;
     }
 
     std::optional<std::string> directory_account(std::uint64_t uid) override

@@ -26,7 +26,7 @@ std::string base_folder(const Environment& environment, std::string_view name,
                         std::string_view fallback);
 
 /// The login name of the user of this process: USER, LOGNAME, else the password file's. Empty if
-/// none tells.
+/// none has it.
 std::string login_name(const Environment& environment);
 
 } // namespace ostrelum::linux_platform

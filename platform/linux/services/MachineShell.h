@@ -10,7 +10,7 @@ namespace ostrelum::linux_platform {
 
 /// A shell object that also knows the main board's full name, which other systems keep among the
 /// stored values: "HKEY_CURRENT_USER\Software\Install\Ostrelum\Mainboard\Full" is the board's maker
-/// and name as the firmware of the machine tells them. That value cannot be written. All else is
+/// and name as the firmware of the machine gives them. That value cannot be written. All else is
 /// the other object's.
 class MachineShell : public Shell {
 public:

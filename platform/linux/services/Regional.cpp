@@ -59,8 +59,8 @@ std::optional<UserLocale> locale_for(const Environment& environment, std::string
     return name.empty() ? std::nullopt : UserLocale::named(name);
 }
 
-/// Empty where the locale has no names for the halves of the day: twelve hours would then be told
-/// twice.
+/// Empty where the locale has no names for the halves of the day: the hours of the morning would
+/// then look like those of the afternoon.
 std::string half_day_format(const UserLocale& locale)
 {
     if (locale.own_text(PM_STR).empty())

@@ -7,8 +7,8 @@
 namespace ostrelum::linux_platform {
 
 /// The named values that live between runs, in one text file that may be edited by hand
-/// (SettingsText.h tells its form). The file is read anew at every operation, so that a change by
-/// hand while the program runs is seen, and not undone by the next write.
+/// (SettingsText.h describes its form). The file is read anew at every operation, so that a change
+/// by hand while the program runs is seen, and not undone by the next write.
 class SettingsStore {
 public:
     /// `path` may be empty where the user has no folder for it: then every operation fails.

@@ -16,7 +16,7 @@ inline std::string summed(std::string block)
     return block;
 }
 
-/// A monitor XYZ 1234h without any mode but what the descriptors tell.
+/// A monitor XYZ 1234h without any mode but those of the descriptors.
 inline std::string monitor(std::string descriptors = "", int extensions = 0, char revision = 4)
 {
     std::string block(128, '\0');
