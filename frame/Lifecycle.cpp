@@ -19,10 +19,21 @@ void set_level()
     SetOpacity(F1, static_cast<std::int16_t>(Cnt));
 }
 
+/// What the services gave out goes before the services, which end with the process.
+void end_program()
+{
+    WmiItem = {};
+    WmiResult = {};
+    WmiService = {};
+    ShellObject = {};
+    platform.toolkit->prepare_end();
+    platform.system_api->End();
+}
+
 void Form_Initialize()
 {
     if (platform.system_api->PrevInstance())
-        platform.system_api->End();
+        end_program();
     platform.toolkit->InitCommonControls();
 }
 
@@ -100,7 +111,7 @@ void Quit_Click()
 void Form_Unload(bool& cancel)
 {
     if (!TransEnabled)
-        platform.system_api->End();
+        end_program();
     cancel = true;
     Cnt = Transparency;
     F1.TUnload.Enabled = true;
@@ -112,7 +123,7 @@ void TUnload_Timer()
     set_level();
     if (Cnt >= 100) {
         F1.TUnload.Enabled = false;
-        platform.system_api->End();
+        end_program();
     }
 }
 

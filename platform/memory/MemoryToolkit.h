@@ -31,6 +31,7 @@ public:
     void SetLayeredWindowAttributes(Form& form, Colour key, std::uint8_t alpha,
                                     std::uint32_t flags) override;
     int run() override { return 0; }
+    void prepare_end() override { ended = true; }
 
     /// Lets time pass on a form: each timer that is on ticks when its interval is over, in the
     /// order of the form's controls.
@@ -67,6 +68,7 @@ public:
     };
 
     bool common_controls = false;
+    bool ended = false;
     /// Forms on show, the last on top.
     std::vector<Form*> shown;
     /// How often each form was painted at once.

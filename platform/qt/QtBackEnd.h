@@ -32,8 +32,4 @@ std::unique_ptr<SaveDialog> make_qt_save_dialog();
 std::unique_ptr<Browser> make_qt_browser();
 SessionFactsSource qt_session_facts();
 
-/// To be called right before the process ends without unwinding: hands the clipboard's text to the
-/// desktop's clipboard manager, if there is one. Nothing of this back end may be used afterwards.
-void prepare_end();
-
 } // namespace ostrelum::qt_platform

@@ -2,8 +2,8 @@
 #include "platform/qt/Text.h"
 #include "platform/system/Failure.h"
 
-#include <QApplication>
 #include <QClipboard>
+#include <QGuiApplication>
 
 namespace ostrelum::qt_platform {
 namespace {
@@ -27,15 +27,6 @@ public:
 std::unique_ptr<Clipboard> make_qt_clipboard()
 {
     return std::make_unique<QtClipboard>();
-}
-
-void prepare_end()
-{
-    if (!qApp || QGuiApplication::platformName() != u"xcb" || !clipboard().ownsClipboard())
-        return;
-    // On X11 a program serves what it has copied as long as it lives. The toolkit hands the text
-    // over when the application object goes; the process ends before anything could miss it.
-    qApp->~QApplication();
 }
 
 } // namespace ostrelum::qt_platform

@@ -5,6 +5,7 @@
 #include "platform/qt/PopupMenus.h"
 #include "platform/qt/Text.h"
 
+#include <QClipboard>
 #include <QEventLoop>
 #include <QFontInfo>
 #include <QLibraryInfo>
@@ -201,6 +202,17 @@ void QtToolkit::apply_opacity(const Form& form)
 int QtToolkit::run()
 {
     return QApplication::exec();
+}
+
+void QtToolkit::prepare_end()
+{
+    const QClipboard* clipboard = QGuiApplication::clipboard();
+    if (QGuiApplication::platformName() != u"xcb" || !clipboard || !clipboard->ownsClipboard())
+        return;
+    // On X11 a program serves what it has copied as long as it lives. The toolkit hands the text
+    // over to the desktop's clipboard manager when the application object goes; the process ends
+    // before anything could miss it.
+    application_.~QApplication();
 }
 
 } // namespace ostrelum::qt_platform

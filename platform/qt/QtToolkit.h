@@ -29,6 +29,7 @@ public:
     void SetLayeredWindowAttributes(Form& form, Colour key, std::uint8_t alpha,
                                     std::uint32_t flags) override;
     int run() override;
+    void prepare_end() override;
 
     /// The widget that shows a form; nullptr for a form without a window.
     FormWindow* window_of(const Form& form) const;

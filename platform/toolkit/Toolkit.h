@@ -59,6 +59,9 @@ public:
 
     /// Waits for events and raises them until the process ends; returns its exit code.
     virtual int run() = 0;
+    /// The process ends right behind this call, without unwinding: hands over to the desktop what
+    /// it would miss then, such as the clipboard's text. No other call may follow.
+    virtual void prepare_end() = 0;
 };
 
 /// Asks a form to close: its Form_Unload may refuse, else its window goes. True if it went.

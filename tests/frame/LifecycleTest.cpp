@@ -57,6 +57,7 @@ TEST_F(Lifecycle, FadesRestAtTheTransparencyAndStartOverWhenClosedAgain)
     EXPECT_FALSE(Unload(toolkit, F1));
     EXPECT_THAT(levels_of_fade("TUnload", F1.TUnload), ElementsAre(89, 98, 107));
     EXPECT_TRUE(system_api.ended);
+    EXPECT_THROW(WmiService->ExecQuery(""), Failure) << "it goes before what it stands on";
     EXPECT_EQ(toolkit.alphas[&F1].back(), 0);
     EXPECT_EQ(store.writes.size(), 4U) << "nothing is saved at the end";
 }
@@ -68,7 +69,7 @@ TEST_F(Lifecycle, WithoutTransparencyTheWindowIsNeverLayeredAndEndsAtOnce)
     EXPECT_TRUE(toolkit.alphas[&F1].empty());
     EXPECT_FALSE(F1.TLoad.Enabled);
     EXPECT_THROW(click("Quit"), ProcessEnded);
-    EXPECT_TRUE(system_api.ended);
+    EXPECT_TRUE(toolkit.ended && system_api.ended);
 }
 
 TEST_F(Lifecycle, ASecondInstanceEndsBeforeAnythingElse)

@@ -1,6 +1,7 @@
 #include "window/linux/Window.h"
 
 #include "figures/Platform.h"
+#include "figures/Shared.h"
 #include "frame/Lifecycle.h"
 #include "frame/Pictures.h"
 #include "platform/linux/LinuxManagementService.h"
@@ -13,19 +14,6 @@ namespace ostrelum::window {
 using namespace linux_platform;
 using namespace qt_platform;
 namespace {
-
-/// The system of a process that has a window: what the window leaves to the desktop is handed over
-/// before the end.
-class WindowSystemApi : public LinuxSystemApi {
-public:
-    using LinuxSystemApi::LinuxSystemApi;
-
-    void End() override
-    {
-        prepare_end();
-        LinuxSystemApi::End();
-    }
-};
 
 Environment environment_of(const MachineSource& source)
 {
@@ -46,7 +34,6 @@ SessionFactsSource session_of(const MachineSource& source)
 int run_window(int& argc, char** argv, const MachineSource& source)
 {
     LinuxSystem system(source.root, environment_of(source));
-    WindowSystemApi system_api(source.root, system.environment);
     const QtLook look{
         .hand = art_picture("Hand"), .hot_spot = {10, 3}, .desktop_entry = "dervalin-ostrelum"};
     const auto toolkit = make_qt_toolkit(argc, argv, look);
@@ -62,7 +49,7 @@ int run_window(int& argc, char** argv, const MachineSource& source)
                 .browser = browser.get(),
                 .clock = &system.clock,
                 .regional = &system.regional,
-                .system_api = &system_api,
+                .system_api = &system.system_api,
                 .ansi_code_page = &system.ansi_code_page,
                 .get_object =
                     [&](const std::string&) {
@@ -74,7 +61,10 @@ int run_window(int& argc, char** argv, const MachineSource& source)
                                                               system.create_object(class_name));
                     }};
     start_program();
-    return toolkit->run();
+    const int exit_code = toolkit->run();
+    // The management service goes before what it stands on.
+    reset_shared_state();
+    return exit_code;
 }
 
 } // namespace ostrelum::window
