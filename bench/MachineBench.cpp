@@ -31,7 +31,7 @@ void OpenMachinePage(benchmark::State& state)
     // From another page each time: a page may keep what it has while it stays open.
     for (auto _ : state) {
         F1.Seccion = 0;
-        LMenu_MouseDown(section, LeftButton, 0, 0, 0);
+        LMenu_MouseDown(section, left_button, 0, 0, 0);
     }
 }
 BENCHMARK(OpenMachinePage)->DenseRange(1, 13)->Unit(benchmark::kMicrosecond);
@@ -41,7 +41,7 @@ void RefreshMachinePage(benchmark::State& state)
 {
     const auto machine = LinuxHost().open(machine_options());
     ConsoleProgram program(*machine, "English");
-    LMenu_MouseDown(static_cast<int>(state.range(0)), LeftButton, 0, 0, 0);
+    LMenu_MouseDown(static_cast<int>(state.range(0)), left_button, 0, 0, 0);
     for (auto _ : state)
         F1.raise("Timer1", {.kind = EventKind::Timer});
 }

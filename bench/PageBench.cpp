@@ -23,7 +23,7 @@ void OpenPage(benchmark::State& state)
                   {"SerialNumber", "12345"}})};
     start_program();
     for (auto _ : state) {
-        LMenu_MouseDown(8, LeftButton, 0, 0, 0);
+        LMenu_MouseDown(8, left_button, 0, 0, 0);
         program.script.asked.clear();
         program.toolkit.cursors.clear();
     }

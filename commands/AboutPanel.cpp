@@ -75,7 +75,7 @@ void Informacion_Click()
 
 void LTra2_MouseDown(int button, int, int, int)
 {
-    if (button == LeftButton)
+    if (button == left_button)
         open_address(translator_address);
 }
 

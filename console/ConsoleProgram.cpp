@@ -40,7 +40,7 @@ ConsoleProgram::~ConsoleProgram()
 
 std::string ConsoleProgram::page(int section)
 {
-    LMenu_MouseDown(section, LeftButton, 0, 0, 0);
+    LMenu_MouseDown(section, left_button, 0, 0, 0);
     F1.raise("CopyAll", {.kind = EventKind::Click});
     return with_lf(clipboard_.text.value_or(""));
 }

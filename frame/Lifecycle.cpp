@@ -88,7 +88,7 @@ void Form_Load()
     colour_the_skin();
     F1.Ico.store(F6->Sec1.Stored);
     TraduPrincipal();
-    LMenu_MouseDown(1, LeftButton, 0, 0, 0);
+    LMenu_MouseDown(1, left_button, 0, 0, 0);
     if (TransEnabled)
         start_fade_in();
 }

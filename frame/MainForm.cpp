@@ -51,18 +51,18 @@ void place_left_column(Designer& put)
     put.inside(F1.S(1));
     ROW(MenuLogo, .Left = 16, .Top = 5, .Width = 20, .Height = 20, .Transparent = true,
         .Stored = art_picture("MenuLogo"), .MousePointer = MouseCursor::Hand);
-    ROW(LOpc, .Left = 47, .Top = 7, .Font = tahoma(9.75), .ForeColor = White,
+    ROW(LOpc, .Left = 47, .Top = 7, .Font = tahoma(9.75), .ForeColor = white,
         .MousePointer = MouseCursor::Hand, .TabStop = true);
     ROWS(LMenu, Label{.Left = 20,
                       .Top = 58 + 35 * (i - 1),
                       .Font = tahoma(9.75),
-                      .ForeColor = White,
+                      .ForeColor = white,
                       .MousePointer = MouseCursor::Hand,
                       .TabStop = true});
     ROW(BM, .Left = 0, .Top = 49, .Width = 170, .Height = 35, .Stored = art_picture("BM"),
         .MousePointer = MouseCursor::Hand);
     put.inside(F1.BM);
-    ROW(LMenu2, .Left = 20, .Top = 9, .Font = tahoma(9.75), .ForeColor = White,
+    ROW(LMenu2, .Left = 20, .Top = 9, .Font = tahoma(9.75), .ForeColor = white,
         .MousePointer = MouseCursor::Hand);
     ROW(PesBMenu, .Left = 163, .Top = 11, .Width = 7, .Height = 13, .Transparent = true,
         .Stored = art_picture("PesBMenu"));
@@ -198,7 +198,7 @@ void load_main_form()
     F1.Caption = "Dervalin Ostrelum";
     F1.ClientWidth = 777;
     F1.ClientHeight = 553;
-    F1.BackColor = White;
+    F1.BackColor = white;
     F1.Icon = {art_picture("Icon32"), art_picture("Icon16")};
     F1.MinButton = true;
     place_controls();

@@ -48,7 +48,7 @@ void S_MouseDown(int index, int button, int shift, int x, int y)
 
 void LOpc_MouseUp(int button, int, int, int)
 {
-    if (button == LeftButton && !F1.PanelOpen)
+    if (button == left_button && !F1.PanelOpen)
         platform.toolkit->popup(F1, F1.MenuOps, Point{25, 14}, &F1.Quit);
 }
 
@@ -59,7 +59,7 @@ void MenuLogo_MouseUp(int button, int shift, int x, int y)
 
 void S_MouseUp(int index, int button, int shift, int x, int y)
 {
-    if (index == 1 && button == LeftButton && in_tab(x, y))
+    if (index == 1 && button == left_button && in_tab(x, y))
         LOpc_MouseUp(button, shift, x, y);
 }
 
@@ -73,7 +73,7 @@ void S_MouseMove(int index, int, int, int x, int y)
 
 void LMenu2_Click()
 {
-    LMenu_MouseDown(F1.Seccion, LeftButton, 0, 0, 0);
+    LMenu_MouseDown(F1.Seccion, left_button, 0, 0, 0);
 }
 
 void BM_Click()
@@ -108,7 +108,7 @@ const HandlerTable navigation_handlers{handlers};
 
 void LMenu_MouseDown(int index, int button, int, int, int)
 {
-    if (button == RightButton || button == MiddleButton || F1.PanelOpen)
+    if (button == right_button || button == middle_button || F1.PanelOpen)
         return;
     platform.toolkit->set_screen_cursor(MouseCursor::Hourglass);
     F1.BM.Visible = false;
@@ -147,7 +147,7 @@ void LockMenu()
 
 void UnlockMenu()
 {
-    set_navigation(true, rgb(250, 250, 250), White, MouseCursor::Hand);
+    set_navigation(true, rgb(250, 250, 250), white, MouseCursor::Hand);
 }
 
 } // namespace ostrelum::inline frame

@@ -26,7 +26,7 @@ void pop_up()
 
 void Form_MouseDown(int button, int, int, int)
 {
-    if (button != RightButton || panel_on_show() || media_missing())
+    if (button != right_button || panel_on_show() || media_missing())
         return;
     F1.Copy.Enabled = false;
     pop_up();
@@ -39,7 +39,7 @@ void TapaBorde_MouseDown(int button, int shift, int x, int y)
 
 void LT_MouseDown(int index, int button, int, int, int)
 {
-    if (button != RightButton || panel_on_show())
+    if (button != right_button || panel_on_show())
         return;
     F1.Copy.Enabled = can_copy(index);
     F1.CopyRow = static_cast<std::uint8_t>(index);

@@ -48,7 +48,7 @@ void load_report_form()
     F2.Caption = "Dervalin Ostrelum";
     F2.ClientWidth = 417;
     F2.ClientHeight = 181;
-    F2.BackColor = White;
+    F2.BackColor = white;
     place_controls();
     F2.handlers = report_form_handlers();
 }

@@ -163,7 +163,7 @@ void BAceptar_Click()
     UnlockMenu();
     F1.LineInf.Visible = true;
     F1.Seccion = F1.SeccionPrev;
-    LMenu_MouseDown(F1.Seccion, LeftButton, 0, 0, 0);
+    LMenu_MouseDown(F1.Seccion, left_button, 0, 0, 0);
 }
 
 constexpr Handler handlers[] = {

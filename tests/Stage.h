@@ -15,7 +15,7 @@ namespace ostrelum {
 /// The program on the memory back end, and the user's hands on it.
 class Stage : public ::testing::Test, public MemoryProgram {
 protected:
-    static void press(std::string_view control, int index = 0, int button = LeftButton, int x = 0,
+    static void press(std::string_view control, int index = 0, int button = left_button, int x = 0,
                       int y = 0)
     {
         F1.raise(control,

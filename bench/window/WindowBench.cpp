@@ -67,7 +67,7 @@ void OpenASection(benchmark::State& state)
     const int section = static_cast<int>(state.range(0));
     for (auto _ : state) {
         F1.Seccion = 0;
-        LMenu_MouseDown(section, LeftButton, 0, 0, 0);
+        LMenu_MouseDown(section, left_button, 0, 0, 0);
         program.paint();
     }
 }

@@ -37,7 +37,7 @@ void MemoryWindow::button_down(Point at, int button, int shift)
     if (place != form_itself && takes_focus(form_, place))
         focused_ = place;
     const bool input = place != form_itself && control(place).is_input();
-    if (input && button == LeftButton)
+    if (input && button == left_button)
         pressed_ = place;
     else
         mouse_.button_down(input ? entry_at(form_, place).container : place, button, shift, at);
@@ -45,7 +45,7 @@ void MemoryWindow::button_down(Point at, int button, int shift)
 
 void MemoryWindow::button_up(Point at, int button, int shift)
 {
-    if (button != LeftButton || pressed_ == form_itself) {
+    if (button != left_button || pressed_ == form_itself) {
         mouse_.button_up(button, shift, at);
         return;
     }

@@ -6,7 +6,7 @@ namespace ostrelum::qt_platform {
 namespace {
 
 /// Pixels between the widget and the frame's outer edge.
-constexpr int Margin = 4;
+constexpr int margin = 4;
 
 } // namespace
 
@@ -23,7 +23,7 @@ void FocusFrame::follow(const QWidget* widget)
         return;
     }
     const QRect place(widget->mapTo(window(), QPoint()), widget->size());
-    setGeometry(place.adjusted(-Margin, -Margin, Margin, Margin));
+    setGeometry(place.adjusted(-margin, -margin, margin, margin));
     raise();
     show();
 }

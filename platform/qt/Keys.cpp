@@ -21,9 +21,9 @@ Key key_of(const QKeyEvent& event)
 
 int number_of(Qt::MouseButtons buttons)
 {
-    return (buttons & Qt::LeftButton ? LeftButton : 0) |
-           (buttons & Qt::RightButton ? RightButton : 0) |
-           (buttons & Qt::MiddleButton ? MiddleButton : 0);
+    return (buttons & Qt::LeftButton ? left_button : 0) |
+           (buttons & Qt::RightButton ? right_button : 0) |
+           (buttons & Qt::MiddleButton ? middle_button : 0);
 }
 
 int number_of(Qt::KeyboardModifiers modifiers)

@@ -27,7 +27,7 @@ QtLabelBinding::QtLabelBinding(Label& label, int place, QWidget& parent,
     new MouseEventFilter(*widget_, place, context_);
     widget_->setTextFormat(Qt::PlainText);
     widget_->setIndent(0);
-    widget_->press = [this] { context_.mouse.press(place_, LeftButton); };
+    widget_->press = [this] { context_.mouse.press(place_, left_button); };
 }
 
 void QtLabelBinding::apply()

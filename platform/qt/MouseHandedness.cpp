@@ -13,12 +13,12 @@ namespace {
 /// Each device has a group of its own, named after maker, model and name.
 bool kde_left_handed()
 {
-    constexpr qint64 LargestFile = 1 << 20;
+    constexpr qint64 largest_file = 1 << 20;
     QFile file(QStandardPaths::locate(QStandardPaths::GenericConfigLocation, "kcminputrc"));
     if (file.fileName().isEmpty() || !file.open(QIODevice::ReadOnly))
         return false;
     bool in_device = false;
-    for (const QByteArray& line : file.read(LargestFile).split('\n')) {
+    for (const QByteArray& line : file.read(largest_file).split('\n')) {
         const QByteArray text = line.trimmed();
         if (text.startsWith('['))
             in_device = text.startsWith("[Libinput]");

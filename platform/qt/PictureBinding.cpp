@@ -10,7 +10,7 @@ QtPictureBinding::QtPictureBinding(PictureBox& box, int place, QWidget& parent,
     : BindingOf(box, place, context.events), widget_(new PictureWidget(&parent)), context_(context)
 {
     new MouseEventFilter(*widget_, place, context_);
-    widget_->press = [this] { context_.mouse.press(place_, LeftButton); };
+    widget_->press = [this] { context_.mouse.press(place_, left_button); };
 }
 
 void QtPictureBinding::apply()

@@ -26,7 +26,7 @@ private:
     void choose_image();
 
     bool transparent_ = true;
-    Colour ground_ = White;
+    Colour ground_ = white;
     /// The image looks at the picture's own bytes.
     Picture picture_;
     QImage image_;

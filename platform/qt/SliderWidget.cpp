@@ -9,20 +9,20 @@
 namespace ostrelum::qt_platform {
 namespace {
 
-constexpr QColor Track(229, 234, 240);
-constexpr QColor Edge(170, 180, 192);
-constexpr QColor ThumbEdge(118, 132, 148);
-constexpr QColor Sign(68, 84, 106);
-constexpr QColor DimmedSign(176, 186, 198);
+constexpr QColor track(229, 234, 240);
+constexpr QColor edge(170, 180, 192);
+constexpr QColor thumb_edge(118, 132, 148);
+constexpr QColor arrow(68, 84, 106);
+constexpr QColor dimmed_arrow(176, 186, 198);
 /// Surfaces are lit from above, as the program's drawings are.
-constexpr QColor Lit(255, 255, 255);
-constexpr QColor Shaded(231, 236, 242);
-constexpr QColor ShadedWhenHeld(205, 220, 238);
+constexpr QColor lit(255, 255, 255);
+constexpr QColor shaded(231, 236, 242);
+constexpr QColor shaded_when_held(205, 220, 238);
 
 QLinearGradient surface(const QRectF& place, const QColor& foot)
 {
     QLinearGradient light(place.topLeft(), place.bottomLeft());
-    light.setColorAt(0, Lit);
+    light.setColorAt(0, lit);
     light.setColorAt(1, foot);
     return light;
 }
@@ -44,8 +44,8 @@ void SliderWidget::paintEvent(QPaintEvent*)
     };
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Edge);
-    painter.setBrush(Track);
+    painter.setPen(edge);
+    painter.setBrush(track);
     painter.drawRoundedRect(outline_of(rect()), 3, 3);
     draw_end(painter, part(QStyle::SC_ScrollBarSubLine), true);
     draw_end(painter, part(QStyle::SC_ScrollBarAddLine), false);
@@ -69,7 +69,7 @@ void SliderWidget::draw_end(QPainter& painter, const QRectF& button, bool leftwa
     if (button.isEmpty())
         return;
     painter.setPen(Qt::NoPen);
-    painter.setBrush(isEnabled() ? Sign : DimmedSign);
+    painter.setBrush(isEnabled() ? arrow : dimmed_arrow);
     const QPointF middle = button.center();
     const qreal side = leftwards ? -1 : 1;
     painter.drawPolygon(QPolygonF{{middle.x() + 2.5 * side, middle.y()},
@@ -79,11 +79,11 @@ void SliderWidget::draw_end(QPainter& painter, const QRectF& button, bool leftwa
 
 void SliderWidget::draw_thumb(QPainter& painter, const QRectF& thumb) const
 {
-    painter.setPen(ThumbEdge);
-    painter.setBrush(surface(thumb, isSliderDown() ? ShadedWhenHeld : Shaded));
+    painter.setPen(thumb_edge);
+    painter.setBrush(surface(thumb, isSliderDown() ? shaded_when_held : shaded));
     painter.drawRoundedRect(outline_of(thumb), 3, 3);
     // The grip.
-    painter.setPen(Edge);
+    painter.setPen(edge);
     for (const int line : {-3, 0, 3}) {
         const qreal x = std::floor(thumb.center().x()) + line + 0.5;
         painter.drawLine(QPointF(x, thumb.top() + 5.5), QPointF(x, thumb.bottom() - 5.5));

@@ -27,6 +27,6 @@ constexpr int blue_of(Colour colour)
     return static_cast<int>(colour >> 16 & 255);
 }
 
-inline constexpr Colour White = rgb(255, 255, 255);
+inline constexpr Colour white = rgb(255, 255, 255);
 
 } // namespace ostrelum::inline toolkit

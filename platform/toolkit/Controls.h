@@ -61,7 +61,7 @@ struct PictureBox {
     int Height = 0;
     /// Without a value the box lets what lies under it show through.
     bool Transparent = false;
-    Colour BackColor = White;
+    Colour BackColor = white;
     /// The picture that belongs to the box.
     Picture Stored;
     /// What the box shows: the stored picture, or what was drawn over it.

@@ -22,9 +22,9 @@ enum class EventKind {
 };
 
 /// Numbers of the mouse buttons as events give them.
-inline constexpr int LeftButton = 1;
-inline constexpr int RightButton = 2;
-inline constexpr int MiddleButton = 4;
+inline constexpr int left_button = 1;
+inline constexpr int right_button = 2;
+inline constexpr int middle_button = 4;
 
 /// One event on its way to its handler.
 struct Event {

@@ -49,7 +49,7 @@ public:
     std::string Caption;
     int ClientWidth = 0;
     int ClientHeight = 0;
-    Colour BackColor = White;
+    Colour BackColor = white;
     /// 32 by 32 and 16 by 16 pixels.
     std::array<Picture, 2> Icon;
     bool MinButton = false;

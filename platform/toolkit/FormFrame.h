@@ -10,7 +10,7 @@ struct FormFrame {
     std::string Caption;
     int ClientWidth = 0;
     int ClientHeight = 0;
-    Colour BackColor = White;
+    Colour BackColor = white;
     std::array<Picture, 2> Icon;
     MouseCursor MousePointer = MouseCursor::Default;
     bool operator==(const FormFrame&) const = default;

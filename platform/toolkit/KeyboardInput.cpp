@@ -79,7 +79,7 @@ bool KeyboardInput::press_focused()
         set_in_use(true);
     if (!is_pressable(events_.form(), control))
         return false;
-    mouse_.press(control, LeftButton);
+    mouse_.press(control, left_button);
     return true;
 }
 
@@ -100,13 +100,13 @@ bool KeyboardInput::menu_key()
 {
     const Form& form = events_.form();
     const int control = view_.focused();
-    if (is_pressable(form, control) && mouse_.press(control, RightButton))
+    if (is_pressable(form, control) && mouse_.press(control, right_button))
         return true;
     const Point middle = area_on_form(form, form_itself).middle();
     events_.menu_point = middle;
     events_.raise(
         form_itself,
-        {.kind = EventKind::MouseDown, .button = RightButton, .x = middle.x, .y = middle.y});
+        {.kind = EventKind::MouseDown, .button = right_button, .x = middle.x, .y = middle.y});
     events_.menu_point.reset();
     return true;
 }

@@ -71,7 +71,7 @@ void MouseInput::button_up(int button, int shift, Point at)
     held_ &= ~button;
     const int target = captured_;
     raise(EventKind::MouseUp, target, button, shift, at);
-    if (button == LeftButton && area_on_form(events_.form(), target).contains(at))
+    if (button == left_button && area_on_form(events_.form(), target).contains(at))
         raise(EventKind::Click, target, button, shift, at);
 }
 
@@ -91,7 +91,7 @@ bool MouseInput::press(int control, int button)
     events_.menu_point = middle;
     raise(EventKind::MouseDown, target, button, 0, middle);
     raise(EventKind::MouseUp, target, button, 0, middle);
-    if (button == LeftButton)
+    if (button == left_button)
         raise(EventKind::Click, target, button, 0, middle);
     return !std::exchange(events_.menu_point, std::nullopt);
 }

@@ -63,8 +63,8 @@ TEST_F(AboutPanelOpen, TheLinkLightsUpAndOpensByTheLeftButtonAlone)
         EXPECT_EQ(F1.LTra2.ForeColor, rgb(32, 32, 32)) << way_back;
         EXPECT_FALSE(F1.LTra2.Font.Underline) << way_back;
     }
-    press("LTra2", 0, RightButton);
-    press("LTra2", 0, MiddleButton);
+    press("LTra2", 0, right_button);
+    press("LTra2", 0, middle_button);
     EXPECT_TRUE(browser.opened.empty());
     press("LTra2");
     click("VisitWeb");

@@ -27,10 +27,10 @@ TEST_F(Navigation, TheColumnIsOneTargetByItsTabAndItsRows)
     for (const auto& c : cases) {
         F1.Seccion = nothing;
         toolkit.popups.clear();
-        click_skin(1, RightButton, c.x, c.y);
-        click_skin(2, LeftButton, c.x, c.y);
+        click_skin(1, right_button, c.x, c.y);
+        click_skin(2, left_button, c.x, c.y);
         EXPECT_TRUE(F1.Seccion == nothing && toolkit.popups.empty()) << c.x << "," << c.y;
-        click_skin(1, LeftButton, c.x, c.y);
+        click_skin(1, left_button, c.x, c.y);
         EXPECT_EQ(F1.Seccion, c.opens == menu ? nothing : c.opens) << c.x << "," << c.y;
         EXPECT_EQ(toolkit.popups.size(), c.opens == menu ? 1U : 0U) << c.x << "," << c.y;
         EXPECT_EQ(F1.S(1).MousePointer,
@@ -41,7 +41,7 @@ TEST_F(Navigation, TheColumnIsOneTargetByItsTabAndItsRows)
 TEST_F(Navigation, WordAndLogoPopUpTheOptionsToo)
 {
     for (const char* control : {"LOpc", "MenuLogo"}) {
-        for (const int button : {RightButton, LeftButton})
+        for (const int button : {right_button, left_button})
             F1.raise(control, {.kind = EventKind::MouseUp, .button = button});
         ASSERT_EQ(toolkit.popups.size(), 1U) << control;
         EXPECT_EQ(toolkit.popups[0].menu, &F1.MenuOps);
@@ -83,12 +83,12 @@ TEST_F(Navigation, RightClickBesideTheRowsOffersCopyAllOnly)
         F1.MediaCount = c.media;
         F1.Copy.Enabled = true;
         toolkit.popups.clear();
-        press("TapaBorde", 0, RightButton);
-        press("Form", 0, LeftButton);
+        press("TapaBorde", 0, right_button);
+        press("Form", 0, left_button);
         EXPECT_EQ(toolkit.popups.size(), c.menu ? 1U : 0U) << int{c.section};
         EXPECT_EQ(F1.Copy.Enabled, !c.menu);
         toolkit.popups.clear();
-        press("L", 4, RightButton);
+        press("L", 4, right_button);
         EXPECT_EQ(toolkit.popups.size(), c.section < 90 ? 1U : 0U) << int{c.section};
     }
 }

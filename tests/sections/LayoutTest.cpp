@@ -59,8 +59,8 @@ TEST_F(Layout, OfEachPageWipesOutThatOfAnother)
         F1.Laviso.ForeColor = rgb(255, 0, 0);
         F1.Timer1.Enabled = false;
         open(c.section);
-        press("LMenu", 7, MiddleButton);
-        press("LMenu", 7, RightButton);
+        press("LMenu", 7, middle_button);
+        press("LMenu", 7, right_button);
         EXPECT_EQ(F1.Seccion, c.section);
         EXPECT_EQ(F1.Titulo.Caption, c.title);
         EXPECT_EQ(F1.LMenu2.Caption, c.title);
@@ -85,7 +85,7 @@ TEST_F(Layout, OfEachPageWipesOutThatOfAnother)
             EXPECT_EQ(F1.L(row).Caption.empty(), empty || heading);
             EXPECT_EQ(F1.L(row).ToolTipText, F1.L(row).Caption);
             EXPECT_TRUE(F1.L(row).Left == F1.LT(row).Left + F1.LT(row).Width || empty || heading);
-            press(row % 2 ? "LT" : "L", row, RightButton);
+            press(row % 2 ? "LT" : "L", row, right_button);
             EXPECT_EQ(F1.CopyRow, row);
             EXPECT_EQ(F1.Copy.Enabled, !F1.L(row).Caption.empty());
         }

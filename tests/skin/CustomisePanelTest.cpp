@@ -71,7 +71,7 @@ TEST_F(CustomisePanelOpen, ShowsTheSettingsOfTheRunAndTouchesNeitherSkinNorStore
     EXPECT_EQ(F1.Seccion, 6);
     EXPECT_EQ(F1.Titulo.Caption, Trad[Text::Ram]);
     EXPECT_TRUE(F1.LineInf.Visible && F1.LMenu(1).TabStop);
-    EXPECT_EQ(F1.LMenu(13).ForeColor, White);
+    EXPECT_EQ(F1.LMenu(13).ForeColor, white);
     EXPECT_EQ(F1.LOpc.ForeColor, rgb(250, 250, 250));
     EXPECT_EQ(F1.MenuLogo.MousePointer, MouseCursor::Hand);
     EXPECT_TRUE(F1.LangList.List.empty());
@@ -196,11 +196,11 @@ TEST_F(CustomisePanelOpen, LocksWhatLiesAroundItUntilItCloses)
     store.writes.clear();
     click("Personalizar");
     press("LMenu", 8);
-    press("S", 1, LeftButton, 20, 300);
+    press("S", 1, left_button, 20, 300);
     click("BM");
-    press("Form", 0, RightButton);
-    press("LT", 3, RightButton);
-    F1.raise("LOpc", {.kind = EventKind::MouseUp, .button = LeftButton});
+    press("Form", 0, right_button);
+    press("LT", 3, right_button);
+    F1.raise("LOpc", {.kind = EventKind::MouseUp, .button = left_button});
     F1.raise("S", {.kind = EventKind::MouseMove, .index = 1, .x = 10, .y = 60});
     EXPECT_EQ(F1.Seccion, customise_panel);
     EXPECT_TRUE(toolkit.popups.empty());

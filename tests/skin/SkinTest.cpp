@@ -45,14 +45,15 @@ TEST(Tinting, ShiftsEachChannelByColourAndShineAndLeavesTheFillingAlone)
 TEST(Blending, MixesByConstantAlpha)
 {
     Bitmap black(3, 2);
-    Bitmap white(3, 2);
-    std::ranges::fill(white.bytes, std::uint8_t{255});
+    Bitmap white_picture(3, 2);
+    std::ranges::fill(white_picture.bytes, std::uint8_t{255});
     for (const int alpha : {0, 13, 128, 247, 255}) {
         Bitmap mixed = black;
-        blend_pixels(mixed, white, static_cast<std::uint8_t>(alpha));
+        blend_pixels(mixed, white_picture, static_cast<std::uint8_t>(alpha));
         EXPECT_EQ(mixed.row(1)[8], alpha);
-        blend_pixels(mixed = white, white, static_cast<std::uint8_t>(alpha));
-        EXPECT_TRUE(std::ranges::equal(std::span(mixed.row(0), 9), std::span(white.row(0), 9)));
+        blend_pixels(mixed = white_picture, white_picture, static_cast<std::uint8_t>(alpha));
+        EXPECT_TRUE(
+            std::ranges::equal(std::span(mixed.row(0), 9), std::span(white_picture.row(0), 9)));
     }
     Bitmap wide(4, 1);
     Bitmap narrow(2, 1);

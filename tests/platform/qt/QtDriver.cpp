@@ -26,8 +26,9 @@ constexpr Pair<Key, Qt::Key> keys[] = {
     {Key::End, Qt::Key_End},      {Key::PageUp, Qt::Key_PageUp}, {Key::PageDown, Qt::Key_PageDown},
     {Key::Enter, Qt::Key_Return}, {Key::Space, Qt::Key_Space},   {Key::Escape, Qt::Key_Escape},
     {Key::Menu, Qt::Key_Menu},    {Key::F10, Qt::Key_F10}};
-constexpr Pair<int, Qt::MouseButton> buttons[] = {
-    {LeftButton, Qt::LeftButton}, {RightButton, Qt::RightButton}, {MiddleButton, Qt::MiddleButton}};
+constexpr Pair<int, Qt::MouseButton> buttons[] = {{left_button, Qt::LeftButton},
+                                                  {right_button, Qt::RightButton},
+                                                  {middle_button, Qt::MiddleButton}};
 constexpr Pair<MouseCursor, Qt::CursorShape> cursors[] = {
     {MouseCursor::Arrow, Qt::ArrowCursor},
     {MouseCursor::Hourglass, Qt::WaitCursor},

@@ -21,7 +21,7 @@ protected:
     ~Conformance() override { toolkit.Hide(form); }
 
     /// Presses a mouse button and lets it go: what that calls, the way there left aside.
-    Calls press(Point at, int button = LeftButton)
+    Calls press(Point at, int button = left_button)
     {
         driver->move_mouse(form, at);
         take_calls();

@@ -21,7 +21,7 @@ TEST_P(Conformance, TabWalksRoundTheControlsInTheirOrder)
     }
     key(Key::Tab, shift);
     EXPECT_EQ(focused(), place(form.Pick));
-    press({90, 190}, MiddleButton);
+    press({90, 190}, middle_button);
     EXPECT_EQ(driver->marked(form), form_itself) << "the mouse needs no mark";
 }
 

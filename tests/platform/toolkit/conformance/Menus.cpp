@@ -39,7 +39,7 @@ TEST_P(Conformance, AMenuRaisesTheChoiceAfterItHasGone)
         Calls expected;
     } cases[] = {{&form.Last, {"Last_Click"}}, {&form.First, {}}, {nullptr, {}}};
     for (const auto& c : cases) {
-        driver->button_down(form, {90, 190}, LeftButton, 0);
+        driver->button_down(form, {90, 190}, left_button, 0);
         EXPECT_EQ(driver->menu(), entries);
         EXPECT_EQ(driver->menu_place(form), (Point{20, 30}));
         take_calls();

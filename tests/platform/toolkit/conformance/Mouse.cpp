@@ -14,23 +14,23 @@ TEST_P(Conformance, TheMouseReachesTheControlThatListens)
     } cases[] = {
         {"a control in a box",
          {15, 96},
-         LeftButton,
+         left_button,
          {"Menu_MouseDown(3) 1 0 5,6", "Menu_MouseUp(3) 1 0 5,6", "Menu_Click(3)"}},
         {"no click of another button",
          {15, 16},
-         RightButton,
+         right_button,
          {"Menu_MouseDown(1) 2 0 5,6", "Menu_MouseUp(1) 2 0 5,6"}},
         {"the middle button",
          {11, 11},
-         MiddleButton,
+         middle_button,
          {"Menu_MouseDown(1) 4 0 1,1", "Menu_MouseUp(1) 4 0 1,1"}},
-        {"a box", {90, 190}, LeftButton, {"Column_MouseDown 1 0 90,190", "Column_Click"}},
-        {"a label to which nobody listens in a box", {8, 53}, LeftButton, {"Bar_Click"}},
-        {"a box over a label", {12, 72}, LeftButton, {"Bar_Click"}},
-        {"a label to which nobody listens", {122, 13}, RightButton, {"Form_MouseDown 2 0 122,13"}},
-        {"through a line", {90, 180}, RightButton, {"Column_MouseDown 2 0 90,180"}},
-        {"a button", {160, 160}, LeftButton, {"Ok_Click"}},
-        {"a box to tick", {128, 90}, LeftButton, {"Tick_Click"}},
+        {"a box", {90, 190}, left_button, {"Column_MouseDown 1 0 90,190", "Column_Click"}},
+        {"a label to which nobody listens in a box", {8, 53}, left_button, {"Bar_Click"}},
+        {"a box over a label", {12, 72}, left_button, {"Bar_Click"}},
+        {"a label to which nobody listens", {122, 13}, right_button, {"Form_MouseDown 2 0 122,13"}},
+        {"through a line", {90, 180}, right_button, {"Column_MouseDown 2 0 90,180"}},
+        {"a button", {160, 160}, left_button, {"Ok_Click"}},
+        {"a box to tick", {128, 90}, left_button, {"Tick_Click"}},
     };
     form.Rule = {.X1 = 80, .Y1 = 180, .X2 = 99, .Y2 = 180};
     toolkit.Refresh(form);
@@ -50,24 +50,24 @@ TEST_P(Conformance, TheMouseReachesTheControlThatListens)
 TEST_P(Conformance, AControlKeepsTheMouseWhileAButtonIsDown)
 {
     constexpr int shift_and_alt = 5;
-    driver->button_down(form, {15, 15}, LeftButton, shift_and_alt);
+    driver->button_down(form, {15, 15}, left_button, shift_and_alt);
     driver->move_mouse(form, {15, 160});
-    driver->button_up(form, {15, 110}, LeftButton, 0);
+    driver->button_up(form, {15, 110}, left_button, 0);
     EXPECT_EQ(take_calls(), (Calls{"Menu_MouseDown(1) 1 5 5,5", "Menu_MouseUp(1) 1 0 5,100"}))
         << "a release outside is no click";
     driver->move_mouse(form, {50, 180});
     EXPECT_EQ(take_calls(), Calls{"Column_MouseMove 0 0 50,180"});
-    driver->button_down(form, {50, 180}, LeftButton, 0);
+    driver->button_down(form, {50, 180}, left_button, 0);
     take_calls();
     driver->move_mouse(form, {150, 180});
     EXPECT_EQ(take_calls(), Calls{"Column_MouseMove 1 0 150,180"});
-    driver->button_up(form, {150, 180}, LeftButton, 0);
+    driver->button_up(form, {150, 180}, left_button, 0);
     EXPECT_EQ(take_calls(), Calls{});
 
-    driver->button_down(form, {15, 15}, LeftButton, 0);
-    driver->button_down(form, {15, 110}, RightButton, 0);
-    driver->button_up(form, {15, 110}, RightButton, 0);
-    driver->button_up(form, {15, 110}, LeftButton, 0);
+    driver->button_down(form, {15, 15}, left_button, 0);
+    driver->button_down(form, {15, 110}, right_button, 0);
+    driver->button_up(form, {15, 110}, right_button, 0);
+    driver->button_up(form, {15, 110}, left_button, 0);
     EXPECT_EQ(take_calls(), (Calls{"Menu_MouseDown(1) 1 0 5,5", "Menu_MouseDown(1) 2 0 5,100",
                                    "Menu_MouseUp(1) 2 0 5,100", "Menu_MouseUp(1) 1 0 5,100"}));
 }

@@ -48,7 +48,7 @@ void design(SampleForm& form)
     Designer put(form);
     put.place("Column", form.Column, {.Width = 100, .Height = 200, .Stored = Picture(plain_bitmap(100, 200, rgb(40, 40, 40), rgb(250, 120, 0)))});
     put.inside(form.Column);
-    put.place("Menu", form.Menu, [](int i) { return Label{.Caption = "Entry", .Left = 10, .Top = 10 + 40 * (i - 1), .Width = 60, .Height = 20, .ForeColor = White, .AutoSize = false, .MousePointer = MouseCursor::Hand, .TabStop = true}; });
+    put.place("Menu", form.Menu, [](int i) { return Label{.Caption = "Entry", .Left = 10, .Top = 10 + 40 * (i - 1), .Width = 60, .Height = 20, .ForeColor = white, .AutoSize = false, .MousePointer = MouseCursor::Hand, .TabStop = true}; });
     put.place("Bar", form.Bar, {.Top = 45, .Width = 100, .Height = 30});
     put.inside(form.Bar);
     put.place("Silent", form.Silent, {.Caption = "Quiet", .Left = 5, .Top = 5, .Width = 50, .Height = 20, .AutoSize = false});
