@@ -19,14 +19,14 @@ using namespace linux_platform;
 using namespace qt_platform;
 namespace {
 
-std::unique_ptr<Toolkit> toolkit;
+std::unique_ptr<Toolkit> qt_toolkit;
 
 /// The program in its window, with this machine's management service and settings in memory.
 class WindowProgram : public MemoryProgram {
 public:
     WindowProgram()
     {
-        platform.toolkit = ostrelum::toolkit.get();
+        platform.toolkit = qt_toolkit.get();
         platform.get_object = [](const std::string&) {
             return make_linux_management_service("/", qt_session_facts());
         };
@@ -107,10 +107,10 @@ BENCHMARK_CAPTURE(StepOfASlider, Transparency, F1.Scroll3, "Scroll3")
 int main(int argc, char** argv)
 {
     setenv("QT_QPA_PLATFORM", "offscreen", 0);
-    ostrelum::toolkit =
+    ostrelum::qt_toolkit =
         ostrelum::make_qt_toolkit(argc, argv, {.hand = {}, .hot_spot = {}, .desktop_entry = ""});
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
-    ostrelum::toolkit.reset();
+    ostrelum::qt_toolkit.reset();
     return 0;
 }
