@@ -6,8 +6,8 @@
 
 namespace ostrelum::inline figures {
 
-/// An object of the platform that may not have been had: any use of it then fails like a failed
-/// operation.
+/// An object of the platform. While none is bound, any use of it throws Failure, like an operation
+/// that fails.
 template <class Object>
 class Bound {
 public:

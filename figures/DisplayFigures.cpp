@@ -9,9 +9,8 @@ namespace {
 
 using Slot = DisplaySlot;
 
-/// A property that tells something: neither 0 nor empty. One that is null fails to be tested, and
-/// so counts as telling.
-bool tells(const Instance& item, const char* property)
+/// Whether a property is neither 0 nor empty. For a null the test fails, and so counts as held.
+bool is_set(const Instance& item, const char* property)
 {
     return holds([&] { return item[property].number() != 0 && !trimmed(item[property]).empty(); });
 }
@@ -25,8 +24,9 @@ void fill(std::string& into, const std::string& form, const char* mark,
 /// Each mark is filled by its own statement, so one that fails leaves what the one before it made.
 void read_mode(const Instance& item)
 {
-    if (!tells(item, "CurrentHorizontalResolution") || !tells(item, "CurrentVerticalResolution") ||
-        !tells(item, "CurrentBitsPerPixel") || !tells(item, "CurrentRefreshRate"))
+    if (!is_set(item, "CurrentHorizontalResolution") ||
+        !is_set(item, "CurrentVerticalResolution") || !is_set(item, "CurrentBitsPerPixel") ||
+        !is_set(item, "CurrentRefreshRate"))
         return;
     fill(TempStr, Trad[Text::DisplayMode], "(1)", [&] {
         return trimmed(item["CurrentHorizontalResolution"]) + " x " +

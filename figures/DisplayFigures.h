@@ -21,10 +21,10 @@ enum class DisplaySlot {
     DriverDate, ///< a datetime of the service
 };
 
-/// Asks for monitor and card and takes in the first of each. Num1 is the card's memory in MB.
+/// Asks for monitors and cards and reads the first of each. Num1 is the card's memory in MB.
 void read_display();
 
-/// How the refresh limits are told: the row's title, what explains the title, and the value.
+/// The row of the refresh limits: its title, the title's tooltip, and the value.
 struct RefreshLimits {
     Text title;
     Text explanation;

@@ -14,7 +14,7 @@ enum class FirmwareSlot {
     SerialNumber,
 };
 
-/// Asks for the firmware and takes in the first.
+/// Asks for the firmware and reads the first.
 void read_firmware();
 
 /// The release date; empty for an empty slot. Throws Failure where the slot holds no date.

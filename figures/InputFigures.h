@@ -16,14 +16,14 @@ enum class InputSlot {
     MouseHandedness, ///< a code
 };
 
-/// Asks for keyboard and pointing device and takes in the first of each.
+/// Asks for keyboards and pointing devices and reads the first of each.
 void read_input();
 
 /// The number of mouse buttons, from two on.
 std::string mouse_buttons();
 /// What the code of the interface stands for.
 std::string pointer_interface();
-/// The hand that the code stands for.
+/// Which hand the device is set for.
 std::string handedness();
 
 } // namespace ostrelum::inline figures

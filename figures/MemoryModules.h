@@ -14,8 +14,8 @@ enum class MemorySlot {
     FavouredUse, ///< LargeSystemCache; read_memory_modules leaves it empty
 };
 
-/// Asks for the modules and takes all of them in: type, form factor and width are those of the last
-/// module that tells them. Num1 is their total in KB.
+/// Asks for the modules and reads all of them: type, form factor and width are those of the last
+/// module that has them. Num1 is their total in KB.
 void read_memory_modules();
 
 /// Num1 as a size.
@@ -24,7 +24,7 @@ std::string total_memory();
 std::string modules_installed();
 /// The width with its unit.
 std::string memory_width();
-/// What the system favours.
+/// Whether the system favours applications or its cache.
 std::string favoured_use();
 
 } // namespace ostrelum::inline figures

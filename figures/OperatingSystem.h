@@ -25,8 +25,8 @@ enum class SystemSlot {
 enum class MemoryFigures { Total, TotalAndUsed };
 
 /// Asks for the operating system. Num1 is the virtual memory in MB; Num2 the part in use, if that
-/// is asked for, else 0. Where the service does not tell all of it, what it tells is taken in, and
-/// the result is false.
+/// is asked for, else 0. False if the query or a property failed; what could be read is
+/// there all the same.
 bool read_operating_system(MemoryFigures figures);
 
 /// Virtual memory in whole MB, from TotalVirtualMemorySize. Throws Failure without it.

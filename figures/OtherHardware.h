@@ -4,8 +4,8 @@
 
 namespace ostrelum::inline figures {
 
-/// The mainboard's full name as whoever installed the program left it with the settings. Throws
-/// Failure where nobody did.
+/// The mainboard's full name, which an installer may have stored with the settings. Throws Failure
+/// where none did.
 std::string mainboard_name();
 
 /// The slots of Datos that read_other_hardware fills.
@@ -22,7 +22,7 @@ enum class HardwareSlot {
     BatteryMinutes, ///< that it lasts
 };
 
-/// Takes in the mainboard, the first sound device and the first battery.
+/// Asks for the mainboard, sound devices and batteries and reads the first of each.
 void read_other_hardware();
 
 } // namespace ostrelum::inline figures

@@ -21,16 +21,17 @@ enum class ProcessorSlot {
 };
 
 /// Asks for the first processor. Num1 is its present and Num2 its greatest clock speed, in MHz.
-/// What the service does not tell stays empty or 0.
+/// What could not be read stays empty or 0.
 void read_processor();
 
-/// How the clock speed is told: the row's title, none where nothing is known, and the value.
+/// The row of the clock speed: its title, none where nothing is known, and the value.
 struct ClockFigure {
     std::optional<Text> title;
     std::string text;
 };
 
-/// Num1 of Num2, or Num2 alone where the processor runs at full speed or does not tell.
+/// Num1 of Num2, or Num2 alone where the processor runs at full speed or its present speed is
+/// unknown.
 ClockFigure clock_figure();
 
 /// The number of logical processors, from 1 on.

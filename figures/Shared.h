@@ -69,10 +69,10 @@ struct SharedState {
     std::int32_t Transparency = 0;
     /// The window may be transparent, and fades in and out.
     bool TransEnabled = false;
-    /// preferred_fonts, else 0.
+    /// preferred_fonts where they are installed, else 0.
     std::uint8_t FontsOk = 0;
 
-    /// What the last GetOstrelum told.
+    /// What the last GetOstrelum returned.
     SystemInfo SysInfo;
 };
 

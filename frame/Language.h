@@ -10,7 +10,7 @@ void LangEnglish();
 void LangSpanish();
 void LangDutch();
 
-/// Fills Trad by the routine of a language: "English", "Spanish" or "Dutch". False for any other
+/// Fills Trad with the texts of a language: "English", "Spanish" or "Dutch". False for any other
 /// name, which changes nothing.
 bool fill_string_table(const std::string& language);
 

@@ -10,7 +10,7 @@ namespace ostrelum::inline frame {
 inline constexpr int fade_step = 9;
 
 /// Makes a window see-through by a percentage: 0 is opaque, 100 invisible; what lies outside is
-/// held to these.
+/// clamped.
 void SetOpacity(Form& form, std::int16_t percent);
 
 } // namespace ostrelum::inline frame

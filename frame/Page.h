@@ -12,7 +12,7 @@
 namespace ostrelum::inline frame {
 
 /// What each collector begins with: unless its page is already the one on show, the status line
-/// tells that the page is being filled, F1.Seccion takes the section and Line2 is hidden.
+/// says that the page is being filled, F1.Seccion takes the section and Line2 is hidden.
 void enter_section(std::uint8_t section);
 
 /// The same for a page that is filled anew, also when it is the one on show.

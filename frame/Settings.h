@@ -12,8 +12,8 @@ void read_shine();
 void read_transparency_switch();
 void read_transparency();
 
-/// Position of the colour slider, 0 to 210. It is no part of the start: a store has it once the
-/// customise panel has been opened.
+/// Position of the colour slider, 0 to 210. It is not read at start: the store gets it when the
+/// customise panel first opens.
 std::int32_t read_hue();
 
 /// Writes what differs from how it stood when the customise panel opened.

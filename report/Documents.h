@@ -6,7 +6,7 @@
 
 /// The four file formats of a report. The body is written once, in a small markup of its own; a
 /// document is a head, the body with its seven markers expanded, and a foot. Nothing in the body is
-/// escaped.
+/// escaped: what a value holds goes into each format as it is.
 namespace ostrelum::inline report {
 
 /// What heads and feet take from the program.

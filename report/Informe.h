@@ -6,7 +6,7 @@
 /// The pipeline of a report: heads, twelve stages, feet.
 namespace ostrelum::inline report {
 
-/// Tick of the clock at which the report began, in milliseconds.
+/// The clock's milliseconds when the report began.
 inline std::uint32_t ReportStart = 0;
 
 /// Makes the four documents, one stage after the other, and returns when they are finished.

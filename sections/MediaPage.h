@@ -11,12 +11,11 @@
 /// one with a large notice, and an alert at its foot on both.
 namespace ostrelum::inline sections {
 
-/// Greys and greens of the alert: nothing was found, or something was.
+/// Colours of the alert's text.
 inline constexpr Colour nothing_found = rgb(75, 75, 75);
 inline constexpr Colour media_found = rgb(0, 145, 0);
 
-/// Empties the page's rows 1 to 8 and shows a text over them, at a top and with
-/// a height in pixels.
+/// Empties the page's rows 1 to 8 and shows a text over them, at a top and with a height in pixels.
 void show_notice(Text key, int top, int height);
 
 /// Writes the text at the foot of the page and shows it with its picture.

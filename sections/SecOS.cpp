@@ -7,8 +7,8 @@
 namespace ostrelum::inline sections {
 namespace {
 
-/// Version and service pack have a text for a service that knows no system; where it fails to tell
-/// them, they are unknown like all else.
+/// Where the service answers, but knows no system, the version stays empty and there is no service
+/// pack; where the query or a property fails, what is empty is unknown.
 void set_version_rows(bool all_told)
 {
     set_title(2, Trad[Text::VersionAndBuild] + " ");

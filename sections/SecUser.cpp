@@ -7,7 +7,7 @@
 namespace ostrelum::inline sections {
 namespace {
 
-/// Whose account it is stands under the rows on every visit.
+/// The note under the rows says whose account this is.
 void show_notice()
 {
     place_line(F1.Line1, 11, 7);

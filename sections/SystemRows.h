@@ -5,8 +5,7 @@
 /// The rows about the running system that are written anew while their page is open.
 namespace ostrelum::inline sections {
 
-/// Time since the start of the system, for row 9 of the user's page; empty when the clock does not
-/// tell it any more.
+/// Time since the start of the system, for row 9 of the user's page; empty from 29 days on.
 std::string usage_time();
 
 /// Writes row 11 of the system's page from the total Num1 and the part in use Num2, both in MB: the

@@ -2,6 +2,7 @@
 
 #include "platform/system/AnsiCodePage.h"
 #include "platform/system/Browser.h"
+#include "platform/system/Bytes.h"
 #include "platform/system/Clipboard.h"
 #include "platform/system/Clock.h"
 #include "platform/system/FileWriter.h"
@@ -56,7 +57,7 @@ public:
     void RegCloseKey(Key key) override;
 
     /// Binary values by key path and name.
-    std::map<std::pair<std::string, std::string>, std::vector<std::uint8_t>> values;
+    std::map<std::pair<std::string, std::string>, Bytes> values;
     /// Keys that are open now.
     std::map<Key, std::string> open;
 
