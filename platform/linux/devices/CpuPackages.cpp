@@ -78,7 +78,8 @@ std::vector<std::uint64_t> numbers_of_list(std::string_view list)
         const auto hyphen = piece.find('-');
         const auto first = whole_number(piece.substr(0, hyphen));
         const auto last = hyphen == piece.npos ? first : whole_number(piece.substr(hyphen + 1));
-        if (!first || !last || *last < *first || *last >= most_cpus)
+        if (!first || !last || *last < *first || *last >= most_cpus ||
+            numbers.size() + (*last - *first) >= most_cpus)
             return {};
         for (std::uint64_t number = *first; number <= *last; ++number)
             numbers.push_back(number);

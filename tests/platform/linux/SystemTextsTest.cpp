@@ -117,7 +117,7 @@ TEST(Processes, KernelThreadsAreToldByTheirFlags)
 TEST(CpuTexts, ListsClocksAndNames)
 {
     EXPECT_EQ(numbers_of_list("0-2,5"), (std::vector<std::uint64_t>{0, 1, 2, 5}));
-    for (const char* none : {"", "3-1", "0-99999999", "x", "1,,2"})
+    for (const char* none : {"", "3-1", "0-99999999", "0-65535,0-65535", "x", "1,,2"})
         EXPECT_TRUE(numbers_of_list(none).empty()) << none;
     EXPECT_EQ(megahertz_in_name("Intel(R) Core(TM) i5 CPU M 560 @ 2.67GHz"), 2670U);
     for (const char* none : {"AMD Ryzen", "x @ GHz", "GHz @ 2", "x @ 1e9GHz", "x @ -1GHz"})
