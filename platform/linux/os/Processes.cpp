@@ -30,7 +30,7 @@ std::optional<bool> is_kernel_thread(std::string_view stat)
 
 std::optional<std::uint32_t> process_count(const Sysroot& root)
 {
-    // Who may not see the first process sees only his own.
+    // A user who may not see the first process sees only his own processes.
     if (!root.exists("/proc/1/stat"))
         return std::nullopt;
     std::uint32_t count = 0;

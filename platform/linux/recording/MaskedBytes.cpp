@@ -22,7 +22,7 @@ constexpr KeptTexts kept_texts[] = {
     {4, {0x04, 0x07, 0x10}}, {17, {0x10, 0x17, 0x1A}},
 };
 
-/// Nothing for a structure that is blotted out.
+/// Nothing for a structure that is blanked.
 const KeptTexts* kept_of(const SmbiosStructure& structure)
 {
     const auto row = std::ranges::find(kept_texts, structure.type(), &KeptTexts::type);

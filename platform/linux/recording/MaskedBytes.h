@@ -6,8 +6,8 @@
 namespace ostrelum::linux_platform {
 
 /// The structures of the firmware, the machine, the board, processors and memory modules
-/// (DSP0134, Smbios.h), with the texts that name makers, models and sockets; all else is blotted
-/// out.
+/// (DSP0134, Smbios.h), with the texts that name makers, models and sockets; all else is
+/// blanked.
 std::string masked_firmware_table(const std::string& table);
 
 /// The data of a monitor (Edid.h) without its serial numbers. Of a DisplayID extension its modes

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-/// What a file of a machine says, without what identifies. Each function takes the whole file as
-/// the machine has it. Of a file that holds more than the program reads, only that is left.
+/// The content of a machine's files without what identifies anybody. Each function takes the whole
+/// file as the machine has it. Of a file that holds more than the program reads, only that is left.
 namespace ostrelum::linux_platform {
 
 /// The pseudonyms that one machine has been given.

@@ -25,8 +25,8 @@ fs::path named(const std::string& folder)
     return path.has_filename() ? path : path.parent_path();
 }
 
-/// A folder beside the one that is wanted. It goes with all that is in it, unless it has become
-/// that one.
+/// A temporary folder beside the wanted one. It is removed with its content, unless it has been
+/// renamed to the wanted one.
 class PartFolder {
 public:
     explicit PartFolder(const fs::path& wanted)

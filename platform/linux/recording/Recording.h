@@ -7,10 +7,10 @@
 
 namespace ostrelum::linux_platform {
 
-/// What a recording holds of a place of the machine. The last one in this order counts where
-/// accesses differ.
+/// What a recording holds of a place of the machine. Where accesses differ, the last one in this
+/// order counts.
 enum class PlaceKind {
-    /// There, but nobody asked for more.
+    /// There, but only its name was asked for.
     Name,
     /// There, but it could not be read.
     Unreadable,
@@ -27,7 +27,7 @@ struct Place {
     std::string asked;
 };
 
-/// A machine on its way into a folder.
+/// All that a recording holds, before it is written to a folder.
 struct Recording {
     /// By path, which leads over no link.
     std::map<std::string, Place> places;
@@ -41,8 +41,8 @@ struct Recording {
 void check_unused(const std::string& folder);
 
 /// Writes the machine into a folder that is empty or not there, and that only its owner can then
-/// read: whole, or not at all. What could not be read becomes an empty folder, and what is but a
-/// name an empty file. Throws Failure if that does not succeed.
+/// read: whole, or not at all. What could not be read becomes an empty folder, and what is only
+/// a name an empty file. Throws Failure if that does not succeed.
 void write_recording(const Recording& recording, const std::string& folder);
 
 } // namespace ostrelum::linux_platform

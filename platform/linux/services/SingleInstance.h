@@ -14,7 +14,7 @@ public:
     explicit SingleInstance(const Environment& environment, const std::string& shared = "/tmp");
 
     /// True if another process holds the lock. From the first call that returns false this object
-    /// holds it. A lock that cannot be made at all hinders nobody: false.
+    /// holds it. Where no lock can be made at all, the program starts: false.
     bool another_runs();
 
 private:
