@@ -59,7 +59,7 @@ void open_address(std::string_view address)
 
 void Informacion_Click()
 {
-    open_panel(about_panel);
+    open_panel(AboutPanel);
     show_title();
     set_info(F1.LTInfo1, F1.LInfo1, Trad[Text::Version], version_text());
     set_info(F1.LTInfo2, F1.LInfo2, Trad[Text::Programmer], std::string(author));

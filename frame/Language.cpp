@@ -99,7 +99,7 @@ void list_languages(const std::string& language)
 
 void TraduPrincipal()
 {
-    if (F1.Seccion == customise_panel)
+    if (F1.Seccion == CustomisePanel)
         translate_customise_panel();
     translate_options_menu();
     for (int n = 1; n <= F1.LMenu.count; ++n) {

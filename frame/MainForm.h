@@ -7,11 +7,26 @@
 
 namespace ostrelum::inline frame {
 
-/// The sections count from 1.
-inline constexpr int section_count = 13;
-/// Values of MainForm::Seccion besides the sections.
-inline constexpr std::uint8_t customise_panel = 90;
-inline constexpr std::uint8_t about_panel = 91;
+/// Values of MainForm::Seccion: the sections in the order of the left column, and the panels.
+enum PageNumber : std::uint8_t {
+    SummaryPage = 1,
+    UserPage,
+    ComputerPage,
+    SystemPage,
+    ProcessorPage,
+    MemoryPage,
+    DrivesPage,
+    FirmwarePage,
+    DisplayPage,
+    InputPage,
+    RemovablePage,
+    DiscsPage,
+    HardwarePage,
+    CustomisePanel = 90,
+    AboutPanel = 91,
+};
+
+inline constexpr int section_count = HardwarePage;
 
 /// The main window. The names are those of the design table in MainForm.cpp.
 class MainForm : public Form {
@@ -87,7 +102,7 @@ public:
     Timer TUnload;
     Timer TAlphaB;
 
-    /// Page on show: a section, customise_panel or about_panel; 0 until the first section has run.
+    /// Page on show, a PageNumber; 0 until the first section has run.
     std::uint8_t Seccion = 0;
     /// Section to go back to when a panel closes.
     std::uint8_t SeccionPrev = 0;

@@ -8,7 +8,7 @@ namespace ostrelum::inline frame {
 /// it do nothing. An index outside 1 to 13 collects nothing, but ends as any opening does.
 void LMenu_MouseDown(int index, int button, int shift, int x, int y);
 
-/// Lays a panel, customise_panel or about_panel, over the page: nothing refreshes it any more, the
+/// Lays a panel, CustomisePanel or AboutPanel, over the page: nothing refreshes it any more, the
 /// navigation is locked, the page emptied, and its picture crosses over to the panel's.
 void open_panel(std::uint8_t panel);
 

@@ -6,7 +6,7 @@ namespace ostrelum::inline sections {
 
 void SecBIOS()
 {
-    enter_section(8);
+    enter_section(FirmwarePage);
     read_firmware();
 
     show_title();

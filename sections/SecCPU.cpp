@@ -18,7 +18,7 @@ void set_speed_row()
 
 void SecCPU()
 {
-    enter_section(5);
+    enter_section(ProcessorPage);
     read_processor();
 
     show_title();

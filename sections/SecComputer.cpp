@@ -7,7 +7,7 @@ namespace ostrelum::inline sections {
 
 void SecComputer()
 {
-    enter_section(3);
+    enter_section(ComputerPage);
     read_computer();
 
     show_title();

@@ -8,7 +8,7 @@ namespace ostrelum::inline sections {
 
 void SecDisks()
 {
-    enter_section(7);
+    enter_section(DrivesPage);
     hide(F1.LNoDrive, F1.Iaviso, F1.Laviso);
     read_hard_drives();
 

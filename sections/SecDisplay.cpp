@@ -16,7 +16,7 @@ void set_refresh_row()
 
 void SecDisplay()
 {
-    enter_section(9);
+    enter_section(DisplayPage);
     read_display();
 
     show_title();

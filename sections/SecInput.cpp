@@ -6,7 +6,7 @@ namespace ostrelum::inline sections {
 
 void SecInput()
 {
-    enter_section(10);
+    enter_section(InputPage);
     read_input();
 
     show_title();

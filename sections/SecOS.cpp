@@ -24,9 +24,9 @@ void set_version_rows(bool all_told)
 
 void SecOS()
 {
-    if (F1.Seccion != 4)
+    if (F1.Seccion != SystemPage)
         F1.Line1.Visible = false;
-    enter_section(4);
+    enter_section(SystemPage);
     hide(F1.LNoDrive, F1.Iaviso, F1.Laviso);
     const bool all_told = read_operating_system(MemoryFigures::TotalAndUsed);
 

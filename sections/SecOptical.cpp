@@ -21,7 +21,7 @@ enum class DiscSlot {
 /// Whether the page is open with discs on it: it is then drawn again from what it holds.
 bool values_are_kept()
 {
-    return F1.Seccion == 12 && !DatosCD[DiscSlot::Names].empty() &&
+    return F1.Seccion == DiscsPage && !DatosCD[DiscSlot::Names].empty() &&
            !DatosCD[DiscSlot::Letters].empty() && !DatosCD[DiscSlot::InternalNames].empty();
 }
 
@@ -67,7 +67,7 @@ void read_loaded_drives()
 
 void collect()
 {
-    announce_section(12);
+    announce_section(DiscsPage);
     DatosCD = {};
     DatosCD[DiscSlot::Capacities] = "(";
     F1.EmptyDrives = F1.MediaCount = 0;

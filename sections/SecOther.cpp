@@ -16,7 +16,7 @@ void leave_out(int row, Line& line)
 
 void SecOther()
 {
-    enter_section(13);
+    enter_section(HardwarePage);
     read_other_hardware();
 
     show_title();

@@ -21,9 +21,9 @@ void read_use_of_memory()
 
 void SecRAM()
 {
-    if (F1.Seccion != 6)
+    if (F1.Seccion != MemoryPage)
         F1.Line1.Visible = false;
-    enter_section(6);
+    enter_section(MemoryPage);
     hide(F1.LNoDrive, F1.Iaviso, F1.Laviso);
 
     read_memory_modules();

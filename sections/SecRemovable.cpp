@@ -94,7 +94,7 @@ void show_drives()
 
 void SecRemovable()
 {
-    enter_section(11);
+    enter_section(RemovablePage);
     begin_lists();
     Num1 = Num2 = 0;
 

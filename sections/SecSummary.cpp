@@ -112,9 +112,9 @@ void show_mainboard()
 
 void SecSummary()
 {
-    if (F1.Seccion != 1)
+    if (F1.Seccion != SummaryPage)
         hide(F1.LNoDrive, F1.Iaviso, F1.Laviso, F1.Line1);
-    enter_section(1);
+    enter_section(SummaryPage);
     show_title();
 
     set_heading(1, Trad[Text::MainFeatures]);

@@ -21,7 +21,7 @@ void show_notice()
 
 void SecUser()
 {
-    enter_section(2);
+    enter_section(UserPage);
     read_account();
 
     show_title();

@@ -81,7 +81,7 @@ void show_transparency()
 void Personalizar_Click()
 {
     F1.PanelReady = false;
-    open_panel(customise_panel);
+    open_panel(CustomisePanel);
     F1.LangAtOpen = Idioma;
     list_languages(F1.LangAtOpen);
     show_colour();
@@ -156,7 +156,7 @@ void BAceptar_Click()
 {
     F1.BAceptar.Visible = false;
     F1.PanelOpen = false;
-    if (F1.Seccion == customise_panel)
+    if (F1.Seccion == CustomisePanel)
         close_customise_panel();
     else
         F1.PicInformacion.Visible = false;

@@ -39,7 +39,7 @@ TEST_F(AboutPanelOpen, TellsOfTheProgramInTheRunsLanguageAndOfTheDutchTranslator
 TEST_F(AboutPanelOpen, LocksTheNavigationAndEndsInThePageItCoveredWithoutWriting)
 {
     open("English");
-    EXPECT_EQ(F1.Seccion, about_panel);
+    EXPECT_EQ(F1.Seccion, AboutPanel);
     EXPECT_FALSE(F1.PanelReady || F1.Timer1.Enabled);
     press("LMenu", 8);
     EXPECT_TRUE(F1.PicInformacion.Visible && F1.BAceptar.Visible);

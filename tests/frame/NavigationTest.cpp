@@ -75,9 +75,9 @@ TEST_F(Navigation, RightClickBesideTheRowsOffersCopyAllOnly)
     const struct {
         std::uint8_t section, media;
         bool menu;
-    } cases[] = {{8, 0, true},           {11, 0, false}, {11, 1, true},
-                 {12, 0, false},         {12, 2, true},  {customise_panel, 1, false},
-                 {about_panel, 1, false}};
+    } cases[] = {{8, 0, true},          {11, 0, false}, {11, 1, true},
+                 {12, 0, false},        {12, 2, true},  {CustomisePanel, 1, false},
+                 {AboutPanel, 1, false}};
     for (const auto& c : cases) {
         F1.Seccion = c.section;
         F1.MediaCount = c.media;

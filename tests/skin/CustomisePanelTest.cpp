@@ -202,7 +202,7 @@ TEST_F(CustomisePanelOpen, LocksWhatLiesAroundItUntilItCloses)
     press("LT", 3, right_button);
     F1.raise("LOpc", {.kind = EventKind::MouseUp, .button = left_button});
     F1.raise("S", {.kind = EventKind::MouseMove, .index = 1, .x = 10, .y = 60});
-    EXPECT_EQ(F1.Seccion, customise_panel);
+    EXPECT_EQ(F1.Seccion, CustomisePanel);
     EXPECT_TRUE(toolkit.popups.empty());
     EXPECT_FALSE(F1.LMenu(8).TabStop || F1.LOpc.TabStop);
     EXPECT_TRUE(F1.LMenu(13).ForeColor == rgb(215, 215, 215) &&

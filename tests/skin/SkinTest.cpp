@@ -126,8 +126,8 @@ TEST_F(Skin, PagesChooseTheirPictures)
                  {12, 0, &F6->Sec12b, &F6->Alerta},
                  {12, 1, &F6->Sec12a, &F6->Ok},
                  {3, 1, &F6->Sec3, nullptr},
-                 {customise_panel, 0, &F6->IOpc, nullptr},
-                 {about_panel, 0, &F6->IAC, nullptr}};
+                 {CustomisePanel, 0, &F6->IOpc, nullptr},
+                 {AboutPanel, 0, &F6->IAC, nullptr}};
     for (const auto& c : cases) {
         F1.Seccion = c.section;
         F1.MediaCount = c.media;
