@@ -109,12 +109,17 @@ public:
     std::optional<Point> menu_place(const Form&) const override { return toolkit_.menu->at; }
     MouseCursor screen_cursor() const override { return toolkit_.cursors.back(); }
 
-    void let_time_pass(int milliseconds) override { toolkit_.advance(milliseconds); }
+    int now() const override { return now_; }
+    void let_time_pass(int milliseconds) override
+    {
+        now_ += milliseconds;
+        toolkit_.advance(milliseconds);
+    }
     void stay_busy(int milliseconds) override { toolkit_.stay_busy(milliseconds); }
     bool wait_for(const std::function<bool()>& condition) override
     {
         for (int passed = 0; passed < 5000 && !condition(); ++passed)
-            toolkit_.advance(1);
+            let_time_pass(1);
         return condition();
     }
     void show_modal(Form& form) override
@@ -128,6 +133,7 @@ private:
 
     MemoryToolkit toolkit_;
     int held_ = 0;
+    int now_ = 0;
 };
 
 /// Of the copies that are on show, not of the form's own data.

@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
@@ -105,6 +106,7 @@ QMenu* open_menu()
 
 class QtDriver : public Driver {
 public:
+    QtDriver() { clock_.start(); }
     ~QtDriver() override { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
     Toolkit& toolkit() override { return qt_toolkit(); }
 
@@ -170,6 +172,7 @@ public:
         return cursor ? ours(cursors, cursor->shape()) : MouseCursor::Default;
     }
 
+    int now() const override { return static_cast<int>(clock_.elapsed()); }
     void let_time_pass(int milliseconds) override { QTest::qWait(milliseconds); }
     void stay_busy(int milliseconds) override { QTest::qSleep(milliseconds); }
     bool wait_for(const std::function<bool()>& condition) override
@@ -189,6 +192,8 @@ private:
         }
         return form_itself;
     }
+
+    QElapsedTimer clock_;
 };
 
 Look QtDriver::look(const Form& form, int control) const

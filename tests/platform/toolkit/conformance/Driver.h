@@ -76,6 +76,8 @@ public:
     virtual std::optional<Point> menu_place(const Form& form) const = 0;
     virtual MouseCursor screen_cursor() const = 0;
 
+    /// Milliseconds on a clock that never goes back.
+    virtual int now() const = 0;
     virtual void let_time_pass(int milliseconds) = 0;
     /// Time passes while the program lets no events in.
     virtual void stay_busy(int milliseconds) = 0;
