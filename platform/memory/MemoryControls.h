@@ -8,7 +8,7 @@
 
 namespace ostrelum::memory_platform {
 
-/// A control of a window in memory: what it shows, and what it does with the user's hands.
+/// A control of a window in memory: what it shows, and what it does with the user's input.
 class MemoryControl {
 public:
     MemoryControl() = default;
@@ -21,8 +21,8 @@ public:
     virtual Control on_show() const = 0;
     /// A key, while the control has the focus. False if it means nothing to the control.
     virtual bool key(Key) { return false; }
-    /// The left button is the control's own affair, and a click() where it goes down and up; what
-    /// the other buttons do goes to what holds the control.
+    /// Whether the control handles the left mouse button itself, by click(). The other buttons are
+    /// then for what holds the control.
     virtual bool is_input() const { return false; }
     virtual void click() {}
     /// The slider is dragged to a value; nothing on other controls.

@@ -20,11 +20,11 @@
 #include <utility>
 #include <vector>
 
-/// The services of the system in memory: what a test sets is what the program is told, and what the
+/// The services of the system in memory: what a test sets is what the program reads, and what the
 /// program does can be read back.
 namespace ostrelum::memory_platform {
 
-/// Thrown by MemorySystemApi::End: nothing of the program runs behind it, as with a process that
+/// Thrown by MemorySystemApi::End: nothing of the program runs after it, as with a process that
 /// ends.
 struct ProcessEnded {};
 

@@ -10,7 +10,7 @@
 namespace ostrelum::memory_platform {
 
 /// A window toolkit without a screen: it measures text with fixed widths and lets the caller move
-/// the clock and the user's hands. Tests and the console stand on it.
+/// the clock, the mouse and the keys. Tests and the console stand on it.
 class MemoryToolkit : public Toolkit {
 public:
     /// Width of every character and height of every line, in pixels.

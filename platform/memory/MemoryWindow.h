@@ -7,7 +7,7 @@
 
 namespace ostrelum::memory_platform {
 
-/// A form's window in memory: what it shows, and the user's hands on it. Points are those of the
+/// A form's window in memory: what it shows, and the user's input. Points are those of the
 /// client area.
 class MemoryWindow : private FocusView {
 public:

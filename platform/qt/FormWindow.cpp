@@ -158,7 +158,8 @@ void FormWindow::contextMenuEvent(QContextMenuEvent* event)
     event->accept();
 }
 
-/// Comes for Tab and Shift+Tab, and for a control that goes with the focus, which sync() moves.
+/// Called for Tab and Shift+Tab, and where a control with the focus is hidden: there sync() moves
+/// the focus.
 bool FormWindow::focusNextPrevChild(bool next)
 {
     return events_.syncing() || keyboard_.key(Key::Tab, next ? 0 : 1, false);

@@ -27,7 +27,7 @@ public:
     void sync();
     /// Brings the window up in the centre of the screen.
     void bring_up();
-    /// Takes the window away for good: nothing comes from it any more.
+    /// Closes the window for good: it raises no event any more.
     void close_down();
     /// Runs at the end of close_down().
     std::function<void()> gone;

@@ -4,7 +4,7 @@
 
 namespace ostrelum::qt_platform {
 
-/// A line's widget; the mouse goes through it.
+/// A line's widget; it lets the mouse through.
 class LineWidget : public QWidget {
 public:
     explicit LineWidget(QWidget* parent);

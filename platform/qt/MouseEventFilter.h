@@ -6,7 +6,7 @@
 
 namespace ostrelum::qt_platform {
 
-/// Hands on what the mouse does on a widget, and shows its tooltip.
+/// Passes what the mouse does on a widget to MouseInput, and shows its tooltip.
 class MouseEventFilter : public QObject {
 public:
     /// `place` is the widget's control, or the form itself for its window.

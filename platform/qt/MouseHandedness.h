@@ -12,8 +12,8 @@ std::optional<bool> left_handed();
 /// for each device, or by first and third button of the core pointer in each other's place.
 std::optional<bool> left_handed_on_x11(const char* display);
 
-/// Under Wayland the desktop alone knows: by the names in XDG_CURRENT_DESKTOP the settings of GNOME
-/// and its kin (GSettings) or of KDE (kcminputrc).
+/// Under Wayland only the desktop's settings tell: by the names in XDG_CURRENT_DESKTOP the settings
+/// of GNOME and its kin (GSettings) or of KDE (kcminputrc).
 std::optional<bool> left_handed_by_settings();
 
 } // namespace ostrelum::qt_platform

@@ -18,7 +18,7 @@ public:
 
     /// Shows what the control says.
     virtual void sync() = 0;
-    /// The window goes: nothing is to come of its own accord any more.
+    /// The window closes: nothing may raise an event by itself any more, as a timer does.
     virtual void stop() {}
 };
 

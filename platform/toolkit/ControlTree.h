@@ -4,7 +4,7 @@
 
 #include <optional>
 
-/// Where the controls of a form are. A control goes by its place in Form::controls.
+/// Where the controls of a form are. A control is named by its place in Form::controls.
 namespace ostrelum::inline toolkit {
 
 /// The form itself, where a place in Form::controls is asked for.

@@ -44,7 +44,7 @@ public:
         if (open_)
             dispatcher_.raise(form_, control, event);
     }
-    /// The window goes.
+    /// The window closes: no further event of it is raised.
     void close() { open_ = false; }
     bool syncing() const { return dispatcher_.syncing(); }
     const Form& form() const { return form_; }

@@ -36,7 +36,7 @@ int next_by_tab(const Form& form, int from, bool forward);
 /// itself where there is no such control.
 int next_by_arrow(const Form& form, int from, Key key);
 
-/// Where the focus goes when the program changed the form: from a control that is hidden it falls
+/// Where the focus moves when the program changed the form: from a control that is hidden it falls
 /// back to the form itself, from one that is disabled to the next.
 int focus_after_change(const Form& form, int focused);
 

@@ -3,7 +3,7 @@
 #include "platform/toolkit/ControlBinding.h"
 
 /// The controls of which the user changes the value: it stands in the data before the event is
-/// raised. What the toolkit reports during a walk is the program's own change and raises nothing.
+/// raised. What a widget reports while sync() runs is the program's own change and raises nothing.
 namespace ostrelum::inline toolkit {
 
 class ScrollBarBinding : public BindingOf<ScrollBar> {

@@ -21,8 +21,8 @@ inline constexpr std::int32_t layered_style = 0x80000;
 /// The window's opacity is its alpha; the colour key is unused.
 inline constexpr std::uint32_t alpha_flag = 2;
 
-/// The window toolkit. After each event that it raises it shows what the event
-/// changed in the form's data; in the middle of an event only Refresh does.
+/// The window toolkit. After each event that it raises it shows what the event changed in the
+/// form's data; in the middle of an event only Refresh does.
 class Toolkit {
 public:
     virtual ~Toolkit() = default;
@@ -64,7 +64,7 @@ public:
     virtual void prepare_end() = 0;
 };
 
-/// Asks a form to close: its Form_Unload may refuse, else its window goes. True if it went.
+/// Asks a form to close: hides it unless its Form_Unload refuses. True if it was hidden.
 bool Unload(Toolkit& toolkit, Form& form);
 
 /// A label with its text on one line may be as large as its text.

@@ -6,8 +6,8 @@
 
 namespace ostrelum::inline toolkit {
 
-/// Style and opacity of each form. They may be set before the form's window is there, and go with
-/// it.
+/// Style and opacity of each form. They may be set before the form's window exists, and are
+/// forgotten when it closes.
 class WindowStyles {
 public:
     /// Alpha of a window that nothing shows through.
@@ -18,7 +18,7 @@ public:
     /// False for a window that is not layered: it has no alpha to set.
     bool set_alpha(const Form& form, std::uint8_t alpha, std::uint32_t flags);
     std::uint8_t alpha(const Form& form) const;
-    /// The form's window goes.
+    /// The form's window closes.
     void forget(const Form& form) { styles_.erase(&form); }
 
 private:
