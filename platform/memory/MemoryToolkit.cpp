@@ -87,6 +87,7 @@ void MemoryToolkit::popup(Form& form, PopupMenu& popped, std::optional<Point> at
     if (const auto window = window_of(form)) {
         const auto keyboard = std::exchange(window->events().menu_point, std::nullopt);
         at = at ? at : keyboard;
+        window->let_go_of_mouse();
     }
     menu = {&popped, at, bold, &form};
     popups.push_back(*menu);

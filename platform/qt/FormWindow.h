@@ -21,6 +21,8 @@ public:
                std::function<void()> asked_to_close);
 
     WindowEvents& events() { return events_; }
+    /// A menu comes up, which takes the mouse.
+    void let_go_of_mouse() { mouse_.let_go(); }
     /// The widget of the control at a place of the form; nullptr for what has none.
     QWidget* widget(int place) const;
     /// Shows what differs.

@@ -44,6 +44,7 @@ void pop_up(FormWindow& window, const PopupMenu& menu, QPoint at, const MenuItem
             [&events, place] { events.raise(place, {.kind = EventKind::Click}); },
             Qt::QueuedConnection);
     }
+    window.let_go_of_mouse();
     shown->popup(at);
 }
 

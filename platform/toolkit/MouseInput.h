@@ -22,6 +22,8 @@ public:
     void button_down(int control, int button, int shift, Point at);
     /// A release over the same control is a click, if the button is the left one.
     void button_up(int button, int shift, Point at);
+    /// Something else took the mouse while a button was down: a menu, which gets the release.
+    void let_go() { held_ = 0; }
     /// `buttons` are those that are down, added up.
     void moved(int control, int buttons, int shift, Point at);
     /// A press and a release in the middle of a control, from the keyboard or a screen reader. True

@@ -48,5 +48,17 @@ TEST_P(Conformance, AMenuRaisesTheChoiceAfterItHasGone)
     }
 }
 
+TEST_P(Conformance, AMenuTakesTheReleaseOfTheButtonThatBroughtItUp)
+{
+    acts["Column_MouseDown"] = [&] { toolkit.popup(form, form.Pops, Point{20, 30}, nullptr); };
+    driver->button_down(form, {90, 190}, right_button, 0);
+    driver->button_up(form, {90, 190}, right_button, 0);
+    driver->choose(form, nullptr);
+    take_calls();
+    EXPECT_EQ(press({15, 16}),
+              (Calls{"Menu_MouseDown(1) 1 0 5,6", "Menu_MouseUp(1) 1 0 5,6", "Menu_Click(1)"}))
+        << "the column does not hold the mouse any more";
+}
+
 } // namespace
 } // namespace ostrelum::conformance
