@@ -125,13 +125,12 @@ TEST_F(Rows, ChooseTheirTitlesByTheirValues)
     expect(titles_and_values, shown_row);
     EXPECT_EQ(F1.LT(3).ToolTipText, Trad[Text::CurrentConfigurationHint]);
     EXPECT_EQ(F1.LT(4).ToolTipText, Trad[Text::RefreshRateRangeHint]);
-    const std::tuple<Value, Value, Text> halves[] = {{Value(), 75, Text::MaximumRefreshRateHint},
-                                                     {56, Value(), Text::MinimumRefreshRateHint}};
-    for (const auto& [minimum, maximum, hint] : halves) {
-        change(has["Win32_VideoController"],
-               {{"MinRefreshRate", minimum}, {"MaxRefreshRate", maximum}});
+    for (const bool least : {false, true}) {
+        change(has["Win32_VideoController"], {{"MinRefreshRate", least ? Value(56) : Value()},
+                                              {"MaxRefreshRate", least ? Value() : Value(75)}});
         open(9);
-        EXPECT_EQ(F1.LT(4).ToolTipText, Trad[hint]);
+        EXPECT_EQ(F1.LT(4).ToolTipText,
+                  Trad[least ? Text::MinimumRefreshRateHint : Text::MaximumRefreshRateHint]);
     }
 }
 
