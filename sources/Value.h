@@ -14,7 +14,7 @@ namespace ostrelum::inline sources {
 class Value {
 public:
     Value() = default;
-    Value(bool boolean) : held_(boolean) {}
+    Value(bool flag) : held_(flag) {}
     template <std::integral Whole>
     requires(!std::same_as<Whole, bool>) Value(Whole whole)
         : held_(static_cast<std::int64_t>(whole))
