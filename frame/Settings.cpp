@@ -28,11 +28,13 @@ std::string read_text(std::string_view name)
     return text;
 }
 
-/// The stored number of a setting if it lies in the setting's range.
-std::optional<double> read_number(const NumberSetting& setting)
+/// The stored number of a setting if it lies in the setting's range. `prepare` changes it before it
+/// is held against that.
+std::optional<double> read_number(
+    const NumberSetting& setting, double (*prepare)(double) = [](double number) { return number; })
 {
     std::optional<double> number;
-    attempt([&] { number = Value(read_text(setting.name)).number(); });
+    attempt([&] { number = prepare(Value(read_text(setting.name)).number()); });
     if (number && (*number < setting.lowest || *number > setting.highest))
         number.reset();
     return number;
@@ -62,13 +64,18 @@ std::int32_t rounded(double number)
     return static_cast<std::int32_t>(std::nearbyint(number));
 }
 
-/// The setting's number, or its default, which is then written too.
-double number_or_default(const NumberSetting& setting)
+/// The number that was read, or the setting's default, which is then written too.
+double or_default(std::optional<double> number, const NumberSetting& setting)
 {
-    if (const auto number = read_number(setting))
+    if (number)
         return *number;
     write_default(setting);
     return setting.fallback;
+}
+
+double number_or_default(const NumberSetting& setting)
+{
+    return or_default(read_number(setting), setting);
 }
 
 } // namespace
@@ -85,7 +92,9 @@ void read_language()
 
 void read_colour()
 {
-    ColorValue = rounded(number_or_default(color_value_setting));
+    // A colour alone is a whole number before it is held against its range.
+    const auto stored = read_number(color_value_setting, std::nearbyint);
+    ColorValue = rounded(or_default(stored, color_value_setting));
 }
 
 void read_shine()

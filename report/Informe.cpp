@@ -8,6 +8,7 @@
 #include "report/Documents.h"
 #include "report/ReportForm.h"
 #include "report/Stages.h"
+#include "sources/Characters.h"
 
 namespace ostrelum::inline report {
 namespace {
@@ -83,7 +84,7 @@ ReportLook look()
 std::string seconds_text()
 {
     const std::uint32_t milliseconds = platform.clock->timeGetTime() - ReportStart;
-    return RealText(milliseconds / 1000.0).substr(0, 4);
+    return first_characters(RealText(milliseconds / 1000.0), 4);
 }
 
 void InfEnd()
