@@ -10,7 +10,7 @@ constexpr TextRow table[] = {
     {Text::LanguageName, "Nederlands (Nederland)"},
     {Text::Language, "Taal"},
     {Text::Translator, "Robin Terhaar"},
-    {Text::TranslatorWebsite, "https://robin-terhaar.example.org"},
+    {Text::TranslatorWebsite, "https://terhaar.example.org"},
     {Text::Options, "Opties"},
     {Text::Customize, "Aanpassen"},
     {Text::MakeAndSaveReport, "Rapport maken en opslaan als..."},
