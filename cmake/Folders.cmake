@@ -4,7 +4,7 @@
 add_library(ostrelum_rules INTERFACE)
 target_include_directories(ostrelum_rules INTERFACE ${CMAKE_SOURCE_DIR})
 target_compile_options(ostrelum_rules INTERFACE
-    -Wall -Wextra -Wpedantic -Werror -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
+    -Wall -Wextra -Wpedantic $<$<BOOL:${OSTRELUM_STRICT}>:-Werror> -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
     -Woverloaded-virtual -Wold-style-cast -Wcast-qual -Wformat=2 -Wmissing-declarations
     -Wno-missing-field-initializers
     # GCC 12 finds overlaps in "literal" + string where there are none (GCC bug 105651).

@@ -53,5 +53,5 @@ build() {
     local preset=$1 folder=$2
     shift 2
     [ -f "$folder/build.ninja" ] || cmake --preset "$preset" >/dev/null || fail "CMake could not configure $preset."
-    ninja -C "$folder" --quiet "$@" || fail "The build of $preset failed."
+    ninja -C "$folder" "$@" || fail "The build of $preset failed."
 }
