@@ -3,7 +3,7 @@
 import time
 import unittest
 
-from desktop import Desktop, WindowTest, wait_for
+from desktop import PROGRAM, Desktop, WindowTest, wait_for
 
 # A point of the white page with no control on it.
 PAGE = (600, 500)
@@ -36,6 +36,12 @@ class ProgramTest(WindowTest):
             third = desktop.start_program()
             self.assertTrue(desktop.window())
             self.assertIsNone(third.poll())
+
+    def test_words_behind_the_name_change_nothing(self):
+        with Desktop() as desktop:
+            desktop.start(PROGRAM, "-qwindowtitle", "Other", "-geometry", "300x200+0+0")
+            window = desktop.window()
+            self.assertIn("777x553", desktop.call("xwininfo", "-id", window, "-stats"))
 
     def test_mouse_opens_pages_and_copies_them(self):
         with Desktop() as desktop:

@@ -1,6 +1,8 @@
 #include "window/linux/Window.h"
 
-int main(int argc, char** argv)
+int main(int, char** argv)
 {
-    return ostrelum::window::run_window(argc, argv, {});
+    // The program has no options; the toolkit would take its own from what follows the name.
+    int own_name = 1;
+    return ostrelum::window::run_window(own_name, argv, {});
 }
