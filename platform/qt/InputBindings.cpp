@@ -4,7 +4,36 @@
 #include "platform/qt/Fonts.h"
 #include "platform/qt/Text.h"
 
+#include <QEvent>
+
 namespace ostrelum::qt_platform {
+namespace {
+
+/// The wheel changes a control that has the focus alone: the mouse may only rest over it while the
+/// user turns the wheel for something else.
+class WheelNeedsFocus : public QObject {
+public:
+    explicit WheelNeedsFocus(QWidget& widget) : QObject(&widget), widget_(widget)
+    {
+        // The wheel gives no focus either.
+        widget.setFocusPolicy(Qt::StrongFocus);
+        widget.installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        const bool refused = event->type() == QEvent::Wheel && !widget_.hasFocus();
+        if (refused)
+            event->ignore();
+        return refused;
+    }
+
+private:
+    QWidget& widget_;
+};
+
+} // namespace
 
 QtButtonBinding::QtButtonBinding(CommandButton& button, int place, QWidget& parent,
                                  const WindowContext& context)
@@ -34,7 +63,7 @@ QtScrollBarBinding::QtScrollBarBinding(ScrollBar& bar, int place, QWidget& paren
                                        const WindowContext& context)
     : ScrollBarBinding(bar, place, context.events), widget_(new SliderWidget(&parent))
 {
-    widget_->setFocusPolicy(Qt::StrongFocus);
+    new WheelNeedsFocus(*widget_);
     widget_->setContextMenuPolicy(Qt::NoContextMenu);
     QObject::connect(widget_, &QScrollBar::valueChanged, widget_,
                      [this](int value) { user_moves(value); });
@@ -92,6 +121,7 @@ QtComboBoxBinding::QtComboBoxBinding(ComboBox& box, int place, QWidget& parent,
                                      const WindowContext& context)
     : ComboBoxBinding(box, place, context.events), widget_(new QComboBox(&parent))
 {
+    new WheelNeedsFocus(*widget_);
     // Comes only from the user, and also when the entry was chosen before.
     QObject::connect(widget_, &QComboBox::activated, widget_,
                      [this](int index) { user_chooses(index); });

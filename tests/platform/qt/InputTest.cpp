@@ -5,6 +5,7 @@
 #include <QTest>
 #include <QTextDocumentFragment>
 #include <QToolTip>
+#include <QWheelEvent>
 
 namespace ostrelum::qt_platform {
 namespace {
@@ -22,6 +23,28 @@ TEST_F(InputTest, TheFocusFrameLiesOverTheBarAndGoesWithTheMouse)
     toolkit().Refresh(form);
     QTest::mouseClick(&widget(form.Column), Qt::MiddleButton, {}, {90, 190});
     EXPECT_EQ(corner(), QColor(5, 5, 5));
+}
+
+TEST_F(InputTest, TheWheelTurnsWhatHasTheFocusAlone)
+{
+    const auto turn = [](QWidget& over) {
+        const QPointF at(5, 5);
+        QWheelEvent wheel(at, over.mapToGlobal(at), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&over, &wheel);
+    };
+    const auto state = [&] { return std::pair(form.Slide.Value, form.Pick.ListIndex); };
+    const auto before = state();
+    turn(widget(form.Slide));
+    turn(widget(form.Pick));
+    EXPECT_EQ(state(), before);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+    for (QWidget* focused : {&widget(form.Slide), &widget(form.Pick)}) {
+        focused->setFocus();
+        turn(*focused);
+    }
+    EXPECT_NE(form.Slide.Value, before.first);
+    EXPECT_NE(form.Pick.ListIndex, before.second);
 }
 
 TEST_F(InputTest, TooltipsShowMarkupLetterByLetter)
