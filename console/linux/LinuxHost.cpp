@@ -7,6 +7,8 @@
 #include "platform/linux/services/MachineShell.h"
 #include "platform/masking/MaskedService.h"
 
+#include <optional>
+
 namespace ostrelum::console {
 
 using namespace linux_platform;
@@ -43,18 +45,21 @@ Environment shown_environment(const Options& options, const Sysroot& files)
 class LinuxHostedMachine : public HostedMachine {
 public:
     LinuxHostedMachine(const Sysroot& files, const Options& options)
-        : files_(files), options_(options), system_(files, shown_environment(options, files))
+        : files_(files), options_(options)
     {
     }
 
+    /// Made when they are first asked for: a query needs none of them.
     Platform services() override
     {
-        return {.registry = &system_.registry,
-                .file_writer = &system_.file_writer,
-                .clock = &system_.clock,
-                .regional = &system_.regional,
-                .system_api = &system_.system_api,
-                .ansi_code_page = &system_.ansi_code_page};
+        if (!system_)
+            system_.emplace(files_, shown_environment(options_, files_));
+        return {.registry = &system_->registry,
+                .file_writer = &system_->file_writer,
+                .clock = &system_->clock,
+                .regional = &system_->regional,
+                .system_api = &system_->system_api,
+                .ansi_code_page = &system_->ansi_code_page};
     }
 
     std::unique_ptr<ManagementService> management_service() override
@@ -74,7 +79,7 @@ public:
 private:
     Sysroot files_;
     Options options_;
-    LinuxSystem system_;
+    std::optional<LinuxSystem> system_;
 };
 
 } // namespace
