@@ -14,6 +14,8 @@ namespace {
 
 constexpr std::size_t block_size = 128;
 constexpr std::size_t descriptor_size = 18;
+/// Characters of a text in a descriptor.
+constexpr std::size_t text_size = 13;
 
 /// First bytes of the display descriptors, behind three zeros.
 enum Descriptor : std::uint8_t {
@@ -45,17 +47,24 @@ std::string maker_code(unsigned packed)
     return code;
 }
 
-/// Up to 13 characters of ASCII, ended by a line feed where there are fewer. Some makers set a
+/// Characters of ASCII, ended by a line feed where there are fewer than fit. Some makers set a
 /// control character between two texts: it counts as a blank.
 std::string text_in(ByteView descriptor)
 {
     std::string text;
-    for (const std::uint8_t byte : descriptor.subspan(5)) {
+    for (const std::uint8_t byte : descriptor.subspan(5, text_size)) {
         if (byte == '\n' || byte == 0)
             break;
         text += byte > ' ' && byte <= '~' ? static_cast<char>(byte) : ' ';
     }
-    return std::string(trimmed_space(text));
+    return text;
+}
+
+/// Whether a text ends with its descriptor, in the midst of a word: then the next one goes on with
+/// it. One that ends with a blank may be filled up.
+bool goes_on(std::string_view text)
+{
+    return !text.empty() && text.size() % text_size == 0 && !text.ends_with(' ');
 }
 
 class Reader {
@@ -80,7 +89,11 @@ public:
             add(read_display_id(block.subspan(1, block_size - 2)));
     }
 
-    Edid result() && { return std::move(edid_); }
+    Edid result() &&
+    {
+        edid_.name = trimmed_space(name_);
+        return std::move(edid_);
+    }
 
 private:
     void read_established(ByteView bits)
@@ -128,11 +141,26 @@ private:
             return read_detailed(bytes);
         switch (bytes[3]) {
         case StandardTimings: return read_standard(bytes.subspan(5, 12));
-        case ProductName: edid_.name = text_in(bytes); return;
+        case ProductName: return read_name(text_in(bytes));
         case RangeLimits: return read_limits(bytes);
-        case FreeText: edid_.free_text = text_in(bytes); return;
+        case FreeText: return read_free_text(text_in(bytes));
         default: return;
         }
+    }
+
+    /// A first name that is whole is the monitor's; an extension may repeat it.
+    void read_name(const std::string& text)
+    {
+        if (trimmed_space(name_).empty())
+            name_ = text;
+        else if (goes_on(name_) && text != name_)
+            name_ += text;
+    }
+
+    void read_free_text(const std::string& text)
+    {
+        if (const std::string_view trimmed = trimmed_space(text); !trimmed.empty())
+            edid_.free_text = trimmed;
     }
 
     void read_limits(ByteView bytes)
@@ -177,6 +205,8 @@ private:
     }
 
     std::uint8_t revision_;
+    /// As the descriptors have it, with the blanks at both ends.
+    std::string name_;
     Edid edid_;
 };
 

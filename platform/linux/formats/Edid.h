@@ -18,7 +18,8 @@ struct Edid {
     std::string maker;
     /// The maker's number for the model.
     std::uint16_t product = 0;
-    /// Name of the product; empty for none.
+    /// Name of the product: the first that is not empty, with the descriptors in which it goes on
+    /// if it fills its own. Empty for none.
     std::string name;
     /// Free text, in which makers of built-in panels write the part number: the last of several.
     /// Empty for none.

@@ -21,7 +21,7 @@ TEST(Edid, TellsMakerNameAndModel)
 {
     const auto edid =
         read_edid(monitor(descriptor(0xFE, "First\n") + descriptor(0xFE, "AB\x81Q1 ") +
-                          descriptor(0xFC, "Thirteen char")));
+                          descriptor(0xFC, "Thirteen char") + descriptor(0xFE, "\n")));
     ASSERT_TRUE(edid);
     EXPECT_EQ(edid->maker, "XYZ");
     EXPECT_EQ(edid->product, 0x1234);
@@ -30,6 +30,30 @@ TEST(Edid, TellsMakerNameAndModel)
     EXPECT_FALSE(edid->limits);
     EXPECT_FALSE(edid->rates_of_modes);
     EXPECT_TRUE(edid->detailed.empty());
+}
+
+TEST(Edid, ReadsANameThatTakesMoreThanOneDescriptor)
+{
+    struct Case {
+        std::vector<std::string> parts;
+        std::string name;
+    };
+    for (const Case& each : {
+             Case{{"Plain\n", "\n"}, "Plain"},
+             Case{{"\n", "Plain\n"}, "Plain"},
+             Case{{"Plain\n", "Other\n"}, "Plain"},
+             Case{{"Cut in a wor", "d\n"}, "Cut in a wor"},
+             Case{{"Cut in one wo", "rd\n", "Other\n"}, "Cut in one word"},
+             Case{{"Cut at a sign", " and blank"}, "Cut at a sign and blank"},
+             Case{{"Cut into thre", "e parts, all ", "told"}, "Cut into three parts, all"},
+             Case{{"Cut into thre", "e parts, each", " whole"}, "Cut into three parts, each whole"},
+             Case{{"Thirteen char", "Thirteen char"}, "Thirteen char"},
+         }) {
+        std::string descriptors;
+        for (const std::string& part : each.parts)
+            descriptors += descriptor(0xFC, part);
+        EXPECT_EQ(read_edid(monitor(descriptors))->name, each.name);
+    }
 }
 
 TEST(Edid, ReadsRangeLimitsWithTheirOffsets)
