@@ -5,6 +5,7 @@
 #include "platform/linux/formats/CimDateTime.h"
 #include "platform/linux/text/Text.h"
 
+#include <bit>
 #include <limits>
 #include <vector>
 
@@ -48,13 +49,25 @@ Value converter(const Adapter& adapter)
     return {};
 }
 
+/// What is on the board. Drivers leave out what they keep for themselves, which is less than a step
+/// in which cards are made: a quarter of a GiB, or powers of two below that.
+std::uint64_t fitted(std::uint64_t bytes)
+{
+    constexpr std::uint64_t step = std::uint64_t{256} << 20;
+    return bytes < step ? std::bit_ceil(bytes) : (bytes + step - 1) / step * step;
+}
+
 /// Windows stops at 32 bits; more is given whole, as text.
 Value memory(const Adapter& adapter)
 {
-    const auto bytes = graphics_memory(adapter.machine, adapter.card);
-    if (bytes && *bytes > std::numeric_limits<std::uint32_t>::max())
-        return std::to_string(*bytes);
-    return bytes.value_or(0) > 0 ? Value(*bytes) : Value();
+    constexpr std::uint64_t beyond_any_card = std::uint64_t{1} << 50;
+    const std::uint64_t told = graphics_memory(adapter.machine, adapter.card).value_or(0);
+    if (told == 0 || told > beyond_any_card)
+        return {};
+    const std::uint64_t bytes = fitted(told);
+    if (bytes > std::numeric_limits<std::uint32_t>::max())
+        return std::to_string(bytes);
+    return Value(bytes);
 }
 
 Value bits_per_pixel(const Adapter& adapter)
