@@ -71,7 +71,7 @@ def lscpu(machine):
 
 
 # Texts of dmidecode and what the CIM schema calls them.
-FORMS = {"Unknown": 0, "Other": 1, "Row Of Chips": 1, "Die": 1, "DIMM": 8, "RIMM": 11, "SODIMM": 12, "FB-DIMM": 24}
+FORMS = {"Unknown": 0, "Other": 1, "Row Of Chips": 14, "Die": 1, "DIMM": 8, "RIMM": 11, "SODIMM": 12, "FB-DIMM": 24}
 TYPES = {"Unknown": 0, "Other": 1, "DRAM": 2, "RAM": 9, "SDRAM": 17, "DDR": 20, "DDR2": 21, "DDR3": 24, "DDR4": 26,
          "LPDDR3": 29, "LPDDR4": 30, "DDR5": 34, "LPDDR5": 35}
 UNITS = {"bytes": 1, "kB": 1024, "MB": 1024**2, "GB": 1024**3, "TB": 1024**4}

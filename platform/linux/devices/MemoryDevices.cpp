@@ -39,7 +39,7 @@ constexpr std::array<CodeText, 33> types{{
 }};
 
 /// DMTF DSP0134, 7.18.1 (offset 0Eh); CIM_Chip.FormFactor. What that schema has no code for is 1,
-/// "other".
+/// "other"; a row of chips is soldered to the surface of the board, for which it has 14, "SMD".
 constexpr std::array<CodeText, 17> form_factors{{
     {0x01, "Other", 1},
     {0x02, "Unknown", 0},
@@ -51,7 +51,7 @@ constexpr std::array<CodeText, 17> form_factors{{
     {0x08, "Proprietary Card", 6},
     {0x09, "DIMM", 8},
     {0x0A, "TSOP", 9},
-    {0x0B, "Row Of Chips", 1},
+    {0x0B, "Row Of Chips", 14},
     {0x0C, "RIMM", 11},
     {0x0D, "SODIMM", 12},
     {0x0E, "SRIMM", 13},
