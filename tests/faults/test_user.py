@@ -14,12 +14,14 @@ OF_ROOT = ("sys/firmware/dmi/tables/DMI", "sys/devices/virtual/dmi/id/product_se
 # The rows that go with them, by page; everything else has another source.
 # The processor's socket stands in the firmware's table alone.
 SOCKET = {(5, "Socket")}
-# What is summed up from memory modules, where udev has not published the firmware's list of them.
-MODULES = {(1, "RAM"), (6, "Chip type"), (6, "Total memory"), (6, "Memory in use"), (6, "Available memory"),
-           (6, "Modules installed"), (6, "Data bus width")}
+# What is told of memory modules, where udev has not published the firmware's list of them. The total is then the
+# kernel's, which is a little less.
+MODULES = {(6, "Chip type"), (6, "Memory in use"), (6, "Available memory"), (6, "Modules installed"),
+           (6, "Data bus width")}
 ROWS_OF_ROOT = {
-    # A kernel that does not tell the last cache leaves it to the firmware's table.
-    "desktop": SOCKET | MODULES | {(5, "L3 cache size")},
+    # A kernel that does not tell the last cache leaves it to the firmware's table. Cut to whole gigabytes, its total
+    # of the memory is one less.
+    "desktop": SOCKET | MODULES | {(5, "L3 cache size"), (1, "RAM"), (6, "Total memory")},
     # The machine's serial number identifies it.
     "server": SOCKET | {(8, "Serial number")},
     # A kind of memory that only the firmware names.

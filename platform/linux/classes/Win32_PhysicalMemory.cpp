@@ -36,13 +36,18 @@ constexpr PropertyRow<MemoryDevice> rows[] = {
     {"MemoryType", memory_type}, {"TotalWidth", total_width},
 };
 
-/// The fitted modules in the firmware's order.
+/// The fitted modules in the firmware's order; without records of modules all memory as one, which
+/// pages add to the total but do not count as a module.
 std::vector<MemoryDevice> modules(const MachineView& machine)
 {
     auto modules = published_memory(udev_record(machine.root, "+dmi:id"));
     if (modules.empty())
         modules = memory_of_table(bytes_of(firmware_table(machine.root)));
-    return modules.empty() ? memory_of_controllers(machine.root) : modules;
+    if (modules.empty())
+        modules = memory_of_controllers(machine.root);
+    if (const auto all = modules.empty() ? memory_of_kernel(machine.root) : std::nullopt)
+        modules.push_back(*all);
+    return modules;
 }
 
 } // namespace

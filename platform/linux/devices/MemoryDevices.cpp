@@ -1,5 +1,6 @@
 #include "platform/linux/devices/MemoryDevices.h"
 
+#include "platform/linux/formats/MemoryInfo.h"
 #include "platform/linux/formats/Placeholder.h"
 #include "platform/linux/text/Text.h"
 
@@ -159,6 +160,32 @@ std::optional<int> type_of_words(std::string_view words)
     return memory_type_of_text(words.substr(words.rfind('-') + 1));
 }
 
+/// Bytes of the blocks in which the kernel adds and removes memory. They cover all that is fitted,
+/// also what the kernel itself lies in.
+std::optional<std::uint64_t> online_blocks(const Sysroot& root)
+{
+    constexpr std::uint64_t largest = std::uint64_t{1} << 40;
+    const std::string folder = "/sys/devices/system/memory/";
+    const auto size = whole_number(root.text(folder + "block_size_bytes").value_or(""), 16);
+    if (!size || *size > largest)
+        return std::nullopt;
+    const auto names = root.list(folder);
+    const auto count = std::ranges::count_if(names, [&](const std::string& name) {
+        return root.text(folder + name + "/state") == "online";
+    });
+    const std::uint64_t bytes = *size * static_cast<std::uint64_t>(count);
+    return bytes > 0 ? std::optional(bytes) : std::nullopt;
+}
+
+/// Bytes that the kernel manages, which is a little less than all.
+std::optional<std::uint64_t> told_total(const Sysroot& root)
+{
+    constexpr std::uint64_t kibibyte = 1024;
+    constexpr std::uint64_t most = UINT64_MAX / kibibyte;
+    const auto total = parse_meminfo(root.read("/proc/meminfo").value_or("")).total.value_or(0);
+    return total > 0 && total <= most ? std::optional(total * kibibyte) : std::nullopt;
+}
+
 } // namespace
 
 std::optional<int> memory_type_of_text(std::string_view text)
@@ -223,6 +250,13 @@ std::vector<MemoryDevice> memory_of_controllers(const Sysroot& root)
         }
     }
     return devices;
+}
+
+std::optional<MemoryDevice> memory_of_kernel(const Sysroot& root)
+{
+    const auto blocks = online_blocks(root);
+    const auto bytes = blocks ? blocks : told_total(root);
+    return bytes ? std::optional(MemoryDevice{.capacity = bytes, .locator = ""}) : std::nullopt;
 }
 
 } // namespace ostrelum::linux_platform

@@ -40,4 +40,9 @@ std::vector<MemoryDevice> memory_of_table(ByteView table);
 /// The modules that the memory controller's driver knows, on machines with error correction.
 std::vector<MemoryDevice> memory_of_controllers(const Sysroot& root);
 
+/// All memory as one object, of which no more is known than its size and that it stands in no slot
+/// of its own (an empty locator): for machines whose firmware describes no modules, such as virtual
+/// ones and boards. Nothing if the kernel does not tell the size either.
+std::optional<MemoryDevice> memory_of_kernel(const Sysroot& root);
+
 } // namespace ostrelum::linux_platform
