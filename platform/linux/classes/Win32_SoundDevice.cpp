@@ -3,7 +3,10 @@
 #include "platform/linux/devices/UdevDatabase.h"
 #include "platform/linux/formats/Placeholder.h"
 #include "platform/linux/text/Text.h"
+#include "sources/Ascii.h"
 
+#include <algorithm>
+#include <iterator>
 #include <vector>
 
 namespace ostrelum::linux_platform {
@@ -77,11 +80,19 @@ constexpr PropertyRow<SoundDevice> rows[] = {
     {"Name", device_name},
 };
 
-/// Cards that programs make play into nothing, and modems are no sound cards.
+/// Cards that programs make play into nothing or back to programs.
+bool is_made(std::string_view link)
+{
+    constexpr std::string_view places[] = {"/virtual/", "/snd_aloop.", "/snd_dummy."};
+    return std::ranges::any_of(
+        places, [&](std::string_view place) { return link.find(place) != link.npos; });
+}
+
+/// Modems are no sound cards.
 bool is_hardware(const Sysroot& root, const std::string& card)
 {
     const std::string folder = std::string(class_folder) + card;
-    if (root.link(folder).value_or("").find("/virtual/") != std::string::npos)
+    if (is_made(root.link(folder).value_or("")))
         return false;
     bool modem = false;
     for (const std::string& name : root.list(folder)) {
@@ -108,8 +119,17 @@ std::vector<std::string> codecs(const Sysroot& root, const std::string& card)
     return codecs;
 }
 
+/// A part of a graphics card that plays through the monitor, by its name.
+bool is_monitors(const SoundDevice& device)
+{
+    const Value known = device_name(device);
+    std::string name = known.is_null() ? "" : known.text();
+    std::ranges::transform(name, name.begin(), lower_ascii);
+    return name.find("hdmi") != name.npos || name.find("displayport") != name.npos;
+}
+
 /// In the order of the cards.
-std::vector<SoundDevice> sound_devices(const MachineView& machine)
+std::vector<SoundDevice> all_devices(const MachineView& machine)
 {
     std::vector<SoundDevice> devices;
     for (const std::string& card : machine.root.list(std::string(class_folder))) {
@@ -122,6 +142,20 @@ std::vector<SoundDevice> sound_devices(const MachineView& machine)
             devices.push_back({machine, card, ""});
     }
     return devices;
+}
+
+/// Those of monitors last: what plays through the machine's own sockets is meant by its sound card,
+/// whatever number the kernel gave it.
+std::vector<SoundDevice> sound_devices(const MachineView& machine)
+{
+    const auto all = all_devices(machine);
+    std::vector<SoundDevice> ordered;
+    for (const bool last : {false, true}) {
+        std::ranges::copy_if(all, std::back_inserter(ordered), [&](const SoundDevice& device) {
+            return is_monitors(device) == last;
+        });
+    }
+    return ordered;
 }
 
 } // namespace
