@@ -15,12 +15,14 @@ constexpr std::string_view class_folder = "/sys/class/input/";
 
 /// The folder of the device that an input device is a part of, by the link that leads to the
 /// latter. A part of a USB device stands under an interface, "1-3:1.0", which stands under the
-/// device, "1-3".
+/// device, "1-3". What a Bluetooth adapter has found is no part of the adapter.
 std::string hardware_of(std::string_view link)
 {
     const std::size_t devices = link.find("devices/");
     std::string path = "/sys/" + std::string(link.substr(std::min(devices, link.size())));
     path.resize(std::min(path.rfind("/input/"), path.size()));
+    if (path.find("/bluetooth/") != std::string::npos)
+        return path;
     for (std::size_t end = path.rfind('/'); end != std::string::npos && end > 0;
          end = path.rfind('/', end - 1)) {
         const std::size_t start = path.rfind('/', end - 1) + 1;
@@ -38,6 +40,15 @@ InputDevice capabilities(const Sysroot& root, const std::string& folder)
             text("/properties")};
 }
 
+/// What an input device is; several at once, or none.
+struct Kinds {
+    bool keyboard = false;
+    bool pointer = false;
+    bool touchpad = false;
+
+    bool has(InputKind kind) const { return kind == InputKind::Keyboard ? keyboard : pointer; }
+};
+
 /// Recognises devices by what they can do, where udev does not run.
 class ByCapability {
 public:
@@ -50,11 +61,12 @@ public:
         word_bits_ = kernel_word_bits(devices);
     }
 
-    bool is(InputKind kind, const std::string& folder) const
+    Kinds kinds(const std::string& folder) const
     {
         const InputDevice device = capabilities(root_, folder);
-        return kind == InputKind::Keyboard ? is_keyboard(device, word_bits_)
-                                           : is_pointer(device, word_bits_);
+        return {.keyboard = is_keyboard(device, word_bits_),
+                .pointer = is_pointer(device, word_bits_),
+                .touchpad = is_touchpad(device, word_bits_)};
     }
 
 private:
@@ -62,13 +74,14 @@ private:
     unsigned word_bits_ = 0;
 };
 
-bool udev_says(const UdevRecord& udev, InputKind kind)
+Kinds kinds_by_udev(const UdevRecord& udev)
 {
     constexpr std::array pointers = {"ID_INPUT_MOUSE", "ID_INPUT_TOUCHPAD",
                                      "ID_INPUT_POINTINGSTICK", "ID_INPUT_TRACKBALL"};
     const auto has = [&](const char* key) { return udev.text(key) == "1"; };
-    return kind == InputKind::Keyboard ? has("ID_INPUT_KEYBOARD")
-                                       : std::ranges::any_of(pointers, has);
+    return {.keyboard = has("ID_INPUT_KEYBOARD"),
+            .pointer = std::ranges::any_of(pointers, has),
+            .touchpad = has("ID_INPUT_TOUCHPAD")};
 }
 
 /// The names of the kernel's mouse drivers: "SynPS/2 Synaptics TouchPad", in which "Generic" stands
@@ -82,28 +95,74 @@ std::optional<std::string> maker_in_ps2_name(const std::string& name)
     return std::string(words[1]);
 }
 
-} // namespace
+struct Part {
+    InputNode node;
+    Kinds kinds;
+};
 
-std::vector<InputNode> input_nodes(const Sysroot& root, InputKind kind)
+/// All keyboards and pointers in the order in which the kernel found them. Programs that remap keys
+/// make devices of their own, under a folder that is left out.
+std::vector<Part> all_parts(const Sysroot& root)
 {
     std::vector<std::string> names = root.list(std::string(class_folder));
     std::erase_if(names, [](const std::string& name) { return !name.starts_with("input"); });
     std::optional<ByCapability> by_capability;
-    std::vector<InputNode> nodes;
+    std::vector<Part> parts;
     for (const std::string& name : names) {
         const std::string folder = std::string(class_folder) + name;
         const std::string link = root.link(folder).value_or("");
+        if (link.find("/virtual/input/") != std::string::npos)
+            continue;
         const UdevRecord udev = udev_record(root, "+input:" + name);
         const bool known_to_udev = udev.text("ID_INPUT").has_value();
         if (!known_to_udev && !by_capability)
             by_capability.emplace(root, names);
-        const bool wanted = known_to_udev ? udev_says(udev, kind) : by_capability->is(kind, folder);
-        const std::string hardware = hardware_of(link);
-        const bool seen = std::ranges::find(nodes, hardware, &InputNode::hardware) != nodes.end();
-        // Programs that remap keys make devices of their own under that folder.
-        if (wanted && !seen && link.find("/virtual/input/") == std::string::npos)
-            nodes.push_back({folder, hardware});
+        const Kinds kinds = known_to_udev ? kinds_by_udev(udev) : by_capability->kinds(folder);
+        if (kinds.keyboard || kinds.pointer)
+            parts.push_back({{folder, hardware_of(link)}, kinds});
     }
+    return parts;
+}
+
+/// The foremost part of that kind for each piece of hardware. A touch pad has a part for mice
+/// besides its own, often before it.
+std::vector<Part> one_for_each_hardware(const std::vector<Part>& parts, InputKind kind)
+{
+    std::vector<Part> foremost;
+    for (const Part& part : parts) {
+        if (!part.kinds.has(kind))
+            continue;
+        const auto seen = std::ranges::find_if(
+            foremost, [&](const Part& other) { return other.node.hardware == part.node.hardware; });
+        if (seen == foremost.end())
+            foremost.push_back(part);
+        else if (part.kinds.touchpad && !seen->kinds.touchpad)
+            *seen = part;
+    }
+    return foremost;
+}
+
+/// 0 for hardware of that kind alone; 1 for a keyboard with a wheel or a mouse with macros, if its
+/// first part is of that kind; 2 if that is of the other.
+int rank(const std::vector<Part>& parts, const std::string& hardware, InputKind kind)
+{
+    const InputKind other = kind == InputKind::Keyboard ? InputKind::Pointer : InputKind::Keyboard;
+    const auto is_its = [&](const Part& part) { return part.node.hardware == hardware; };
+    const bool alone = std::ranges::none_of(
+        parts, [&](const Part& part) { return is_its(part) && part.kinds.has(other); });
+    return alone ? 0 : std::ranges::find_if(parts, is_its)->kinds.has(kind) ? 1 : 2;
+}
+
+} // namespace
+
+std::vector<InputNode> input_nodes(const Sysroot& root, InputKind kind)
+{
+    const std::vector<Part> parts = all_parts(root);
+    std::vector<InputNode> nodes;
+    for (const Part& part : one_for_each_hardware(parts, kind))
+        nodes.push_back(part.node);
+    std::ranges::stable_sort(
+        nodes, {}, [&](const InputNode& node) { return rank(parts, node.hardware, kind); });
     return nodes;
 }
 

@@ -34,8 +34,9 @@ struct InputNode {
     std::string hardware;
 };
 
-/// The devices of a kind in the order in which the kernel found them. One that has several parts,
-/// as keyboards with extra keys do, comes once; those that programs make are left out.
+/// The devices of a kind: hardware that is nothing else first, then what is a keyboard and a
+/// pointer in one, each in the order in which the kernel found it. One that has several parts, as
+/// keyboards with extra keys do, comes once; those that programs make are left out.
 std::vector<InputNode> input_nodes(const Sysroot& root, InputKind kind);
 
 /// Its number of the bus.

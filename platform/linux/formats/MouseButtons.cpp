@@ -48,6 +48,12 @@ bool is_pointer(const InputDevice& device, unsigned word_bits)
     return moves && (key[BTN_LEFT] || key[BTN_TOOL_FINGER]);
 }
 
+bool is_touchpad(const InputDevice& device, unsigned word_bits)
+{
+    const CapabilityBits abs(device.abs, word_bits);
+    return abs[ABS_X] && abs[ABS_Y] && CapabilityBits(device.key, word_bits)[BTN_TOOL_FINGER];
+}
+
 bool is_keyboard(const InputDevice& device, unsigned word_bits)
 {
     const CapabilityBits key(device.key, word_bits);

@@ -23,6 +23,9 @@ unsigned kernel_word_bits(std::span<const InputDevice> devices);
 /// Whether a device points: a mouse, touchpad, stick or trackball, not a touchscreen.
 bool is_pointer(const InputDevice& device, unsigned word_bits);
 
+/// Whether a device that points does so by a finger on it.
+bool is_touchpad(const InputDevice& device, unsigned word_bits);
+
 /// Whether a device has the keys to write with.
 bool is_keyboard(const InputDevice& device, unsigned word_bits);
 
