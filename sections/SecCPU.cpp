@@ -11,6 +11,8 @@ void set_speed_row()
     const ClockFigure speed = clock_figure();
     if (speed.title)
         set_title(2, Trad[*speed.title] + " ");
+    else
+        place_value(2);
     set_value(2, speed.text);
 }
 

@@ -13,9 +13,10 @@ std::string usage_time()
 
 void set_virtual_memory_row()
 {
-    if (Num1 <= 0)
+    if (Num1 <= 0) {
+        place_value(11);
         set_value(11, std::string());
-    else if (Num2 > 0 && Num2 < Num1)
+    } else if (Num2 > 0 && Num2 < Num1)
         set_row(11, Trad[Text::VirtualMemoryInUse], [] { return UsedOfTotal(Num2, Num1); });
     else
         set_row(11, Trad[Text::TotalVirtualMemory], WholeText(Num1) + " MB");

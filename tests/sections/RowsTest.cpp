@@ -107,6 +107,7 @@ protected:
                 const int row = std::stoi(number);
                 EXPECT_EQ(seen(row), text.text()) << c.class_name << " " << c.changes;
                 EXPECT_EQ(F1.L(row).ToolTipText, F1.L(row).Caption) << c.changes;
+                EXPECT_EQ(F1.L(row).Left, F1.LT(row).Left + F1.LT(row).Width) << c.changes;
             }
         }
         has = usual;
