@@ -4,15 +4,24 @@
 #include "figures/PassOver.h"
 #include "figures/Slots.h"
 
+#include <algorithm>
+
 namespace ostrelum::inline figures {
 namespace {
 
 using Slot = DisplaySlot;
 
-/// Whether a property is neither 0 nor empty. For a null the test fails, and so counts as held.
-bool is_set(const Instance& item, const char* property)
+/// Whether the mode's four figures are neither 0 nor empty. A null fails its test, which counts as
+/// held where half of a mode is shown.
+bool has_mode(const Instance& item, HalfKnownMode half)
 {
-    return holds([&] { return item[property].number() != 0 && !trimmed(item[property]).empty(); });
+    constexpr const char* figures[] = {"CurrentHorizontalResolution", "CurrentVerticalResolution",
+                                       "CurrentBitsPerPixel", "CurrentRefreshRate"};
+    return std::ranges::all_of(figures, [&](const char* figure) {
+        bool set = half == HalfKnownMode::Shown;
+        attempt([&] { set = item[figure].number() != 0 && !trimmed(item[figure]).empty(); });
+        return set;
+    });
 }
 
 void fill(std::string& into, const std::string& form, const char* mark,
@@ -24,10 +33,6 @@ void fill(std::string& into, const std::string& form, const char* mark,
 /// Each mark is filled by its own statement, so one that fails leaves what the one before it made.
 void read_mode(const Instance& item)
 {
-    if (!is_set(item, "CurrentHorizontalResolution") ||
-        !is_set(item, "CurrentVerticalResolution") || !is_set(item, "CurrentBitsPerPixel") ||
-        !is_set(item, "CurrentRefreshRate"))
-        return;
     fill(TempStr, Trad[Text::DisplayMode], "(1)", [&] {
         return trimmed(item["CurrentHorizontalResolution"]) + " x " +
                trimmed(item["CurrentVerticalResolution"]);
@@ -38,7 +43,6 @@ void read_mode(const Instance& item)
 
 void read_card(const Instance& item)
 {
-    read_mode(item);
     attempt([&] { Datos[Slot::MinimumRate] = trimmed(item["MinRefreshRate"]); });
     attempt([&] { Datos[Slot::MaximumRate] = trimmed(item["MaxRefreshRate"]); });
     attempt([&] { Datos[Slot::CardName] = trimmed(item["Name"]); });
@@ -61,7 +65,7 @@ std::string hertz(const std::string& text)
 
 } // namespace
 
-void read_display()
+void read_display(HalfKnownMode half)
 {
     clear(Datos, Slot::MonitorName, Slot::DriverDate);
     TempStr.clear();
@@ -75,7 +79,11 @@ void read_display()
           "CurrentRefreshRate, MinRefreshRate, MaxRefreshRate, Name, AdapterDACType, "
           "InstalledDisplayDrivers, DriverVersion, DriverDate, AdapterRAM from "
           "Win32_VideoController");
-    first(WmiResult, read_card);
+    first(WmiResult, [&](const Instance& item) {
+        if (has_mode(item, half))
+            read_mode(item);
+        read_card(item);
+    });
 }
 
 RefreshLimits refresh_limits()

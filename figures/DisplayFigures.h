@@ -21,8 +21,12 @@ enum class DisplaySlot {
     DriverDate, ///< a datetime of the service
 };
 
+/// What becomes of a mode of which a figure is null. The colours' depth alone can be missing in one
+/// that is shown: its mark then stands in its place.
+enum class HalfKnownMode { Shown, Empty };
+
 /// Asks for monitors and cards and reads the first of each. Num1 is the card's memory in MB.
-void read_display();
+void read_display(HalfKnownMode half);
 
 /// The row of the refresh limits: its title, the title's tooltip, and the value.
 struct RefreshLimits {

@@ -7,7 +7,7 @@ namespace ostrelum::inline report {
 
 void InfDisplay()
 {
-    read_display();
+    read_display(HalfKnownMode::Empty);
     const RefreshLimits limits = refresh_limits();
 
     write_rows({

@@ -17,7 +17,7 @@ void set_refresh_row()
 void SecDisplay()
 {
     enter_section(DisplayPage);
-    read_display();
+    read_display(HalfKnownMode::Shown);
 
     show_title();
     hide(F1.LNoDrive, F1.Line1, F1.Iaviso, F1.Laviso);

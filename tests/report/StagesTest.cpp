@@ -37,6 +37,12 @@ TEST_F(Stages, ShowAFallbackWhereAPageWouldKeepItsCaption)
         {"Win32_DiskDrive", "Partitions", {}, "Hard drives", "Total partitions:", "3"},
         {"Win32_BIOS", "ReleaseDate", "long ago", "Bios", "Released:", "Unknown"},
         {"Win32_VideoController", "MinRefreshRate", {}, "Display", "Maximum update rate:", "75 Hz"},
+        {"Win32_VideoController",
+         "CurrentBitsPerPixel",
+         {},
+         "Display",
+         "Current configuration:",
+         "Unknown"},
         {"Win32_VideoController", "DriverDate", "none", "Graphics card", "Driver date:", "Unknown"},
     };
     const auto recorded = script.results;
