@@ -83,8 +83,8 @@ ReportLook look()
 /// The time since the start of the report: the first four characters, however far they reach.
 std::string seconds_text()
 {
-    const std::uint32_t milliseconds = platform.clock->timeGetTime() - ReportStart;
-    return first_characters(RealText(milliseconds / 1000.0), 4);
+    const std::uint64_t milliseconds = platform.clock->timeGetTime() - ReportStart;
+    return first_characters(RealText(static_cast<double>(milliseconds) / 1000), 4);
 }
 
 void InfEnd()

@@ -7,7 +7,7 @@
 namespace ostrelum::inline report {
 
 /// The clock's milliseconds when the report began.
-inline std::uint32_t ReportStart = 0;
+inline std::uint64_t ReportStart = 0;
 
 /// Makes the four documents, one stage after the other, and returns when they are finished.
 void InfStart();

@@ -5,14 +5,14 @@
 
 namespace ostrelum::inline sources {
 
-std::string UptimeText(std::uint32_t milliseconds, Regional& regional)
+std::string UptimeText(std::uint64_t milliseconds, Regional& regional)
 {
-    constexpr int day_seconds = 24 * 60 * 60;
-    constexpr int last_day = 28;
-    const int seconds = static_cast<int>(milliseconds / 1000);
+    constexpr std::uint64_t day_seconds = 24 * 60 * 60;
+    constexpr std::uint64_t last_day = 28;
+    const std::uint64_t seconds = milliseconds / 1000;
     if (seconds / day_seconds > last_day)
         return "";
-    const int today = seconds % day_seconds;
+    const int today = static_cast<int>(seconds % day_seconds);
     return regional.long_time({today / 3600, today / 60 % 60, today % 60});
 }
 

@@ -114,11 +114,11 @@ public:
 
 class MemoryClock : public Clock {
 public:
-    std::uint32_t timeGetTime() override { return milliseconds; }
+    std::uint64_t timeGetTime() override { return milliseconds; }
     Date date() override { return today; }
     TimeOfDay time() override { return now; }
 
-    std::uint32_t milliseconds = 0;
+    std::uint64_t milliseconds = 0;
     Date today{2012, 8, 6};
     TimeOfDay now{14, 5, 9};
 };

@@ -24,8 +24,8 @@ struct TimeOfDay {
 class Clock {
 public:
     virtual ~Clock() = default;
-    /// Milliseconds since system start, modulo 2^32.
-    virtual std::uint32_t timeGetTime() = 0;
+    /// Milliseconds since system start, however long ago that is.
+    virtual std::uint64_t timeGetTime() = 0;
     /// Today in local time.
     virtual Date date() = 0;
     /// Now in local time.

@@ -29,7 +29,7 @@ TEST_F(Documents, AreTheRecordedOnesToTheByte)
         EXPECT_TRUE(ansi_file(*document) == golden(std::string("report.") + format))
             << format << "\n"
             << *document;
-    EXPECT_EQ(F2.LStatus.Caption, "Report made at 12.3 second/s") << "the clock may wrap";
+    EXPECT_EQ(F2.LStatus.Caption, "Report made at 12.3 second/s") << "since a start 50 days ago";
 }
 
 TEST_F(Documents, TheTitleTellsTheTimeByLanguage)

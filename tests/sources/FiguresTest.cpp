@@ -97,13 +97,13 @@ TEST(CacheText, GoesByItsLength)
     EXPECT_THROW(CacheText("some"), Failure);
 }
 
-constexpr std::uint32_t day = 24U * 60 * 60 * 1000;
+constexpr std::uint64_t day = 24U * 60 * 60 * 1000;
 
 TEST(UptimeText, LeavesOutTheDaysAndEndsAfter28)
 {
     MemoryRegional regional;
     const struct {
-        std::uint32_t milliseconds;
+        std::uint64_t milliseconds;
         const char* text;
     } cases[] = {{999, "00:00:00"},
                  {1000, "00:00:01"},
@@ -112,7 +112,8 @@ TEST(UptimeText, LeavesOutTheDaysAndEndsAfter28)
                  {2147483648U, "20:31:23"},
                  {29 * day - 1, "23:59:59"},
                  {29 * day, ""},
-                 {4294967295U, ""}};
+                 {50 * day, ""},
+                 {UINT64_MAX, ""}};
     for (const auto& c : cases)
         EXPECT_EQ(UptimeText(c.milliseconds, regional), c.text) << c.milliseconds;
 }

@@ -46,11 +46,11 @@ std::optional<std::uint64_t> uptime_ms(std::string_view text)
     return std::uint64_t{seconds} * 1000U + std::uint64_t{hundredths} * 10U;
 }
 
-std::uint32_t LinuxClock::timeGetTime()
+std::uint64_t LinuxClock::timeGetTime()
 {
     if (!files_)
         return 0;
-    return static_cast<std::uint32_t>(files_->is_live() ? running_ms() : recorded_ms(*files_));
+    return files_->is_live() ? running_ms() : recorded_ms(*files_);
 }
 
 Date LinuxClock::date()

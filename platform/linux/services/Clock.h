@@ -21,7 +21,7 @@ public:
     explicit LinuxClock(Sysroot files) : files_(std::move(files)) {}
 
     /// Counts the time spent asleep, too.
-    std::uint32_t timeGetTime() override;
+    std::uint64_t timeGetTime() override;
     Date date() override;
     TimeOfDay time() override;
 
