@@ -25,24 +25,24 @@ std::string take_dotted(std::string_view& text)
     return take_digits(text);
 }
 
-/// The first group behind a hyphen that is digits alone: the build of a distribution.
+/// The last part of what is shown, of which a page keeps that many characters.
+constexpr std::size_t shown_width = 4;
+
+/// The digits right behind the first hyphen: the build of a distribution. Empty where letters stand
+/// there, as in "-arch1-1" and "-rc2", and for a number that would be cut.
 std::string build_number(std::string_view rest)
 {
-    while (true) {
-        const auto hyphen = rest.find('-');
-        if (hyphen == rest.npos)
-            return {};
-        rest.remove_prefix(hyphen + 1);
-        const std::string_view group = rest.substr(0, rest.find('-'));
-        if (!group.empty() && group.find_first_not_of("0123456789") == group.npos)
-            return std::string(group);
-    }
+    const auto hyphen = rest.find('-');
+    if (hyphen == rest.npos)
+        return {};
+    rest.remove_prefix(hyphen + 1);
+    std::string digits = take_digits(rest);
+    return digits.size() <= shown_width ? digits : "";
 }
 
 std::string four_digits(const std::string& digits)
 {
-    constexpr std::size_t wide = 4;
-    return digits.size() < wide ? std::string(wide - digits.size(), '0') + digits : digits;
+    return std::string(shown_width - std::min(digits.size(), shown_width), '0') + digits;
 }
 
 /// By what is known of the processor, for a recorded machine without anything else: flag "lm" is
@@ -80,7 +80,7 @@ std::optional<std::string> kernel_version_text(std::string_view release)
     const std::string patch = take_dotted(release);
     const std::string build = build_number(release);
     const std::string both = patch + "-" + build;
-    if (!patch.empty() && !build.empty() && both.size() == 4)
+    if (!patch.empty() && !build.empty() && both.size() == shown_width)
         return major + "." + minor + "." + both;
     return major + "." + minor + "." + four_digits(build.empty() ? patch : build);
 }

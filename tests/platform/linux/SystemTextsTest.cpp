@@ -21,8 +21,9 @@ TEST(KernelVersion, SurvivesTheCutOfThePages)
 {
     for (const auto& [release, text] :
          pairs("6.18.44-fc-v595=6.x 6.18|6.1.0-28-amd64=6.1.0-28|6.8.0-45-generic=6.8.0-45|"
-               "6.8.0-101-generic=6.8.0101|6.14.0-63.fc42.x86_64=6.x 6.14|7.0.3-arch1-1=7.0.0001|"
-               "6.6.87.2-microsoft-standard=6.6.0087|6.1=6.1.0000|6.9.0-rc3-7=6.9.0007"))
+               "6.8.0-101-generic=6.8.0101|6.14.0-63.fc42.x86_64=6.x 6.14|7.0.3-arch1-1=7.0.0003|"
+               "6.6.87.2-microsoft-standard=6.6.0087|6.1=6.1.0000|6.9.0-rc3-7=6.9.0000|"
+               "6.8.1-060801-generic=6.8.0001"))
         EXPECT_EQ(kernel_version_text(release), text) << release;
     for (const char* none : {"", "linux", "6", "6.", ".6"})
         EXPECT_FALSE(kernel_version_text(none)) << none;
