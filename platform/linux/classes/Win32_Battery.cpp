@@ -60,7 +60,9 @@ Value voltage(const Battery& battery)
 Value device_id(const Battery& battery)
 {
     std::string id;
-    for (const char* file : {"serial_number", "manufacturer", "model_name"})
+    if (const auto serial = battery.text("serial_number"))
+        id = meaningful_serial(*serial).value_or("");
+    for (const char* file : {"manufacturer", "model_name"})
         id += battery.maker_text(file).value_or("");
     return id.empty() ? battery.name : id;
 }

@@ -95,9 +95,11 @@ constexpr std::array readers = {from_id_file, from_udev, from_table, from_device
 std::optional<std::string> FirmwareStrings::text(FirmwareText wanted) const
 {
     const FirmwareSource& source = source_of(wanted);
+    const auto meaningful =
+        wanted == FirmwareText::SystemSerial ? meaningful_serial : meaningful_text;
     for (const auto reader : readers) {
         const Found raw = reader(*root_, source);
-        if (auto found = raw ? meaningful_text(*raw) : std::nullopt)
+        if (auto found = raw ? meaningful(*raw) : std::nullopt)
             return found;
     }
     return std::nullopt;

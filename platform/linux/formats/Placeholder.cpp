@@ -50,6 +50,7 @@ constexpr std::string_view placeholders[] = {
     "SystemSerialNumb",
     "Type2 - Board Manufacturer",
     "Type2 - Board Product Name",
+    "Type2 - Board Product Name1",
     "Type2 - Board Serial Number",
     "Type2 - Board Vendor Name1",
     "Undefined",
@@ -60,22 +61,39 @@ constexpr std::string_view placeholders[] = {
 /// These go on in many ways.
 constexpr std::string_view beginnings[] = {"To be filled", "To be filed"};
 
+/// Fewer equal characters may well be meant.
+constexpr std::size_t shortest_row = 4;
+
+bool is_digit(char c)
+{
+    return c >= '0' && c <= '9';
+}
+
 bool is_letter_or_digit(char c)
 {
     const char lower = lower_ascii(c);
-    return (lower >= 'a' && lower <= 'z') || (c >= '0' && c <= '9');
+    return (lower >= 'a' && lower <= 'z') || is_digit(c);
 }
 
-/// Zeros, a row of one letter or digit such as "1111" and "xxxx", signs alone such as "-" and
-/// "...".
+bool is_one_character(std::string_view text)
+{
+    return !text.empty() && text.find_first_not_of(text.front()) == std::string_view::npos;
+}
+
+/// A row of one letter such as "xxxx", signs alone such as "-" and "...".
 bool is_filling(std::string_view text)
 {
-    constexpr std::size_t shortest_row = 4;
     const auto is_sign = [](char c) { return c > 0 && !is_letter_or_digit(c); };
     if (std::ranges::all_of(text, is_sign))
         return true;
-    const bool one_character = text.find_first_not_of(text.front()) == std::string_view::npos;
-    return one_character && (text.front() == '0' || text.size() >= shortest_row);
+    return is_one_character(text) && !is_digit(text.front()) && text.size() >= shortest_row;
+}
+
+/// Zeros, a row of one digit such as "1111".
+bool is_row_of_digits(std::string_view text)
+{
+    return is_one_character(text) &&
+           (text.front() == '0' || (is_digit(text.front()) && text.size() >= shortest_row));
 }
 
 } // namespace
@@ -94,6 +112,11 @@ bool is_placeholder(std::string_view text)
 std::optional<std::string> meaningful_text(std::string_view raw)
 {
     return is_placeholder(raw) ? std::nullopt : text_or_none(raw);
+}
+
+std::optional<std::string> meaningful_serial(std::string_view raw)
+{
+    return is_row_of_digits(trimmed_space(raw)) ? std::nullopt : meaningful_text(raw);
 }
 
 } // namespace ostrelum::linux_platform

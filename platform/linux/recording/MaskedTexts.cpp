@@ -55,6 +55,11 @@ std::string hidden_line(const std::string& content, MachinePseudonyms&)
     return meaningful_text(content) ? hidden + "\n" : content;
 }
 
+std::string hidden_serial(const std::string& content, MachinePseudonyms&)
+{
+    return meaningful_serial(content) ? hidden + "\n" : content;
+}
+
 std::string masked_machine_id(const std::string& content, MachinePseudonyms&)
 {
     return (installation_id(content) ? hidden : "uninitialized") + "\n";

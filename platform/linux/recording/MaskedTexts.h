@@ -23,6 +23,7 @@ struct MachinePseudonyms {
 
 /// A placeholder stays: it identifies nobody.
 std::string hidden_line(const std::string& content, MachinePseudonyms& given);
+std::string hidden_serial(const std::string& content, MachinePseudonyms& given);
 std::string unchanged(const std::string& content, MachinePseudonyms& given);
 /// machine-id(5); for another text, that the machine has none.
 std::string masked_machine_id(const std::string& content, MachinePseudonyms& given);

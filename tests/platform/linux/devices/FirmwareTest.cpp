@@ -18,6 +18,10 @@ TEST(Firmware, OfASourceWithoutTextsIsAnObjectWithoutValues)
     EXPECT_THAT(machine.rows("Select * from Win32_BIOS"), IsEmpty()) << "a table that is cut";
     machine.file("sys/class/dmi/id/board_name", "Default string\n");
     EXPECT_THAT(machine.rows("Select * from Win32_BaseBoard"), ElementsAre("null|null"));
+    machine.file("sys/class/dmi/id/bios_version", "2222\n");
+    machine.file("sys/class/dmi/id/product_serial", "2222\n");
+    EXPECT_THAT(machine.rows("Select Name, SerialNumber from Win32_BIOS"),
+                ElementsAre("2222|null"));
 }
 
 TEST(Firmware, HasADayOfReleaseOrNone)
@@ -38,12 +42,16 @@ TEST(Placeholder, IsTextThatNobodyFilledIn)
 {
     for (const char* text :
          {"To Be Filled By O.E.M.", "to be filled by O.E.M.More", "Default string",
-          "System Product Name", "Not Specified", " none ", "UNKNOWN", "0123456789", "0",
-          "00000000", "1111111", "xxxx", "..", "-", "<BAD INDEX>", "N/A"})
+          "System Product Name", "Not Specified", " none ", "UNKNOWN", "0123456789",
+          "Type2 - Board Product Name1", "xxxx", "..", "-", "<BAD INDEX>", "N/A"})
         EXPECT_TRUE(is_placeholder(text)) << text;
-    for (const char* text : {"", "1", "11", "X570D4U", "F7", "1.0", "P1.20", "00c0ffee", "Nonesuch",
-                             "System76", "Default string 2", "\xC3\xA9"})
+    for (const char* text : {"", "0", "11", "2222", "X570D4U", "F7", "1.0", "P1.20", "00c0ffee",
+                             "Nonesuch", "System76", "Default string 2", "\xC3\xA9"})
         EXPECT_FALSE(is_placeholder(text)) << text;
+    for (const char* serial : {"0", " 00000000 ", "1111", "none"})
+        EXPECT_FALSE(meaningful_serial(serial)) << serial;
+    for (const char* serial : {"1", "111", "11112"})
+        EXPECT_EQ(meaningful_serial(serial), serial);
 }
 
 TEST(LinuxManagementService, RefusesAFolderThatIsNotThereAndClassesThatAreNot)
