@@ -17,7 +17,7 @@ namespace {
 
 constexpr const char* user_name = "UserName";
 
-/// A recording tells whose pages it was made of.
+/// A recording tells whose pages it was made of. Nothing: the user of this process's.
 std::optional<std::string> user_of(const Options& options, const Sysroot& files)
 {
     if (options.user || files.is_live())
@@ -25,21 +25,10 @@ std::optional<std::string> user_of(const Options& options, const Sysroot& files)
     return recorded_system_calls(Sysroot(files, nullptr))->variable(user_name);
 }
 
-Environment environment_of(const Options& options, const Sysroot& files)
+/// The user that the program sees.
+std::optional<std::string> shown_user(const Options& options, const Sysroot& files)
 {
-    Environment environment = process_environment();
-    if (const auto user = user_of(options, files))
-        environment[user_name] = *user;
-    return environment;
-}
-
-/// The environment that the program sees.
-Environment shown_environment(const Options& options, const Sysroot& files)
-{
-    Environment environment = environment_of(options, files);
-    if (options.mask)
-        environment[user_name] = hidden_text;
-    return environment;
+    return options.mask ? std::string(hidden_text) : user_of(options, files);
 }
 
 class LinuxHostedMachine : public HostedMachine {
@@ -53,7 +42,7 @@ public:
     Platform services() override
     {
         if (!system_)
-            system_.emplace(files_, shown_environment(options_, files_));
+            system_.emplace(files_, process_environment(), shown_user(options_, files_));
         return {.registry = &system_->registry,
                 .file_writer = &system_->file_writer,
                 .clock = &system_->clock,
@@ -67,7 +56,7 @@ public:
         auto service = make_linux_management_service(files_, SessionFactsSource());
         if (!options_.mask)
             return service;
-        LinuxSystemApi open(files_, environment_of(options_, files_));
+        LinuxSystemApi open(files_, process_environment(), user_of(options_, files_));
         return std::make_unique<MaskedService>(std::move(service), open.Environ(user_name));
     }
 

@@ -12,20 +12,26 @@
 #include "sources/Ascii.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace ostrelum::linux_platform {
 
 /// The services that need no window, on Linux. What concerns the machine is read under `root`,
 /// "/" or the folder of a recorded machine; the user's own folders and settings are always real.
+/// `user` is whose pages are shown; nothing: the user of this process.
 struct LinuxSystem {
     explicit LinuxSystem(const std::string& root = "/",
-                         const Environment& variables = process_environment())
-        : environment(variables), clock(root), regional(variables), system_api(root, variables)
+                         const Environment& variables = process_environment(),
+                         const std::optional<std::string>& user = std::nullopt)
+        : environment(variables), clock(root), regional(variables),
+          system_api(root, variables, user)
     {
     }
-    LinuxSystem(const Sysroot& root, const Environment& variables)
-        : environment(variables), clock(root), regional(variables), system_api(root, variables)
+    LinuxSystem(const Sysroot& root, const Environment& variables,
+                const std::optional<std::string>& user)
+        : environment(variables), clock(root), regional(variables),
+          system_api(root, variables, user)
     {
     }
 

@@ -15,14 +15,6 @@ using namespace linux_platform;
 using namespace qt_platform;
 namespace {
 
-Environment environment_of(const MachineSource& source)
-{
-    Environment environment = process_environment();
-    if (source.user)
-        environment["UserName"] = *source.user;
-    return environment;
-}
-
 /// This desktop's screens do not belong to a recorded machine.
 SessionFactsSource session_of(const MachineSource& source)
 {
@@ -33,7 +25,7 @@ SessionFactsSource session_of(const MachineSource& source)
 
 int run_window(int& argc, char** argv, const MachineSource& source)
 {
-    LinuxSystem system(source.root, environment_of(source));
+    LinuxSystem system(source.root, process_environment(), source.user);
     const QtLook look{
         .hand = art_picture("Hand"), .hot_spot = {10, 3}, .desktop_entry = "dervalin-ostrelum"};
     const auto toolkit = make_qt_toolkit(argc, argv, look);

@@ -16,6 +16,9 @@ Environment process_environment();
 /// The variable of exactly that name; empty if it is not set.
 std::string variable(const Environment& environment, std::string_view name);
 
+/// The same in any case of its ASCII letters, if none of exactly that name holds something.
+std::string variable_in_any_case(const Environment& environment, std::string_view name);
+
 /// HOME, else the folder that the password file names for the user of this process. Empty if there
 /// is neither.
 std::string home_folder(const Environment& environment);
@@ -25,8 +28,8 @@ std::string home_folder(const Environment& environment);
 std::string base_folder(const Environment& environment, std::string_view name,
                         std::string_view fallback);
 
-/// The login name of the user of this process: USER, LOGNAME, else the password file's. Empty if
-/// none has it.
+/// The login name of the user of this process: what UserName, USER or LOGNAME holds in any case of
+/// its letters, if it names that account, else the password file's. Empty if none has it.
 std::string login_name(const Environment& environment);
 
 } // namespace ostrelum::linux_platform

@@ -78,13 +78,16 @@ std::uint32_t count_in_list(std::string_view list)
     return list.empty() ? count : 0;
 }
 
-LinuxSystemApi::LinuxSystemApi(const std::string& root, Environment environment)
-    : LinuxSystemApi(Sysroot::find(root), std::move(environment))
+LinuxSystemApi::LinuxSystemApi(const std::string& root, Environment environment,
+                               std::optional<std::string> user)
+    : LinuxSystemApi(Sysroot::find(root), std::move(environment), std::move(user))
 {
 }
 
-LinuxSystemApi::LinuxSystemApi(std::optional<Sysroot> files, Environment environment)
-    : files_(std::move(files)), environment_(std::move(environment)), instance_(environment_)
+LinuxSystemApi::LinuxSystemApi(std::optional<Sysroot> files, Environment environment,
+                               std::optional<std::string> user)
+    : files_(std::move(files)), environment_(std::move(environment)), user_(std::move(user)),
+      instance_(environment_)
 {
 }
 
@@ -105,16 +108,9 @@ int LinuxSystemApi::GetSystemMetrics(int index)
 
 std::string LinuxSystemApi::Environ(const std::string& name)
 {
-    const auto same = [&](const auto& entry) {
-        return same_ascii_letters(entry.first, name) && !entry.second.empty();
-    };
-    std::string value = variable(environment_, name);
-    const auto found = std::find_if(environment_.begin(), environment_.end(), same);
-    if (value.empty() && found != environment_.end())
-        value = found->second;
-    if (value.empty() && same_ascii_letters(name, "UserName"))
-        value = login_name(environment_);
-    return made_valid_utf8(value);
+    if (!same_ascii_letters(name, "UserName"))
+        return made_valid_utf8(variable_in_any_case(environment_, name));
+    return made_valid_utf8(user_ ? *user_ : login_name(environment_));
 }
 
 int LinuxSystemApi::GetAttr(const std::string& path)

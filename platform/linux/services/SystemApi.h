@@ -19,14 +19,18 @@ std::uint32_t count_in_list(std::string_view list);
 /// recorded machine.
 class LinuxSystemApi : public SystemApi {
 public:
-    LinuxSystemApi(const std::string& root, Environment environment);
+    /// `user` is whose pages are shown; nothing: the user of this process.
+    LinuxSystemApi(const std::string& root, Environment environment,
+                   std::optional<std::string> user = std::nullopt);
     /// Nothing in `files`: a machine without any.
-    LinuxSystemApi(std::optional<Sysroot> files, Environment environment);
+    LinuxSystemApi(std::optional<Sysroot> files, Environment environment,
+                   std::optional<std::string> user = std::nullopt);
 
     SystemInfo GetOstrelum() override;
     int GetSystemMetrics(int index) override;
 
-    /// "UserName", which Linux does not know, is the login name.
+    /// "UserName", which Linux does not know, is the login name: a variable of that name may hold
+    /// anything.
     std::string Environ(const std::string& name) override;
 
     /// 32 for a regular file that this process may read, 16 for a folder, 0 for anything else. The
@@ -39,6 +43,7 @@ public:
 private:
     std::optional<Sysroot> files_;
     Environment environment_;
+    std::optional<std::string> user_;
     SingleInstance instance_;
 };
 

@@ -58,16 +58,16 @@ TEST(SystemApi, FindsVariablesInAnyCase)
     const std::string own = account == nullptr ? "" : account->pw_name;
     const std::tuple<Environment, const char*, std::string> cases[] = {
         {{{"Path", "1"}, {"PATH", "2"}}, "PATH", "2"},
-        {{{"path", "1"}}, "PATH", "1"},
-        {{{"USERNAME", "ada"}, {"USER", "bob"}}, "UserName", "ada"},
-        {{{"USERNAME", ""}, {"USER", "bob"}, {"LOGNAME", "cid"}}, "UserName", "bob"},
-        {{{"LOGNAME", "c\xE9"}}, "UserName", "c\uFFFD"},
+        {{{"path", ""}, {"Path", "c\xE9"}}, "PATH", "c\uFFFD"},
+        {{{"USERNAME", "no such account"}, {"USER", "bob"}}, "UserName", own},
+        {{{"UserName", ""}, {"user", own}, {"LOGNAME", "cid"}}, "username", own},
         {{}, "UserName", own},
         {{{"USER", "bob"}}, "User", "bob"},
         {{{"USER", "bob"}}, "Name", ""},
     };
     for (const auto& [environment, name, value] : cases)
         EXPECT_EQ(LinuxSystemApi("/", environment).Environ(name), value) << name;
+    EXPECT_EQ(LinuxSystemApi("/", {{"UserName", own}}, "ada").Environ("UserName"), "ada");
 }
 
 TEST(SystemApi, TellsAFilesAttribute)
