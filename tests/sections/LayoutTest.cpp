@@ -94,6 +94,23 @@ TEST_F(Layout, OfEachPageWipesOutThatOfAnother)
     EXPECT_EQ(F1.Line2.Y2, F1.Line2.Y1);
 }
 
+TEST_F(Layout, HasHintsForTitlesThatNeedThem)
+{
+    open(3);
+    EXPECT_EQ(F1.LT(4).ToolTipText, Trad[Text::AutoRestartHint]);
+    EXPECT_EQ(F1.LT(5).ToolTipText, Trad[Text::StartupDelayHint]);
+    open(9);
+    EXPECT_EQ(F1.LT(3).ToolTipText, Trad[Text::CurrentConfigurationHint]);
+    EXPECT_EQ(F1.LT(4).ToolTipText, Trad[Text::RefreshRateRangeHint]);
+    for (const bool least : {false, true}) {
+        change(has["Win32_VideoController"], {{"MinRefreshRate", least ? Value(56) : Value()},
+                                              {"MaxRefreshRate", least ? Value() : Value(75)}});
+        open(9);
+        EXPECT_EQ(F1.LT(4).ToolTipText,
+                  Trad[least ? Text::MinimumRefreshRateHint : Text::MaximumRefreshRateHint]);
+    }
+}
+
 TEST_F(Layout, WithoutAMediumTheNoticeStandsAloneOnThePage)
 {
     const struct {
