@@ -35,9 +35,9 @@ class ManagementService {
 public:
     virtual ~ManagementService() = default;
 
-    /// Runs a query. The objects bear the selected properties and the class's key. Throws Failure
-    /// for text that is no WQL, for a class or a property that the namespace does not have, and
-    /// when the service is gone.
+    /// Runs a query. The objects bear the selected properties and those that come unasked (Key).
+    /// Throws Failure for text that is no WQL, for a class or a property that the namespace does
+    /// not have, and when the service is gone.
     virtual ResultSet ExecQuery(std::string_view wql) = 0;
 };
 

@@ -8,7 +8,8 @@ namespace ostrelum::inline sources {
 
 enum class CimType { Boolean, UInt16, UInt32, UInt64, String, DateTime };
 
-/// Whether a property comes with every object, selected or not.
+/// Whether a property comes with every object, selected or not. A class's key does so where that is
+/// relied on; a battery's takes reading that a figure of each second has no use for.
 enum class Key : bool { No, Yes };
 
 /// How a property tells whose machine it is: what has to be hidden before others may read it.
@@ -40,7 +41,7 @@ inline constexpr PropertySchema Win32_BaseBoard_properties[] = {
 
 inline constexpr PropertySchema Win32_Battery_properties[] = {
     {"DesignVoltage", CimType::UInt64, "mV", "Voltage"},
-    {"DeviceID", CimType::String, "", "Serial number, maker and name run together", Key::Yes,
+    {"DeviceID", CimType::String, "", "Serial number, maker and name run together", Key::No,
      Identity::Value},
     {"EstimatedChargeRemaining", CimType::UInt16, "%", "Charge left"},
     {"EstimatedRunTime", CimType::UInt32, "min", "Time until empty"},

@@ -2,12 +2,15 @@
 #include "console/linux/LinuxHost.h"
 #include "frame/MainForm.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 #include <malloc.h>
+#include <memory>
+#include <set>
 
 namespace ostrelum {
 
 using namespace console;
+using namespace linux_platform;
 
 namespace {
 
@@ -24,6 +27,62 @@ std::size_t memory_in_use()
 {
     const struct mallinfo2 told = ::mallinfo2();
     return told.uordblks + told.hblkhd;
+}
+
+/// What a machine is asked for, but the state of each process.
+class Asked : public AccessObserver {
+public:
+    void on_exists(const std::string& path) override { add(path); }
+    void on_read(const std::string& path, const std::optional<std::string>&) override { add(path); }
+    void on_read_piece(const std::string& path, std::uint64_t, const std::string&) override
+    {
+        add(path);
+    }
+    void on_list(const std::string& path, const std::vector<std::string>&) override { add(path); }
+    void on_link(const std::string& path) override { add(path); }
+    void on_answer(const std::string& list, const std::string&, const std::string&) override
+    {
+        add(list);
+    }
+
+    std::multiset<std::string> places;
+
+private:
+    void add(const std::string& place)
+    {
+        if (!place.starts_with("/proc/") || !place.ends_with("/stat"))
+            places.insert(place);
+    }
+};
+
+TEST(LivePages, ReadWhatTheyShowOnceAndNoMore)
+{
+    const std::string supply = "/sys/class/power_supply", battery = supply + "/BAT0/";
+    const struct {
+        const char* root;
+        int page;
+        std::multiset<std::string> places;
+    } cases[] = {
+        {"/", 2, {}},
+        {"/", 4, {"/proc", "/proc/meminfo"}},
+        {"/", 6, {"/proc/meminfo"}},
+        // It runs on a battery that tells charges, not energy.
+        {OSTRELUM_TESTS_DIR "/machines/notebook",
+         13,
+         {supply, supply + "/AC/type", battery + "type", battery + "scope", battery + "present",
+          battery + "voltage_now", battery + "capacity", battery + "status",
+          battery + "time_to_empty_now", battery + "energy_now", battery + "charge_now",
+          battery + "current_now"}},
+    };
+    for (const auto& c : cases) {
+        const auto asked = std::make_shared<Asked>();
+        const auto machine = machine_with(Sysroot(Sysroot(c.root), asked), {});
+        ConsoleProgram program(*machine, "English");
+        program.page(c.page);
+        asked->places.clear();
+        tick(1);
+        EXPECT_EQ(asked->places, c.places) << c.page;
+    }
 }
 
 TEST(LivePages, StandOpenForHoursWithoutGrowing)

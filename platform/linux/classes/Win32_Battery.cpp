@@ -40,8 +40,8 @@ struct Battery {
     std::optional<double> ratio(const char* file, const char* divisor) const
     {
         const auto part = amount(file);
-        const auto whole = amount(divisor);
-        return part && whole && *whole > 0 ? std::optional(*part / *whole) : std::nullopt;
+        const auto whole = part ? amount(divisor) : std::nullopt;
+        return whole && *whole > 0 ? std::optional(*part / *whole) : std::nullopt;
     }
 };
 

@@ -10,17 +10,31 @@
 #include "platform/linux/os/Processes.h"
 
 #include <algorithm>
+#include <optional>
 #include <vector>
 
 namespace ostrelum::linux_platform {
 namespace {
 
 /// The running system.
-struct System {
-    const MachineView& machine;
+class System {
+public:
+    explicit System(const MachineView& machine) : machine_(&machine) {}
 
-    const Sysroot& root() const { return machine.root; }
-    MemoryInfo memory() const { return parse_meminfo(root().read("/proc/meminfo").value_or("")); }
+    const MachineView& machine() const { return *machine_; }
+    const Sysroot& root() const { return machine_->root; }
+
+    /// Read when it is first asked for: two properties speak of one moment.
+    const MemoryInfo& memory() const
+    {
+        if (!memory_)
+            memory_ = parse_meminfo(root().read("/proc/meminfo").value_or(""));
+        return *memory_;
+    }
+
+private:
+    const MachineView* machine_;
+    mutable std::optional<MemoryInfo> memory_;
 };
 
 Value caption(const System& system)
@@ -41,14 +55,12 @@ Value free_physical_memory(const System& system)
 
 Value free_virtual_memory(const System& system)
 {
-    const MemoryInfo memory = system.memory();
-    return sum(memory.available, memory.swap_free);
+    return sum(system.memory().available, system.memory().swap_free);
 }
 
 Value total_virtual_memory(const System& system)
 {
-    const MemoryInfo memory = system.memory();
-    return sum(memory.total, memory.swap_total);
+    return sum(system.memory().total, system.memory().swap_total);
 }
 
 /// A system that lies in memory or over another one was not installed.
@@ -72,12 +84,12 @@ Value install_date(const System& system)
         return {};
     std::optional<std::int64_t> oldest;
     for (const char* path : {"/", "/lost+found", "/etc/machine-id"}) {
-        const auto birth = system.machine.system_calls->birth_time(path);
+        const auto birth = system.machine().system_calls->birth_time(path);
         if (birth && *birth >= year_2000 && (!oldest || *birth < *oldest))
             oldest = birth;
     }
     return oldest
-               ? value_of(cim_datetime(*oldest, system.machine.system_calls->utc_offset(*oldest)))
+               ? value_of(cim_datetime(*oldest, system.machine().system_calls->utc_offset(*oldest)))
                : Value();
 }
 
@@ -94,7 +106,7 @@ Value number_of_processes(const System& system)
 
 Value architecture(const System& system)
 {
-    const auto kind = kernel_architecture(system.machine);
+    const auto kind = kernel_architecture(system.machine());
     if (!kind)
         return {};
     if (*kind == "aarch64")
@@ -113,7 +125,7 @@ Value language(const System& system)
         if (const auto locale = assigned(system.root().read(path).value_or(""), "LANG"))
             return value_of(locale_id(*locale));
     }
-    const auto locale = system.machine.system_calls->variable("LANG");
+    const auto locale = system.machine().system_calls->variable("LANG");
     return locale ? value_of(locale_id(*locale)) : Value();
 }
 
@@ -125,7 +137,7 @@ Value registered_user(const System& system)
 Value serial_number(const System& system)
 {
     const auto id = system.root().text("/etc/machine-id");
-    return id ? value_of(system.machine.identities.installation(*id)) : Value();
+    return id ? value_of(system.machine().identities.installation(*id)) : Value();
 }
 
 Value service_pack(const System& system)
@@ -158,10 +170,12 @@ constexpr PropertyRow<System> rows[] = {
 /// One, wherever there is a kernel or a distribution.
 std::vector<System> systems(const MachineView& machine)
 {
+    if (machine.root.is_live())
+        return {System(machine)};
     for (const char* path : {"/proc/sys/kernel/osrelease", "/proc/meminfo", "/etc/os-release",
                              "/usr/lib/os-release"}) {
         if (machine.root.exists(path))
-            return {{machine}};
+            return {System(machine)};
     }
     return {};
 }

@@ -30,10 +30,8 @@ std::optional<bool> is_kernel_thread(std::string_view stat)
 
 std::optional<std::uint32_t> process_count(const Sysroot& root)
 {
-    // A user who may not see the first process sees only his own processes.
-    if (!root.exists("/proc/1/stat"))
-        return std::nullopt;
     std::uint32_t count = 0;
+    bool sees_all = false;
     for (const std::string& name : root.list("/proc")) {
         if (!whole_number(name))
             continue;
@@ -41,8 +39,10 @@ std::optional<std::uint32_t> process_count(const Sysroot& root)
         const auto stat = root.read("/proc/" + name + "/stat", 4096);
         if (stat && is_kernel_thread(*stat) == false)
             ++count;
+        // A user who may not see the first process sees only his own processes.
+        sees_all |= stat && name == "1";
     }
-    return count;
+    return sees_all ? std::optional(count) : std::nullopt;
 }
 
 } // namespace ostrelum::linux_platform
