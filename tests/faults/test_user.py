@@ -19,9 +19,8 @@ SOCKET = {(5, "Socket")}
 MODULES = {(6, "Chip type"), (6, "Memory in use"), (6, "Available memory"), (6, "Modules installed"),
            (6, "Data bus width")}
 ROWS_OF_ROOT = {
-    # A kernel that does not tell the last cache leaves it to the firmware's table. Cut to whole gigabytes, its total
-    # of the memory is one less.
-    "desktop": SOCKET | MODULES | {(5, "L3 cache size"), (1, "RAM"), (6, "Total memory")},
+    # Cut to whole gigabytes, the kernel's total of the memory is one less.
+    "desktop": SOCKET | MODULES | {(1, "RAM"), (6, "Total memory")},
     # The machine's serial number identifies it.
     "server": SOCKET | {(8, "Serial number")},
     # A kind of memory that only the firmware names.

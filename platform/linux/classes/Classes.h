@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <span>
 #include <string_view>
@@ -24,13 +25,29 @@
 /// order does not compile.
 namespace ostrelum::linux_platform {
 
+/// What is delivered for what is not known. One null may take a page to its short form, which
+/// leaves out rows that are known. Where the page itself takes an empty text, or 0, for unknown, it
+/// is given that.
+enum class Unknown : std::uint8_t { Null, EmptyText, Zero };
+
 /// A property and how it is read. Whole numbers are given as such whatever their width; what is not
-/// known is null. Such a function does not throw.
+/// known is null, whatever is delivered then. Such a function does not throw.
 template <class Object>
 struct PropertyRow {
     std::string_view name;
     Value (*value)(const Object& object);
+    Unknown unknown = Unknown::Null;
 };
+
+/// The property's value as it is delivered.
+template <class Object>
+Value delivered(const PropertyRow<Object>& row, const Object& object)
+{
+    Value value = row.value(object);
+    if (!value.is_null() || row.unknown == Unknown::Null)
+        return value;
+    return row.unknown == Unknown::Zero ? Value(0) : Value("");
+}
 
 /// A class as Linux fills it.
 struct LinuxClass {
@@ -52,7 +69,7 @@ consteval LinuxClass linux_class(std::string_view name)
         throw "the table must have the schema's properties in their order";
     return {&schema, [](const MachineView& machine, const ObjectVisitor& visit) {
                 for (const auto& object : objects(machine))
-                    visit([&](std::size_t index) { return rows[index].value(object); });
+                    visit([&](std::size_t index) { return delivered(rows[index], object); });
             }};
 }
 

@@ -151,23 +151,25 @@ Value version(const System& system)
     return release ? value_of(kernel_version_text(*release)) : Value();
 }
 
+/// Where the page would take 0, or an empty text, for the system's own word, unknown is null: 0
+/// says that memory is favoured for programs, and an empty version shows as ", ".
 constexpr PropertyRow<System> rows[] = {
     {"Caption", caption},
-    {"FreePhysicalMemory", free_physical_memory},
-    {"FreeVirtualMemory", free_virtual_memory},
-    {"InstallDate", install_date},
+    {"FreePhysicalMemory", free_physical_memory, Unknown::Zero},
+    {"FreeVirtualMemory", free_virtual_memory, Unknown::Zero},
+    {"InstallDate", install_date, Unknown::EmptyText},
     {"LargeSystemCache", large_system_cache},
-    {"NumberOfProcesses", number_of_processes},
-    {"OSArchitecture", architecture},
-    {"OSLanguage", language},
-    {"RegisteredUser", registered_user},
-    {"SerialNumber", serial_number},
+    {"NumberOfProcesses", number_of_processes, Unknown::Zero},
+    {"OSArchitecture", architecture, Unknown::EmptyText},
+    {"OSLanguage", language, Unknown::Zero},
+    {"RegisteredUser", registered_user, Unknown::EmptyText},
+    {"SerialNumber", serial_number, Unknown::EmptyText},
     {"ServicePackMajorVersion", service_pack},
-    {"TotalVirtualMemorySize", total_virtual_memory},
+    {"TotalVirtualMemorySize", total_virtual_memory, Unknown::Zero},
     {"Version", version},
 };
 
-/// One, wherever there is a kernel or a distribution.
+/// One, wherever there is a kernel or a distribution, as there is on the machine that this runs on.
 std::vector<System> systems(const MachineView& machine)
 {
     if (machine.root.is_live())

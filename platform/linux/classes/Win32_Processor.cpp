@@ -25,19 +25,21 @@ CpuRecord first_record(const CpuPackage& package)
     return (*package.cpuinfo)().of(package.cpus.front());
 }
 
-/// The codes of the kinds that Linux runs on (CIM schema as the service extends it).
+/// The codes of the kinds that Linux runs on (CIM schema as the service extends it). Other kinds
+/// have none, and 0 is x86's.
 Value architecture(const CpuPackage& package)
 {
     const std::string kind = kernel_architecture(package.machine).value_or("");
     if (kind.size() == 4 && kind.starts_with('i') && kind.ends_with("86"))
         return 0;
+    constexpr int unknown_architecture = 65535;
     constexpr std::array<std::pair<std::string_view, int>, 6> kinds{
         {{"x86_64", 9}, {"aarch64", 12}, {"arm", 5}, {"ppc", 3}, {"mips", 1}, {"ia64", 6}}};
     for (const auto& [name, code] : kinds) {
         if (kind.starts_with(name))
             return code;
     }
-    return {};
+    return unknown_architecture;
 }
 
 /// "Intel64 Family 6 Model 45 Stepping 7".
@@ -218,14 +220,14 @@ Value socket(const CpuPackage& package)
 
 constexpr PropertyRow<CpuPackage> rows[] = {
     {"Architecture", architecture},
-    {"Caption", caption},
-    {"CurrentClockSpeed", current_clock},
-    {"L2CacheSize", l2_cache},
-    {"L3CacheSize", l3_cache},
-    {"Manufacturer", manufacturer},
-    {"MaxClockSpeed", max_clock},
-    {"Name", name},
-    {"SocketDesignation", socket},
+    {"Caption", caption, Unknown::EmptyText},
+    {"CurrentClockSpeed", current_clock, Unknown::Zero},
+    {"L2CacheSize", l2_cache, Unknown::Zero},
+    {"L3CacheSize", l3_cache, Unknown::Zero},
+    {"Manufacturer", manufacturer, Unknown::EmptyText},
+    {"MaxClockSpeed", max_clock, Unknown::Zero},
+    {"Name", name, Unknown::EmptyText},
+    {"SocketDesignation", socket, Unknown::EmptyText},
 };
 
 } // namespace
