@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-/// Upper and lower case of the Latin, Greek and Cyrillic letters, one character for one, the same
-/// in every locale. Other characters stay as they are.
+/// Upper and lower case of the Latin, Greek, Cyrillic and Armenian letters, one character for one,
+/// the same in every locale (Unicode's simple case mappings). Other characters stay as they are.
 namespace ostrelum::inline sources {
 
 char32_t upper_case(char32_t character);

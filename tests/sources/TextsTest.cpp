@@ -29,6 +29,7 @@ TEST(CapitalText, WorksOnCharacters)
     for (const auto& [text, capital] :
          pairs("WORKGROUP=Workgroup|MyDomain.LOCAL=Mydomain.local|WORKGROUP-PC=Workgroup-pc|x=X|"
                "ÑANDÚ=Ñandú|éTÉ=Été|ΣΟΦΌΣ=Σοφόσ|дОМЕН Ё=Домен ё|ıIİ=Iii|1ABC=1abc|\xC3=\xC3|"
+               "ȘTEFAN=Ștefan|ƯNG=Ưng|ԵՐԵՎԱՆ=Երեվան|ᾳΑι=ᾼαι|ßSS=ßss|"
                "a\xFF\xE1\xBA"
                "B=A\xFF\xE1\xBA"
                "b|😀AB=😀ab"))
@@ -41,11 +42,17 @@ TEST(LetterCase, AgreesWithTheSystemsTablesOnAllItsAlphabets)
     const std::string before = std::setlocale(LC_CTYPE, nullptr);
     ASSERT_NE(std::setlocale(LC_CTYPE, "C.UTF-8"), nullptr);
     const std::pair<char32_t, char32_t> alphabets[] = {
-        {0, 0x17F}, {0x386, 0x3CE}, {0x400, 0x52F}, {0x1E00, 0x1E9E}, {0x1EA0, 0x1EFF}};
+        {0, 0x3E1},       {0x3F0, 0x587},   {0x1C80, 0x1C88}, {0x1D79, 0x1D8E}, {0x1E00, 0x218F},
+        {0x2C60, 0x2C7F}, {0xA640, 0xA7F6}, {0xAB53, 0xAB53}, {0xFF21, 0xFF5A}};
+    // A library that is newer than the table has partners here for letters that had none.
+    const auto same = [](char32_t ours, wint_t systems, char32_t letter) {
+        const bool came_later = ours == letter && systems >= 0xA7CB && systems <= 0xA7DC;
+        EXPECT_TRUE(ours == systems || came_later) << unsigned{letter};
+    };
     for (const auto& [first, last] : alphabets) {
         for (char32_t c = first; c <= last; ++c) {
-            EXPECT_EQ(upper_case(c), std::towupper(static_cast<wint_t>(c))) << unsigned{c};
-            EXPECT_EQ(lower_case(c), std::towlower(static_cast<wint_t>(c))) << unsigned{c};
+            same(upper_case(c), std::towupper(static_cast<wint_t>(c)), c);
+            same(lower_case(c), std::towlower(static_cast<wint_t>(c)), c);
         }
     }
     std::setlocale(LC_CTYPE, before.c_str());
