@@ -9,7 +9,8 @@ class FileWriter {
 public:
     virtual ~FileWriter() = default;
     /// Gives the file of that full path (UTF-8) `bytes` as its whole content, and makes it where
-    /// there is none. Throws Failure if that cannot be done; an earlier file is then as it was.
+    /// there is none. Throws Failure if that cannot be done; an earlier file is then as it was,
+    /// unless it could only be written over.
     virtual void replace(const std::string& path, const std::string& bytes) = 0;
 };
 

@@ -1,6 +1,6 @@
 #include "platform/linux/services/FileWriter.h"
 
-#include "platform/linux/files/WholeFile.h"
+#include "platform/linux/files/FileReplacement.h"
 
 namespace ostrelum::linux_platform {
 

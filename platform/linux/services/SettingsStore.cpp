@@ -1,5 +1,6 @@
 #include "platform/linux/services/SettingsStore.h"
 
+#include "platform/linux/files/FileReplacement.h"
 #include "platform/linux/files/WholeFile.h"
 #include "platform/linux/formats/SettingsText.h"
 
