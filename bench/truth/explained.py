@@ -6,6 +6,11 @@ MAKERS = {"ASUS": "Ancor Communications Inc", "CSOT": "California Institute of T
           "Tianma": "Thermotrex Corporation", "Samsung": "Seiko Epson Corporation"}
 CPU, VIDEO, MONITOR = "Win32_Processor", "Win32_VideoController", "Win32_DesktopMonitor"
 
+
+def has_card(machine):
+    return "SD" in [machine.text(f"/sys/block/{name}/device/type") for name in machine.list("/sys/block")]
+
+
 # The tests get the machine, our value and theirs. Only x86 has boost, and none beyond 5 times the rated clock.
 ROWS = (
     (f"{CPU}.MaxClockSpeed", "lscpu", "the rated clock, not the highest for a moment",
@@ -30,8 +35,9 @@ ROWS = (
     ("Win32_CDROMDrive.Size", "lsblk", "the kernel's figure for a drive without a disc",
      lambda m, ours, theirs: (ours, theirs) == (None, str(2097151 * 512))),
     ("Win32_LogicalDisk.DriveType", "lsblk", "a memory card can be taken out",
-     lambda m, ours, theirs: (ours, theirs) == (2, 3) and "SD" in [
-         m.text(f"/sys/block/{name}/device/type") for name in m.list("/sys/block")]),
+     lambda m, ours, theirs: (ours, theirs) == (2, 3) and has_card(m)),
+    ("Win32_DiskDrive.InterfaceType", "lsblk", "a memory card can be taken out",
+     lambda m, ours, theirs: (ours, theirs) == ("USB", "SCSI") and has_card(m)),
     ("Win32_BIOS.SerialNumber", "dmidecode", "a text that nobody filled in",
      lambda m, ours, theirs: (ours, theirs) == (None, "0123456789")),
     ("Win32_Battery.EstimatedChargeRemaining", "acpi", "the battery's own percentage; acpi divides two charges",

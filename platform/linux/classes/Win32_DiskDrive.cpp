@@ -1,9 +1,9 @@
 #include "platform/linux/classes/Classes.h"
 #include "platform/linux/devices/BlockDevices.h"
+#include "platform/linux/devices/Drives.h"
 #include "platform/linux/devices/UdevDatabase.h"
 #include "platform/linux/text/Text.h"
 
-#include <array>
 #include <set>
 #include <vector>
 
@@ -29,11 +29,12 @@ bool passes(std::string_view path, std::string_view word)
     return false;
 }
 
-/// A bridge from USB to SATA has both in its path: what the user plugs in counts.
+/// A bridge from USB to SATA has both in its path: what the user plugs in counts. A memory card is
+/// plugged in, too, also where its slot hangs on another bus.
 Value interface_type(const Drive& drive)
 {
     const std::string path = device_path(drive.machine.root, drive.name);
-    if (passes(path, "/usb"))
+    if (passes(path, "/usb") || is_memory_card(drive.machine.root, drive.name))
         return "USB";
     if (passes(path, "/fw"))
         return "1394";
@@ -76,19 +77,9 @@ Value caption(const Drive& drive)
     return drive.name.starts_with("vd") ? Value("VirtIO Disk") : Value();
 }
 
-/// An extended partition, which only contains others, has a size of two sectors at most and does
-/// not count.
 Value partitions(const Drive& drive)
 {
-    const Sysroot& root = drive.machine.root;
-    int count = 0;
-    for (const std::string& child : root.list(drive.folder())) {
-        const std::string folder = drive.folder() + "/" + child;
-        if (child.starts_with(drive.name) && root.exists(folder + "/partition") &&
-            root.number(folder + "/size").value_or(0) > 2)
-            ++count;
-    }
-    return count;
+    return static_cast<std::int64_t>(partitions_of(drive.machine.root, drive.name).size());
 }
 
 constexpr PropertyRow<Drive> rows[] = {
@@ -96,24 +87,6 @@ constexpr PropertyRow<Drive> rows[] = {
     {"InterfaceType", interface_type},
     {"Partitions", partitions},
 };
-
-/// Block devices that are no drives: made by software, or listed as something else.
-constexpr std::array<std::string_view, 11> no_drives{"dm-", "drbd", "fd",  "loop", "md",  "mtd",
-                                                     "nbd", "ram",  "rbd", "sr",   "zram"};
-
-bool is_drive(const Sysroot& root, const std::string& name)
-{
-    for (const std::string_view kind : no_drives) {
-        if (name.starts_with(kind))
-            return false;
-    }
-    // The boot areas of a soldered memory card are areas of the drive, not drives.
-    if (name.starts_with("mmcblk") &&
-        (name.find("boot") != name.npos || name.find("rpmb") != name.npos))
-        return false;
-    return device_path(root, name).find("/devices/virtual/") == std::string::npos &&
-           root.number("/sys/block/" + name + "/hidden") != 1;
-}
 
 /// Several ways to one disk are one drive: they have the same identity.
 bool is_another_way(const Sysroot& root, const std::string& name, std::set<std::string>& seen)

@@ -7,6 +7,7 @@ namespace ostrelum::linux_platform {
 namespace {
 
 constexpr std::uint64_t sector_bytes = 512;
+constexpr std::uint64_t extended_bytes = 2 * sector_bytes;
 /// Logical volumes may lie on each other; deeper than this is a circle.
 constexpr int deepest_stack = 16;
 
@@ -20,6 +21,20 @@ std::string in_class(const std::string& name)
     return "/sys/class/block/" + name;
 }
 
+std::string in_list(const std::string& disk)
+{
+    return "/sys/block/" + disk;
+}
+
+/// The size of a disk or partition that has its files in that folder.
+std::optional<std::uint64_t> bytes_of(const Sysroot& root, const std::string& folder)
+{
+    const auto sectors = root.number(folder + "/size");
+    if (!sectors || *sectors == 0 || *sectors > UINT64_MAX / sector_bytes)
+        return std::nullopt;
+    return *sectors * sector_bytes;
+}
+
 bool is_device(const Sysroot& root, const std::string& name)
 {
     return !name.empty() && root.exists(in_class(name));
@@ -29,7 +44,7 @@ bool is_device(const Sysroot& root, const std::string& name)
 std::string mapped_device(const Sysroot& root, const std::string& mapped)
 {
     for (const std::string& name : block_devices(root)) {
-        if (name.starts_with("dm-") && root.text("/sys/block/" + name + "/dm/name") == mapped)
+        if (name.starts_with("dm-") && root.text(in_list(name) + "/dm/name") == mapped)
             return name;
     }
     return {};
@@ -106,7 +121,7 @@ std::string device_path(const Sysroot& root, const std::string& name)
 {
     if (const auto path = root.link(in_class(name)))
         return *path;
-    return root.link("/sys/block/" + name).value_or("");
+    return root.link(in_list(name)).value_or("");
 }
 
 std::vector<std::string> block_devices(const Sysroot& root)
@@ -114,12 +129,23 @@ std::vector<std::string> block_devices(const Sysroot& root)
     return root.list("/sys/block");
 }
 
+std::vector<Partition> partitions_of(const Sysroot& root, const std::string& disk)
+{
+    std::vector<Partition> partitions;
+    for (const std::string& child : root.list(in_list(disk))) {
+        const std::string place = in_list(disk) + "/" + child;
+        if (!child.starts_with(disk) || !root.exists(place + "/partition"))
+            continue;
+        const auto size = bytes_of(root, place);
+        if (size.value_or(0) > extended_bytes)
+            partitions.push_back({child, *size});
+    }
+    return partitions;
+}
+
 std::optional<std::uint64_t> device_bytes(const Sysroot& root, const std::string& name)
 {
-    const auto sectors = root.number("/sys/block/" + name + "/size");
-    if (!sectors || *sectors == 0 || *sectors > UINT64_MAX / sector_bytes)
-        return std::nullopt;
-    return *sectors * sector_bytes;
+    return bytes_of(root, in_list(name));
 }
 
 } // namespace ostrelum::linux_platform

@@ -3,6 +3,7 @@
 #include "platform/linux/files/Sysroot.h"
 #include "platform/linux/formats/Mounts.h"
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -29,7 +30,17 @@ std::string device_path(const Sysroot& root, const std::string& name);
 /// The names under /sys/block, in natural order.
 std::vector<std::string> block_devices(const Sysroot& root);
 
-/// Size of a device in bytes; nothing for one of no size.
+struct Partition {
+    std::string name;
+    /// Bytes.
+    std::uint64_t size = 0;
+};
+
+/// The partitions of a disk. An extended one, which only contains others, has a size of two sectors
+/// at most and is not among them.
+std::vector<Partition> partitions_of(const Sysroot& root, const std::string& disk);
+
+/// Size of a whole device in bytes; nothing for one of no size.
 std::optional<std::uint64_t> device_bytes(const Sysroot& root, const std::string& name);
 
 } // namespace ostrelum::linux_platform
