@@ -1,5 +1,6 @@
 #include "platform/linux/classes/Classes.h"
 #include "platform/linux/devices/BlockDevices.h"
+#include "platform/linux/devices/Drives.h"
 #include "platform/linux/devices/FileSystemFacts.h"
 #include "platform/linux/devices/OpticalDrives.h"
 #include "platform/linux/devices/Volumes.h"
@@ -16,15 +17,16 @@ constexpr int network_disk = 4;
 constexpr int optical_disc = 5;
 constexpr int memory_disk = 6;
 
-/// A mounted volume, or an optical drive whatever is in it.
+/// A mounted volume, an optical drive whatever is in it, or what is on another drive that can be
+/// taken out.
 struct Disk {
     const MachineView& machine;
-    /// Without a mount point: a drive that is not mounted.
+    /// Without a mount point: one that is not mounted.
     Volume volume;
     /// The kernel's name of the device; empty for none.
     std::string device;
-    /// The device that the system itself lies on.
-    std::string system_device;
+    /// Size in bytes of what is not mounted; nothing for an empty drive.
+    std::optional<std::uint64_t> unmounted_size;
 
     bool mounted() const { return !volume.mount.target.empty(); }
     FileSystemFacts facts() const { return {machine, device}; }
@@ -41,18 +43,6 @@ Value caption(const Disk& disk)
     return disk.mounted() ? disk.volume.mount.target : "/dev/" + disk.device;
 }
 
-/// A memory card can be taken out, unless the system runs from it; other disks say it themselves.
-bool is_removable(const Disk& disk, const std::string& whole)
-{
-    const Sysroot& root = disk.machine.root;
-    if (root.number("/sys/block/" + whole + "/removable") == 1)
-        return true;
-    if (root.text("/sys/block/" + whole + "/device/type") != "SD")
-        return false;
-    const auto system = whole_disks(root, disk.system_device);
-    return std::ranges::find(system, whole) == system.end();
-}
-
 Value drive_type(const Disk& disk)
 {
     if (disk.volume.network)
@@ -63,7 +53,7 @@ Value drive_type(const Disk& disk)
         return memory_disk;
     const auto disks = whole_disks(disk.machine.root, disk.device);
     const bool removable = std::ranges::any_of(
-        disks, [&](const std::string& whole) { return is_removable(disk, whole); });
+        disks, [&](const std::string& whole) { return is_removable(disk.machine.root, whole); });
     return removable ? removable_disk : fixed_disk;
 }
 
@@ -74,14 +64,22 @@ Value volume_name(const Disk& disk)
     return disk.facts().label().value_or("");
 }
 
+/// What nobody can tell of a volume that is there is an empty text: lists join the texts of several
+/// volumes, and each has its place in them.
+Value told(const Disk& disk, const std::optional<std::string>& text)
+{
+    const bool is_there = disk.mounted() ? !disk.volume.network : disk.unmounted_size.has_value();
+    return is_there ? Value(text.value_or("")) : value_of(text);
+}
+
 Value file_system(const Disk& disk)
 {
-    return value_of(disk.facts().type(disk.volume.mount.type));
+    return told(disk, disk.facts().type(disk.volume.mount.type));
 }
 
 Value serial(const Disk& disk)
 {
-    return value_of(disk.facts().serial(disk.volume.mount.type));
+    return told(disk, disk.facts().serial(disk.volume.mount.type));
 }
 
 /// 64-bit numbers are text; nothing for a product beyond 64 bits.
@@ -96,10 +94,8 @@ Value size(const Disk& disk)
 {
     if (const auto space = disk.space())
         return bytes(space->blocks, space->block_size);
-    if (disk.mounted())
-        return {};
-    const auto disc = disc_bytes(disk.machine.root, disk.device);
-    return disc ? Value(std::to_string(*disc)) : Value();
+    const bool is_known = !disk.mounted() && disk.unmounted_size;
+    return is_known ? Value(std::to_string(*disk.unmounted_size)) : Value();
 }
 
 Value free_space(const Disk& disk)
@@ -115,36 +111,42 @@ constexpr PropertyRow<Disk> rows[] = {
     {"VolumeName", volume_name}, {"VolumeSerialNumber", serial},
 };
 
-std::vector<Volume> mounted_volumes(const Sysroot& root)
+/// What is plugged in but not mounted has a size and no free space. It comes first, since a page
+/// that cannot read a free space shows that of the volume before.
+std::vector<Disk> unmounted_disks(const MachineView& machine, const std::vector<Mount>& mounts)
 {
-    auto table = root.read("/proc/self/mountinfo");
-    if (!table)
-        table = root.read("/proc/self/mounts");
-    return volumes_of(parse_mounts(table.value_or("")));
+    std::vector<Disk> disks;
+    for (const auto& [device, size] : unmounted_volumes(machine.root, mounts))
+        disks.push_back({machine, Volume(), device, size});
+    return disks;
 }
 
-/// Mounted volumes by mount point, then the optical drives, so that these come in the same order as
-/// the drives' own class has them.
+std::vector<Disk> optical_disks(const MachineView& machine)
+{
+    std::vector<Disk> discs;
+    for (const std::string& drive : optical_drives(machine.root))
+        discs.push_back({machine, Volume(), drive, disc_bytes(machine.root, drive)});
+    return discs;
+}
+
+/// Drives that are not mounted, mounted volumes by mount point, then the optical drives, so that
+/// these come in the same order as the drives' own class has them.
 std::vector<Disk> disks(const MachineView& machine)
 {
-    std::vector<Disk> fixed;
-    std::vector<Disk> discs;
-    std::string system_device;
-    for (const std::string& drive : optical_drives(machine.root))
-        discs.push_back({machine, Volume(), drive, std::string()});
-    for (Volume& volume : mounted_volumes(machine.root)) {
+    const auto mounts = mount_table(machine.root);
+    std::vector<Disk> all = unmounted_disks(machine, mounts);
+    std::vector<Disk> discs = optical_disks(machine);
+    for (Volume& volume : volumes_of(mounts)) {
         const std::string device =
             volume.network ? "" : device_of_mount(machine.root, volume.mount);
-        if (volume.mount.target == "/")
-            system_device = device;
         const auto drive = std::ranges::find(discs, device, &Disk::device);
         if (drive != discs.end())
             drive->volume = std::move(volume);
         else
-            fixed.push_back({machine, std::move(volume), device, system_device});
+            all.push_back({machine, std::move(volume), device, std::nullopt});
     }
-    std::ranges::for_each(discs, [&](Disk& disc) { fixed.push_back(std::move(disc)); });
-    return fixed;
+    std::ranges::for_each(discs, [&](Disk& disc) { all.push_back(std::move(disc)); });
+    return all;
 }
 
 } // namespace

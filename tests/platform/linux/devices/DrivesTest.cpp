@@ -25,6 +25,17 @@ void add_block(const MadeSysroot& root, const std::string& place, const std::str
     root.file("run/udev/data/b" + number, udev);
 }
 
+/// A stick, or a reader's slot, on USB.
+std::string add_removable(const MadeSysroot& root, const std::string& name,
+                          const std::string& number, const std::string& sectors,
+                          const std::string& udev = "")
+{
+    std::string place = "usb1/" + name + "/block/" + name;
+    add_block(root, place, number, sectors, udev);
+    root.file("sys/devices/" + place + "/removable", "1\n");
+    return place + "/" + name;
+}
+
 TEST(Drives, SeveralWaysToADriveOfNvmeAreThatDrive)
 {
     const MadeSysroot root;
@@ -38,6 +49,52 @@ TEST(Drives, SeveralWaysToADriveOfNvmeAreThatDrive)
     root.file("sys/devices/pci/nvme/nvme0/nvme0c0n1/hidden", "1\n");
     EXPECT_EQ(root.rows("Select Caption, InterfaceType, Partitions from Win32_DiskDrive"),
               Rows{"Fast 990|SCSI|1"});
+}
+
+TEST(Drives, WhatNobodyCanTellOfAVolumeThatIsThereIsAnEmptyText)
+{
+    const MadeSysroot root;
+    const std::string date = "E:ID_FS_UUID=2024-04-23-11-38-47-00\n";
+    add_removable(root, "sdb", "8:16", "6000", date);
+    add_block(root, "ata2/block/sr0", "11:0", "7000", "E:ID_CDROM=1\nE:ID_CDROM_MEDIA=1\n");
+    add_block(root, "ata3/block/sr1", "11:1", "8000", "E:ID_CDROM=1\n");
+    add_block(root, "ata4/block/sr2", "11:2", "9000",
+              "E:ID_CDROM=1\nE:ID_CDROM_MEDIA=1\nE:ID_FS_TYPE=iso9660\n" + date);
+    root.file("proc/self/mountinfo", "20 1 8:16 / /stick ro - iso9660 /dev/sdb ro\n"
+                                     "21 1 0:40 / /net rw - nfs4 h:/x rw\n"
+                                     "22 1 0:41 / / rw - overlay overlay rw\n");
+    EXPECT_EQ(root.rows("Select Name, FileSystem, VolumeSerialNumber from Win32_LogicalDisk"),
+              (Rows{"overlay|/|", "nfs4|/net|null", "CDFS|/stick|", "/dev/sr0|",
+                    "null|/dev/sr1|null", "CDFS|/dev/sr2|"}));
+}
+
+TEST(Drives, WhatIsPluggedInButNotMountedIsThereWithoutAFreeSpace)
+{
+    const MadeSysroot root;
+    add_block(root, "ata1/block/sda", "8:0", "9000");
+    add_block(root, "ata1/block/sda/sda1", "8:1", "8000");
+    add_block(root, "pci/mmc0/block/mmcblk0", "179:0", "9000");
+    add_block(root, "pci/mmc0/block/mmcblk0/mmcblk0p1", "179:1", "8000");
+    root.file("sys/devices/pci/mmc0/block/mmcblk0/device/type", "SD\n");
+    const std::string stick = add_removable(root, "sdb", "8:16", "9000");
+    add_block(root, stick + "1", "8:17", "1000", "E:ID_FS_LABEL_ENC=EFI\n");
+    add_block(root, stick + "2", "8:18", "7000",
+              "E:ID_FS_LABEL_ENC=DATA\nE:ID_FS_TYPE=exfat\nE:ID_FS_UUID=AB12-CD34\n");
+    add_removable(root, "sdc", "8:32", "0");
+    const std::string half = add_removable(root, "sdd", "8:48", "9000");
+    add_block(root, half + "1", "8:49", "4000");
+    add_block(root, half + "2", "8:50", "4500");
+    add_removable(root, "sde", "8:64", "6000");
+    const char* const volumes =
+        "Select Caption, DriveType, FileSystem, FreeSpace, Size, VolumeName, "
+        "VolumeSerialNumber from Win32_LogicalDisk";
+    root.file("proc/self/mountinfo", "20 1 8:1 / / rw - ext4 /dev/sda1 rw\n"
+                                     "21 1 8:49 / /boot/efi rw - vfat /dev/sdd1 rw\n");
+    EXPECT_EQ(root.rows(volumes), (Rows{"/dev/mmcblk0p1|2||null|4096000||",
+                                        "/dev/sdb2|2|exFAT|null|3584000|DATA|AB12CD34",
+                                        "/dev/sde|2||null|3072000||", "/|3|ext4|null|null||"}));
+    root.file("proc/self/mountinfo", "");
+    EXPECT_EQ(root.rows(volumes), Rows{}) << "nobody can tell what is mounted";
 }
 
 } // namespace
