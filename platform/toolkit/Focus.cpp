@@ -20,6 +20,14 @@ int count_of(const Form& form)
 
 } // namespace
 
+bool is_pressable(const Form& form, int control)
+{
+    if (control == form_itself)
+        return false;
+    const ControlPointer& which = entry_at(form, control).control;
+    return std::holds_alternative<Label*>(which) || std::holds_alternative<PictureBox*>(which);
+}
+
 bool takes_focus(const Form& form, int control)
 {
     return is_visible(form, control) && std::visit(TakesKeys{}, entry_at(form, control).control);
@@ -61,7 +69,8 @@ int focus_after_change(const Form& form, int focused)
 {
     if (focused == form_itself || takes_focus(form, focused))
         return focused;
-    return is_visible(form, focused) ? next_by_tab(form, focused, true) : form_itself;
+    const bool disabled = is_visible(form, focused) && !is_pressable(form, focused);
+    return disabled ? next_by_tab(form, focused, true) : form_itself;
 }
 
 } // namespace ostrelum::inline toolkit

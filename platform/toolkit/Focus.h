@@ -25,6 +25,10 @@ enum class Key {
     F10,
 };
 
+/// Whether a key can press a control as the mouse would, a label or a picture; the others know keys
+/// themselves.
+bool is_pressable(const Form& form, int control);
+
 /// Whether the keyboard reaches a control as it stands.
 bool takes_focus(const Form& form, int control);
 
@@ -36,8 +40,8 @@ int next_by_tab(const Form& form, int from, bool forward);
 /// itself where there is no such control.
 int next_by_arrow(const Form& form, int from, Key key);
 
-/// Where the focus moves when the program changed the form: from a control that is hidden it falls
-/// back to the form itself, from one that is disabled to the next.
+/// Where the focus moves when the program changed the form: from a control that is hidden, or that
+/// lost its TabStop, it falls back to the form itself, from one that is disabled to the next.
 int focus_after_change(const Form& form, int focused);
 
 } // namespace ostrelum::inline toolkit

@@ -5,15 +5,6 @@ namespace {
 
 constexpr int shift_key = 1;
 
-/// Labels and pictures can be pressed as the mouse would; the other controls know keys themselves.
-bool is_pressable(const Form& form, int control)
-{
-    if (control == form_itself)
-        return false;
-    const ControlPointer& which = entry_at(form, control).control;
-    return std::holds_alternative<Label*>(which) || std::holds_alternative<PictureBox*>(which);
-}
-
 const CommandButton* button_at(const Form& form, int control)
 {
     if (control == form_itself || !takes_focus(form, control))

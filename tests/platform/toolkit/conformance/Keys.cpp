@@ -68,14 +68,25 @@ TEST_P(Conformance, EnterAndEscapePressTheirButtons)
     EXPECT_EQ(calls, Calls{}) << "so has the default";
 }
 
-TEST_P(Conformance, TheFocusGoesOnFromAControlThatIsDisabled)
+TEST_P(Conformance, TheFocusLeavesAControlThatTakesNoneAnyMore)
 {
+    acts["Menu_MouseDown"] = [&] { form.Menu(1).TabStop = false; };
+    key(Key::Tab);
+    key(Key::Enter);
+    EXPECT_EQ(focused(), form_itself);
+    EXPECT_EQ(driver->marked(form), form_itself);
+    take_calls();
+    key(Key::Enter);
+    EXPECT_EQ(take_calls(), Calls{"Ok_Click"}) << "the label's press went before the default";
+    key(Key::Tab);
+    EXPECT_EQ(focused(), place(form.Menu(2)));
+
     acts["Ok_Click"] = [&] { form.Ok.Enabled = false; };
-    for (int tabs = 0; tabs < 4; ++tabs)
-        key(Key::Tab);
+    key(Key::Tab);
+    key(Key::Tab);
     key(Key::Space);
     EXPECT_EQ(calls, Calls{"Ok_Click"});
-    EXPECT_EQ(focused(), place(form.No));
+    EXPECT_EQ(focused(), place(form.No)) << "from a disabled one to the next";
 }
 
 TEST_P(Conformance, TheUsersChangesStandInTheDataWhenTheEventComes)
