@@ -26,6 +26,8 @@ QtLabelBinding::QtLabelBinding(Label& label, int place, QWidget& parent,
 {
     new MouseEventFilter(*widget_, place, context_);
     widget_->setTextFormat(Qt::PlainText);
+    // Else Ctrl+A and Ctrl+C mark and copy the text of a label that the keyboard reaches.
+    widget_->setTextInteractionFlags(Qt::NoTextInteraction);
     widget_->setIndent(0);
     widget_->press = [this] { context_.mouse.press(place_, left_button); };
 }

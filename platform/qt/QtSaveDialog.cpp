@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLocale>
 #include <QMessageBox>
 
 namespace ostrelum::qt_platform {
@@ -19,15 +20,20 @@ public:
 bool may_replace(QWidget& dialog, const QString& file)
 {
     const QString question = QFileDialog::tr("%1 already exists.\nDo you want to replace it?");
-    return QMessageBox::warning(
-               &dialog, dialog.windowTitle(), question.arg(QFileInfo(file).fileName()),
-               QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+    QMessageBox box(QMessageBox::Warning, dialog.windowTitle(),
+                    question.arg(QFileInfo(file).fileName()), QMessageBox::Yes | QMessageBox::No,
+                    &dialog);
+    box.setDefaultButton(QMessageBox::No);
+    box.setLayoutDirection(dialog.layoutDirection());
+    return box.exec() == QMessageBox::Yes;
 }
 
 void prepare(QFileDialog& dialog, const OpenFileName& request, const QStringList& filters)
 {
     dialog.setWindowTitle(qt_text(request.title));
     dialog.setWindowModality(Qt::ApplicationModal);
+    // Its words are in the desktop's language, unlike those of the program's windows.
+    dialog.setLayoutDirection(QLocale().textDirection());
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     // What is asked about is the file that will be written, which need not be the typed one.

@@ -55,6 +55,9 @@ QtToolkit::QtToolkit(int& argc, char** argv, const QtLook& look)
 {
     // The places of the controls are fixed, so their look is too.
     QApplication::setStyle(QStyleFactory::create("Fusion"));
+    // Not the window's alone: menus and their entries, too, would turn with the desktop's language,
+    // though none of the program's own is written from the right.
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
     choose_font();
     // The program decides when it ends, not the last window.
     QApplication::setQuitOnLastWindowClosed(false);

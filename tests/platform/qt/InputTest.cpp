@@ -1,7 +1,7 @@
-#include "platform/qt/Tooltips.h"
 #include "tests/platform/qt/SampleWindow.h"
 
 #include <QAccessible>
+#include <QScreen>
 #include <QTest>
 #include <QTextDocumentFragment>
 #include <QToolTip>
@@ -47,18 +47,29 @@ TEST_F(InputTest, TheWheelTurnsWhatHasTheFocusAlone)
     EXPECT_NE(form.Pick.ListIndex, before.second);
 }
 
-TEST_F(InputTest, TooltipsShowMarkupLetterByLetter)
+TEST_F(InputTest, TooltipsShowMarkupLetterByLetterOnOneLine)
 {
+    const auto show = [&](const QString& text) {
+        form.Free.ToolTipText = text.toStdString();
+        toolkit().Refresh(form);
+        QHelpEvent help(QEvent::ToolTip, QPoint(5, 5), window().mapToGlobal(QPoint(125, 15)));
+        QApplication::sendEvent(&widget(form.Free), &help);
+        for (const QWidget* tip : QApplication::topLevelWidgets()) {
+            if (tip->inherits("QTipLabel") && tip->isVisible())
+                return tip->size();
+        }
+        return QSize();
+    };
     const QString text = "<b>Disk</b> & \"more\"  of it";
-    form.Free.ToolTipText = text.toStdString();
-    toolkit().Refresh(form);
-    const QPoint middle = window().mapToGlobal(QPoint(125, 15));
-    QHelpEvent help(QEvent::ToolTip, QPoint(5, 5), middle);
-    QApplication::sendEvent(&widget(form.Free), &help);
+    const QSize one_line = show(text);
     EXPECT_EQ(QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText(), text);
     EXPECT_EQ(
         QAccessible::queryAccessibleInterface(&widget(form.Free))->text(QAccessible::Description),
         text);
+    EXPECT_EQ(show(text + " and some words").height(), one_line.height());
+    const QSize wrapped = show(QString("some words ").repeated(50));
+    EXPECT_GT(wrapped.height(), one_line.height());
+    EXPECT_LE(wrapped.width(), window().screen()->size().width());
 }
 
 TEST_F(InputTest, AScreenReaderSeesNamesAndPresses)

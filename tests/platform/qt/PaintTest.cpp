@@ -4,6 +4,7 @@
 
 #include <QFontDatabase>
 #include <QLabel>
+#include <QTranslator>
 
 namespace ostrelum::qt_platform {
 namespace {
@@ -21,6 +22,24 @@ TEST_F(PaintTest, TheWindowHasItsSizeForGood)
     EXPECT_EQ(window().minimumSize(), window().maximumSize());
     EXPECT_FALSE(window().windowFlags() & Qt::WindowMinimizeButtonHint);
     EXPECT_FALSE(window().windowFlags() & Qt::WindowMaximizeButtonHint);
+}
+
+/// The word by which the toolkit's own translations tell their direction.
+class FromTheRight : public QTranslator {
+public:
+    QString translate(const char*, const char* text, const char*, int) const override
+    {
+        return QByteArrayView(text) == "QT_LAYOUT_DIRECTION" ? "RTL" : QString();
+    }
+    bool isEmpty() const override { return false; }
+};
+
+TEST_F(PaintTest, PlacesHoldInALanguageThatIsWrittenFromTheRight)
+{
+    FromTheRight words;
+    QCoreApplication::installTranslator(&words);
+    EXPECT_EQ(QGuiApplication::layoutDirection(), Qt::LeftToRight);
+    QCoreApplication::removeTranslator(&words);
 }
 
 TEST_F(PaintTest, PicturesArePixelExact)

@@ -6,6 +6,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTimer>
 
 namespace ostrelum::qt_platform {
@@ -39,7 +40,12 @@ TEST_F(ServicesTest, TheClipboardHoldsPlainText)
 {
     const auto clipboard = make_qt_clipboard();
     clipboard->SetText("línea\r\n<b>");
-    EXPECT_EQ(QGuiApplication::clipboard()->text(), "línea\r\n<b>");
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+    QWidget& focused = widget(form.Menu(1));
+    focused.setFocus();
+    for (const auto key : {Qt::Key_A, Qt::Key_C})
+        QTest::keyClick(&focused, key, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "línea\r\n<b>") << "no label's text";
     clipboard->Clear();
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "");
 }
