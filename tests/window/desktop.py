@@ -40,7 +40,7 @@ class Desktop:
         self.environment.pop("WAYLAND_DISPLAY", None)
         self._start_display()
         self.call("hsetroot", "-solid", ground)
-        self.start("openbox", "--sm-disable")
+        self._start_window_manager()
         if compositor:
             self.start("picom", "--backend", "xrender", "--config", "/dev/null")
         self._start_bus()
@@ -56,6 +56,16 @@ class Desktop:
         self.processes.append(server)
         with os.fdopen(read_end) as numbers:
             self.environment["DISPLAY"] = ":" + numbers.readline().strip()
+
+    def _start_window_manager(self):
+        """Comes back when it does what it is asked.
+
+        openbox goes to sleep over what it has received during its own start: a window that wanted to be shown then
+        would wait for the next event. Asking again is that event.
+        """
+        self.start("openbox", "--sm-disable")
+        done = wait_for(lambda: self.call("xdotool", "set_num_desktops", "1", "get_num_desktops") == "1")
+        assert done, "no window manager"
 
     def _start_bus(self):
         bus = subprocess.Popen(["dbus-daemon", "--session", "--nofork", "--print-address"], env=self.environment,
