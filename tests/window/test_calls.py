@@ -12,7 +12,7 @@ import calls  # noqa: E402
 
 PLACES = 20 if os.environ.get("OSTRELUM_LONG") == "1" else 2
 # The first thing that the program itself opens.
-FIRST_OWN = "/dervalin-ostrelum.lock"
+FIRST_OWN = "/dervalin-ostrelum-"
 
 
 @unittest.skipUnless(calls.can_trace(), "tracing is not permitted here")

@@ -29,6 +29,7 @@ class ProgramTest(WindowTest):
         with Desktop() as desktop:
             first = desktop.start_program()
             desktop.window()
+            desktop.environment.pop("XDG_RUNTIME_DIR")
             self.assertEqual(desktop.start_program().wait(10), 0)
             self.assertEqual(len(desktop.windows()), 1)
             first.kill()

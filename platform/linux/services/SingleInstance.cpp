@@ -1,7 +1,9 @@
 #include "platform/linux/services/SingleInstance.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
+#include <string_view>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -19,44 +21,74 @@ bool private_folder(const std::string& path)
            status.st_uid == ::geteuid() && (status.st_mode & (S_IWGRP | S_IWOTH)) == 0;
 }
 
-Descriptor open_lock(const std::string& folder)
+Descriptor open_lock(const std::string& path)
 {
-    if (!private_folder(folder))
-        return Descriptor();
-    const std::string path = folder + "/dervalin-ostrelum.lock";
     constexpr int flags = O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
     Descriptor file(::open(path.c_str(), flags, 0600));
-    // The sticky bit saves it from the clearing of old files that the base directory
-    // specification allows.
+    // The sticky bit saves it from being cleared away as an old file.
     if (file)
         ::fchmod(file.number(), S_ISVTX | S_IRUSR | S_IWUSR);
     return file;
 }
 
+/// The socket of the Wayland display: a name alone lies in the session's folder. Empty without one.
+std::string wayland_display(const Environment& environment)
+{
+    const std::string name = variable(environment, "WAYLAND_DISPLAY");
+    if (name.empty() || name.starts_with('/'))
+        return name;
+    const std::string folder = variable(environment, "XDG_RUNTIME_DIR");
+    return folder.empty() ? "" : folder + "/" + name;
+}
+
+/// The X11 display without its screen: ":0" for ":0.0".
+std::string x11_display(const Environment& environment)
+{
+    const std::string name = variable(environment, "DISPLAY");
+    return name.substr(0, name.find('.', name.rfind(':')));
+}
+
+std::vector<std::string> lock_names(const Environment& environment)
+{
+    std::vector<std::string> names;
+    const auto add = [&](std::string_view kind, std::string display) {
+        std::ranges::replace(display, '/', '_');
+        if (!display.empty())
+            names.push_back(std::string(kind) + display + ".lock");
+    };
+    add("wayland", wayland_display(environment));
+    add("x11", x11_display(environment));
+    if (names.empty())
+        names.emplace_back("no-display.lock");
+    return names;
+}
+
 } // namespace
 
 SingleInstance::SingleInstance(const Environment& environment, const std::string& shared)
-    : runtime_folder_(variable(environment, "XDG_RUNTIME_DIR")),
-      own_folder_(shared + "/dervalin-ostrelum-" + std::to_string(::geteuid()))
+    : folder_(shared + "/dervalin-ostrelum-" + std::to_string(::geteuid())),
+      names_(lock_names(environment))
 {
 }
 
 bool SingleInstance::another_runs()
 {
-    if (lock_)
+    if (!locks_.empty())
         return false;
-    Descriptor file;
-    if (runtime_folder_.starts_with('/'))
-        file = open_lock(runtime_folder_);
-    if (!file) {
-        ::mkdir(own_folder_.c_str(), 0700);
-        file = open_lock(own_folder_);
+    ::mkdir(folder_.c_str(), 0700);
+    if (!private_folder(folder_))
+        return false;
+    for (const std::string& name : names_) {
+        Descriptor file = open_lock(folder_ + "/" + name);
+        if (!file)
+            continue;
+        if (::flock(file.number(), LOCK_EX | LOCK_NB) == 0) {
+            locks_.push_back(std::move(file));
+        } else if (errno == EWOULDBLOCK) {
+            locks_.clear();
+            return true;
+        }
     }
-    if (!file)
-        return false;
-    if (::flock(file.number(), LOCK_EX | LOCK_NB) != 0)
-        return errno == EWOULDBLOCK;
-    lock_ = std::move(file);
     return false;
 }
 

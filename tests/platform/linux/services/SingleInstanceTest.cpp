@@ -28,23 +28,36 @@ pid_t started_holder(const Environment& environment, const std::string& shared)
     return child;
 }
 
-TEST(SingleInstance, TheSecondOneSeesTheFirstUntilItDies)
+TEST(SingleInstance, TheSecondOneOnADisplaySeesTheFirstUntilItDies)
 {
-    const TemporaryFolder folder;
-    fs::create_directory(folder / "run");
-    fs::permissions(folder / "run", fs::perms(0700));
-    for (const Environment& environment :
-         {Environment{{"XDG_RUNTIME_DIR", folder / "run"}}, Environment{},
-          Environment{{"XDG_RUNTIME_DIR", folder / "missing"}}}) {
-        SingleInstance instance(environment, folder / ".");
-        const pid_t first = started_holder(environment, folder / ".");
-        EXPECT_TRUE(instance.another_runs());
-        EXPECT_TRUE(instance.another_runs());
+    const TemporaryFolder runtime;
+    const std::string session = runtime / "session";
+    fs::create_directory(session);
+    const Environment x11{{"DISPLAY", ":0"}};
+    const Environment both{
+        {"DISPLAY", ":0"}, {"WAYLAND_DISPLAY", "wayland-0"}, {"XDG_RUNTIME_DIR", session}};
+    const struct {
+        Environment first, second;
+        bool seen;
+    } cases[] = {{{}, {}, true},
+                 {x11, {{"DISPLAY", ":0.1"}, {"XDG_RUNTIME_DIR", session}}, true},
+                 {both, x11, true},
+                 {{{"WAYLAND_DISPLAY", session + "/wayland-0"}}, both, true},
+                 {x11, {{"DISPLAY", ":1"}}, false},
+                 {x11, {{"DISPLAY", "host:0"}}, false},
+                 {both, {{"WAYLAND_DISPLAY", runtime / "wayland-0"}}, false}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(&c - cases);
+        const TemporaryFolder folder;
+        SingleInstance instance(c.second, folder / ".");
+        const pid_t first = started_holder(c.first, folder / ".");
+        EXPECT_EQ(instance.another_runs(), c.seen);
+        EXPECT_EQ(instance.another_runs(), c.seen);
         ::kill(first, SIGKILL);
         ::waitpid(first, nullptr, 0);
         EXPECT_FALSE(instance.another_runs());
         EXPECT_FALSE(instance.another_runs()) << "it sees itself";
-        EXPECT_TRUE(SingleInstance(environment, folder / ".").another_runs());
+        EXPECT_TRUE(SingleInstance(c.second, folder / ".").another_runs());
     }
 }
 
@@ -57,8 +70,7 @@ TEST(SingleInstance, StartsWhereNoLockCanBeMade)
     folder.file("file");
     EXPECT_FALSE(SingleInstance({}, folder / ".").another_runs());
     EXPECT_TRUE(fs::is_empty(folder / "trap")) << "a link of somebody else's was followed";
-    EXPECT_FALSE(
-        SingleInstance({{"XDG_RUNTIME_DIR", folder / "file"}}, folder / "file").another_runs());
+    EXPECT_FALSE(SingleInstance({}, folder / "file").another_runs());
 
     fs::create_directory(folder / "open");
     fs::create_directory(folder / ("open/" + own));
