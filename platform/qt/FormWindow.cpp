@@ -1,6 +1,7 @@
 #include "platform/qt/FormWindow.h"
 
 #include "platform/qt/Colours.h"
+#include "platform/qt/FrameMargins.h"
 #include "platform/qt/Images.h"
 #include "platform/qt/Keys.h"
 #include "platform/qt/MouseEventFilter.h"
@@ -98,11 +99,20 @@ void FormWindow::bring_up()
         const QScreen* under_mouse = QGuiApplication::screenAt(QCursor::pos());
         const QScreen* screen = under_mouse ? under_mouse : QGuiApplication::primaryScreen();
         if (screen)
-            move(screen->availableGeometry().center() - rect().center());
+            place_in(screen->availableGeometry());
     }
     show();
     raise();
     activateWindow();
+}
+
+/// In the middle, its frame included.
+void FormWindow::place_in(const QRect& screen)
+{
+    const QMargins frame = frame_margins(*windowHandle());
+    QRect whole = geometry().marginsAdded(frame);
+    whole.moveCenter(screen.center());
+    setGeometry(whole.marginsRemoved(frame));
 }
 
 void FormWindow::close_down()

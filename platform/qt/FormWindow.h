@@ -27,7 +27,7 @@ public:
     QWidget* widget(int place) const;
     /// Shows what differs.
     void sync();
-    /// Brings the window up in the centre of the screen.
+    /// Brings the window up in the centre of the screen, together with its frame.
     void bring_up();
     /// Closes the window for good: it raises no event any more.
     void close_down();
@@ -46,6 +46,7 @@ private:
     void set_focus(int control) override;
     void mark(int control) override;
     void make_widgets();
+    void place_in(const QRect& screen);
     void sync_frame();
 
     const Form& form_;

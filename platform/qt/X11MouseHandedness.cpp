@@ -1,19 +1,11 @@
 #include "platform/qt/MouseHandedness.h"
 
-#include <cstdlib>
-#include <memory>
-#include <string_view>
-#include <xcb/xcb.h>
+#include "platform/qt/X11.h"
+
 #include <xcb/xinput.h>
 
 namespace ostrelum::qt_platform {
 namespace {
-
-template <typename Reply>
-std::unique_ptr<Reply, decltype(&std::free)> owned(Reply* reply)
-{
-    return {reply, std::free};
-}
 
 bool buttons_are_swapped(xcb_connection_t* server)
 {
@@ -23,14 +15,6 @@ bool buttons_are_swapped(xcb_connection_t* server)
         return false;
     const std::uint8_t* buttons = xcb_get_pointer_mapping_map(map.get());
     return buttons[0] == 3 && buttons[2] == 1;
-}
-
-xcb_atom_t atom_of(xcb_connection_t* server, std::string_view name)
-{
-    const auto length = static_cast<std::uint16_t>(name.size());
-    const auto reply = owned(
-        xcb_intern_atom_reply(server, xcb_intern_atom(server, 1, length, name.data()), nullptr));
-    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 
 bool is_set(xcb_connection_t* server, xcb_input_device_id_t device, xcb_atom_t property)

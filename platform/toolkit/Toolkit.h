@@ -32,7 +32,8 @@ public:
     /// Size of a text on one line, in pixels.
     virtual TextSize text_size(const std::string& text, const FontSpec& font) const = 0;
 
-    /// Makes the form's window if there is none and brings it up in the centre of the screen.
+    /// Makes the form's window if there is none and brings it up, together with its frame, in the
+    /// centre of the screen.
     virtual void Show(Form& form) = 0;
     /// Shows the form over all others, which take no input meanwhile, and returns when it is
     /// hidden.

@@ -38,11 +38,17 @@ class ProgramTest(WindowTest):
             self.assertTrue(desktop.window())
             self.assertIsNone(third.poll())
 
-    def test_words_behind_the_name_change_nothing(self):
+    def test_the_window_with_its_frame_is_in_the_centre_whatever_stands_behind_the_programs_name(self):
         with Desktop() as desktop:
             desktop.start(PROGRAM, "-qwindowtitle", "Other", "-geometry", "300x200+0+0")
             window = desktop.window()
             self.assertIn("777x553", desktop.call("xwininfo", "-id", window, "-stats"))
+            left, top, width, height = desktop.place(window)
+            told = desktop.call("xprop", "-id", window, "-notype", "_NET_FRAME_EXTENTS").split("=")[1].split(",")
+            before, after, above, below = map(int, told)
+            self.assertGreater(above, below)
+            self.assertAlmostEqual(left - before + (width + before + after) / 2, desktop.size[0] / 2, delta=1)
+            self.assertAlmostEqual(top - above + (height + above + below) / 2, desktop.size[1] / 2, delta=1)
 
     def test_mouse_opens_pages_and_copies_them(self):
         with Desktop() as desktop:
