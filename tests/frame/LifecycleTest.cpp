@@ -121,9 +121,14 @@ TEST_F(Lifecycle, PreferredFontsNeedBothFilesWithTheArchiveFlagAlone)
             system_api.attributes.erase("F\\segoeuil.ttf");
         start_program();
         EXPECT_EQ(FontsOk, c.preferred ? preferred_fonts : 0) << c.text << " " << c.light;
+        const std::string family = c.preferred ? "Segoe UI" : "Arial";
         EXPECT_EQ(F1.Titulo.Top, c.preferred ? 48 : 58);
-        EXPECT_EQ(F1.LT(12).Font.Name, c.preferred ? "Segoe UI" : "Arial");
-        EXPECT_TRUE(F1.LT(12).Font.Bold);
+        EXPECT_EQ(F1.Titulo.Font,
+                  (c.preferred ? FontSpec{.Name = "Segoe UI Light", .Size = 26.25}
+                               : FontSpec{.Name = "Arial", .Size = 20, .Italic = true}));
+        EXPECT_EQ(F1.LT(12).Font, (FontSpec{.Name = family, .Size = 9.75, .Bold = true}));
+        EXPECT_EQ(F1.L(12).Font, (FontSpec{.Name = family, .Size = 9.75, .Italic = true}));
+        EXPECT_EQ(F1.LNoDrive.Font, (FontSpec{.Name = family, .Size = 36, .Italic = true}));
     }
 }
 

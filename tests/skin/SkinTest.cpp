@@ -83,8 +83,10 @@ TEST_F(Skin, TextColourFollowsBaseAndShine)
     }
 }
 
-TEST_F(Skin, ATintNeverBuildsOnTheOneBefore)
+TEST_F(Skin, EachOfItsPicturesIsTintedAndNoTintBuildsOnTheOneBefore)
 {
+    for (const PictureBox* pic : {&F1.S(1), &F1.S(2), &F1.S(3), &F1.S(4), &F1.BM})
+        EXPECT_NE(pic->Surface, pic->Stored) << F1.entry_of(pic).name << F1.entry_of(pic).index;
     const Picture stored = F1.S(4).Stored;
     const Bitmap first = F1.S(4).Surface.bitmap();
     SplitColor(255);
@@ -96,22 +98,29 @@ TEST_F(Skin, ATintNeverBuildsOnTheOneBefore)
     EXPECT_EQ(F1.S(4).Stored, stored);
 }
 
-TEST_F(Skin, TheCrossFadeTakesTwentyTicks)
+TEST_F(Skin, TheCrossFadeTakesTwentyTicksFromTheOldPicturesToTheNew)
 {
-    const Picture before = F1.Ico.Stored;
+    const Bitmap before = F1.Ico.Stored.bitmap();
+    Bitmap page(35, 35);
+    std::ranges::fill(page.bytes, std::uint8_t{255});
+    const auto mixed = [](Bitmap under, const PictureBox& over, int alpha) {
+        blend_pixels(under, over.Stored.bitmap(), static_cast<std::uint8_t>(alpha));
+        return under;
+    };
     press("LMenu", 9);
     tick("TAlphaB");
-    press("LMenu", 8);
+    press("LMenu", 2);
     EXPECT_EQ(Cnt2, 0) << "a click during the fade starts it over";
     for (int i = 1; i <= 19; ++i) {
         tick("TAlphaB");
         EXPECT_EQ(Cnt2, 13 * i);
-        EXPECT_EQ(F1.Ico.Stored, before);
-        EXPECT_NE(F1.Ico.Surface, before);
+        EXPECT_TRUE(F1.Ico.Stored.bitmap() == before);
+        EXPECT_TRUE(F1.Ico.Surface.bitmap() == mixed(before, F6->Sec2, 13 * i)) << i;
+        EXPECT_TRUE(F1.Iaviso.Surface.bitmap() == mixed(page, F6->Info, 13 * i)) << i;
     }
     tick("TAlphaB");
-    EXPECT_EQ(F1.Ico.Stored, F6->Sec8.Stored);
-    EXPECT_EQ(F1.Ico.Surface, F6->Sec8.Stored);
+    EXPECT_EQ(F1.Ico.Stored, F6->Sec2.Stored);
+    EXPECT_EQ(F1.Ico.Surface, F6->Sec2.Stored);
     EXPECT_FALSE(F1.TAlphaB.Enabled);
 }
 
