@@ -1,6 +1,6 @@
 #include "platform/linux/classes/Classes.h"
 #include "platform/linux/devices/DeviceNames.h"
-#include "platform/linux/devices/GraphicsCards.h"
+#include "platform/linux/devices/SessionScreens.h"
 #include "platform/linux/formats/Placeholder.h"
 #include "platform/linux/text/Hex.h"
 
@@ -54,13 +54,15 @@ bool is_panel(const Connector& connector)
     return label.starts_with("eDP-") || label.starts_with("LVDS-") || label.starts_with("DSI-");
 }
 
-/// Those of the first graphics card first. Some virtual machines and drivers have no data of
-/// monitors: the window system's screens then stand for them.
+/// Those of the first graphics card first, and of each card that at the main connector, so that the
+/// first is the one whose mode and limits that card tells. Some virtual machines and drivers have
+/// no data of monitors: the window system's screens then stand for them.
 std::vector<Monitor> monitors(const MachineView& machine)
 {
     std::vector<Monitor> monitors;
-    for (const GraphicsCard& card : graphics_cards(machine.root)) {
-        for (const Connector& connector : connected(machine.root, card)) {
+    const SessionScreens screens(machine);
+    for (const GraphicsCard& card : screens.cards()) {
+        for (const Connector& connector : screens.connected_to(card)) {
             if (auto edid = edid_of(machine.root, connector))
                 monitors.push_back({machine, std::move(edid), is_panel(connector), {}});
         }

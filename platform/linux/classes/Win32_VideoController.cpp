@@ -2,6 +2,7 @@
 #include "platform/linux/devices/CurrentMode.h"
 #include "platform/linux/devices/DeviceNames.h"
 #include "platform/linux/devices/GraphicsDriver.h"
+#include "platform/linux/devices/SessionScreens.h"
 #include "platform/linux/formats/CimDateTime.h"
 #include "platform/linux/text/Text.h"
 
@@ -172,7 +173,7 @@ constexpr PropertyRow<Adapter> rows[] = {
 std::vector<Adapter> adapters(const MachineView& machine)
 {
     std::vector<Adapter> adapters;
-    for (GraphicsCard& card : graphics_cards(machine.root))
+    for (GraphicsCard& card : SessionScreens(machine).cards())
         adapters.push_back({machine, std::move(card), adapters.empty()});
     return adapters;
 }

@@ -1,51 +1,12 @@
 #include "platform/linux/devices/CurrentMode.h"
 
+#include "platform/linux/devices/SessionScreens.h"
 #include "platform/linux/text/Text.h"
 
 #include <algorithm>
 
 namespace ostrelum::linux_platform {
 namespace {
-
-using Screens = std::vector<ScreenFact>;
-
-/// The primary screen first.
-Screens screens_of(const MachineView& machine)
-{
-    Screens screens = machine.session ? machine.session().screens : Screens();
-    std::stable_partition(screens.begin(), screens.end(),
-                          [](const ScreenFact& screen) { return screen.primary; });
-    return screens;
-}
-
-const ScreenFact* screen_at(const Screens& screens, const Connector& connector)
-{
-    const auto found = std::ranges::find(screens, connector.label(), &ScreenFact::connector);
-    return found == screens.end() ? nullptr : &*found;
-}
-
-/// The connector of the foremost screen; those without a screen come last.
-const Connector* main_connector(const Screens& screens, const std::vector<Connector>& connected)
-{
-    const auto rank = [&](const Connector& connector) {
-        const ScreenFact* screen = screen_at(screens, connector);
-        return screen ? screen - screens.data() : std::ptrdiff_t(screens.size());
-    };
-    const auto first = std::ranges::min_element(connected, {}, rank);
-    return first == connected.end() ? nullptr : &*first;
-}
-
-/// Whether the window system calls a connector of any card by the kernel's name.
-bool any_known(const Screens& screens, const Sysroot& root)
-{
-    for (const GraphicsCard& card : graphics_cards(root)) {
-        for (const Connector& connector : connected(root, card)) {
-            if (screen_at(screens, connector))
-                return true;
-        }
-    }
-    return false;
-}
 
 DisplayMode mode_of(const ScreenFact& screen)
 {
@@ -128,28 +89,23 @@ DisplayMode console_mode(const MachineView& machine, const GraphicsCard& card, b
 
 DisplayMode current_mode(const MachineView& machine, const GraphicsCard& card, bool first)
 {
-    const Screens screens = screens_of(machine);
-    const auto all = connected(machine.root, card);
-    const Connector* main = main_connector(screens, all);
-    const ScreenFact* screen = main ? screen_at(screens, *main) : nullptr;
-    if (!screen && first && !screens.empty() && !any_known(screens, machine.root))
-        return mode_of(screens.front());
-    if (screen) {
-        // The window system counts in its own scaled pixels: the kernel's figures are exact.
-        return kernel_mode_of(machine, *main).value_or(mode_of(*screen));
-    }
-    for (const Connector& connector : all) {
-        if (const auto mode = kernel_mode_of(machine, connector))
-            return *mode;
-    }
-    return console_mode(machine, card, first);
+    const SessionScreens screens(machine);
+    if (const ScreenFact* screen = first ? screens.primary_somewhere() : nullptr)
+        return mode_of(*screen);
+    const auto monitors = screens.connected_to(card);
+    if (monitors.empty())
+        return console_mode(machine, card, first);
+    // The window system counts in its own scaled pixels: the kernel's figures are exact.
+    if (const auto mode = kernel_mode_of(machine, monitors.front()))
+        return *mode;
+    const ScreenFact* screen = screens.at(monitors.front());
+    return screen ? mode_of(*screen) : console_mode(machine, card, first);
 }
 
 std::optional<Edid> main_monitor(const MachineView& machine, const GraphicsCard& card)
 {
-    const auto all = connected(machine.root, card);
-    const Connector* main = main_connector(screens_of(machine), all);
-    return main ? edid_of(machine.root, *main) : std::nullopt;
+    const auto monitors = SessionScreens(machine).connected_to(card);
+    return monitors.empty() ? std::nullopt : edid_of(machine.root, monitors.front());
 }
 
 } // namespace ostrelum::linux_platform

@@ -5,13 +5,12 @@
 
 namespace ostrelum::linux_platform {
 
-/// What a graphics card shows, 0 for what is not known: on the primary screen if that is the
-/// card's, else on the first that is on. `first` marks the card that takes what belongs to no card:
-/// screens that the window system gives other names than the kernel does, and the picture that the
-/// firmware left.
+/// What a graphics card shows at its main connector, 0 for what is not known. `first` marks the
+/// card that takes what belongs to no card: screens that the window system gives other names than
+/// the kernel does, and the picture that the firmware left.
 DisplayMode current_mode(const MachineView& machine, const GraphicsCard& card, bool first);
 
-/// The data of the monitor that shows that mode.
+/// The data of the monitor at that connector.
 std::optional<Edid> main_monitor(const MachineView& machine, const GraphicsCard& card);
 
 } // namespace ostrelum::linux_platform

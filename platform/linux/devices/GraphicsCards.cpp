@@ -35,10 +35,16 @@ std::vector<std::string> display_slots(const Sysroot& root)
         const auto kind = root.text(pci_devices + ("/" + slot) + "/class");
         return !kind || !kind->starts_with(display_class);
     });
-    std::stable_partition(slots.begin(), slots.end(), [&](const std::string& slot) {
-        return root.number(pci_devices + ("/" + slot) + "/boot_vga") == 1U;
-    });
     return slots;
+}
+
+/// 0 for the card that the firmware started on, 1 for others with a monitor, 2 for the rest.
+int rank(const Sysroot& root, const GraphicsCard& card)
+{
+    const std::string folder = card.folder();
+    if (root.number(folder + "/boot_vga") == 1U || root.number(folder + "/boot_display") == 1U)
+        return 0;
+    return connected(root, card).empty() ? 2 : 1;
 }
 
 /// Cards outside PCI that are hardware of their own: not the firmware's picture memory, displays
@@ -80,6 +86,7 @@ std::vector<GraphicsCard> graphics_cards(const Sysroot& root)
         if (is_hardware(root, other))
             cards.push_back({"", other.name});
     }
+    std::ranges::stable_sort(cards, {}, [&](const GraphicsCard& card) { return rank(root, card); });
     return cards;
 }
 

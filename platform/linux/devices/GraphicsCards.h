@@ -22,7 +22,8 @@ struct GraphicsCard {
 };
 
 /// The card that the firmware started on first, since the kernel numbers them by chance; then those
-/// on PCI by place, then the others. Displays that programs make are none.
+/// with a monitor, then the others. Among equals those on PCI come first, by place. Displays that
+/// programs make are none.
 std::vector<GraphicsCard> graphics_cards(const Sysroot& root);
 
 struct Connector {
@@ -30,7 +31,7 @@ struct Connector {
     std::string name;
 
     std::string folder() const { return "/sys/class/drm/" + name; }
-    /// What the window system calls it: "HDMI-A-1".
+    /// Its name on any card: "HDMI-A-1".
     std::string_view label() const;
 };
 

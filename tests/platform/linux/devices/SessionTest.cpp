@@ -11,6 +11,7 @@ using testing::IsEmpty;
 
 const std::string Mode = "Select CurrentHorizontalResolution, CurrentVerticalResolution, "
                          "CurrentBitsPerPixel, CurrentRefreshRate from Win32_VideoController";
+const std::string Limits = "Select MinRefreshRate, MaxRefreshRate from Win32_VideoController";
 const std::string Monitors = "Select * from Win32_DesktopMonitor";
 
 void pci_card(const MadeSysroot& machine, const std::string& slot, const std::string& boot_vga,
@@ -92,12 +93,66 @@ TEST(Session, EachCardHasItsScreen)
                                   {"HDMI-A-1", "", "", 1024, 768, 32, 70000, false},
                                   {"DP-2", "", "", 1280, 720, 32, 75000, true}});
     EXPECT_THAT(machine.rows(Mode, session), ElementsAre("32|1280|75|720", "32|1024|70|768"));
-    EXPECT_THAT(
-        machine.rows("Select MinRefreshRate, MaxRefreshRate from Win32_VideoController", session),
-        ElementsAre("100|40", "70|70"));
+    EXPECT_THAT(machine.rows(Limits, session), ElementsAre("100|40", "70|70"));
     // Names that the kernel does not know: no one can say which card shows them.
-    const auto renamed = screens({{"DisplayPort-0", "", "", 640, 480, 32, 60000, true}});
+    const auto renamed = screens({{"XWAYLAND0", "", "", 640, 480, 32, 60000, true}});
     EXPECT_THAT(machine.rows(Mode, renamed), ElementsAre("32|640|60|480", "null|null|null|null"));
+}
+
+/// Two cards, the firmware's choice without a monitor and the other with four.
+void hybrid_graphics(const MadeSysroot& machine)
+{
+    const std::string slot = "0000:02:00.0";
+    pci_card(machine, "0000:01:00.0", "1", "card0");
+    pci_card(machine, slot, "0", "card1");
+    const auto named = [](const std::string& name, const char* rates) {
+        return monitor(descriptor(0xFC, name + "\n") + descriptor(0xFD, rates));
+    };
+    monitor_at(machine, slot, "card1-DP-1", named("Left", "\x30\x4B"));
+    monitor_at(machine, slot, "card1-DVI-D-1", named("Old", "\x32\x3C"));
+    monitor_at(machine, slot, "card1-HDMI-A-1", named("Right", "\x28\x64"));
+    monitor_at(machine, slot, "card1-eDP-1", named("Panel", "\x1E\x5A"));
+}
+
+TEST(Session, WhatIsToldIsOfThePrimaryScreen)
+{
+    const MadeSysroot machine;
+    hybrid_graphics(machine);
+    struct Case {
+        std::string screen, model, monitor, limits, other = "DP-7";
+    };
+    for (const Case& each : {
+             Case{"HDMI-A-1", "", "Right", "100|40"},
+             Case{"HDMI-1", "", "Right", "100|40"},
+             Case{"HDMI1", "", "Right", "100|40"},
+             Case{"HDMI-A-0", "", "Right", "100|40"},
+             Case{"DisplayPort-0", "", "Left", "75|48"},
+             Case{"DVI-1", "", "Old", "60|50"},
+             Case{"eDP", "", "Panel", "90|30", "HDMI-A-0"},
+             Case{"DVI-D-1", "Right", "Old", "60|50"},
+             Case{"HDMI-0", "Left", "Left", "75|48"},
+             Case{"DP-4", "Right", "Right", "100|40"},
+         }) {
+        const auto session = screens({{each.other, "", "", 1024, 768, 32, 60000, false},
+                                      {each.screen, "", each.model, 800, 600, 32, 75000, true}});
+        EXPECT_EQ(machine.rows(Monitors, session)[0], "XYZ|" + each.monitor) << each.screen;
+        EXPECT_EQ(machine.rows(Mode, session)[0], "32|800|75|600") << each.screen;
+        EXPECT_EQ(machine.rows(Limits, session)[0], each.limits) << each.screen;
+    }
+}
+
+TEST(Session, WithoutOneTheFirmwaresCardComesBeforeThoseWithMonitors)
+{
+    const MadeSysroot machine;
+    hybrid_graphics(machine);
+    EXPECT_EQ(machine.rows(Limits)[0], "null|null");
+    machine.file("sys/devices/0000:01:00.0/boot_vga", "0\n");
+    EXPECT_EQ(machine.rows(Limits)[0], "75|48") << "a card with a monitor";
+    machine.file("sys/class/drm/card1-DP-1/enabled", "disabled\n");
+    EXPECT_EQ(machine.rows(Limits)[0], "60|50") << "a monitor that is on";
+    EXPECT_EQ(machine.rows(Monitors)[0], "XYZ|Old");
+    machine.file("sys/devices/0000:01:00.0/boot_display", "1\n");
+    EXPECT_EQ(machine.rows(Limits)[0], "null|null");
 }
 
 TEST(Session, PointersAreForTheHandOfTheSession)
