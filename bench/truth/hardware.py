@@ -105,7 +105,9 @@ def dmidecode(machine):
             ours, theirs = (ours or "")[:8], year + month + day
         yield where, ours, theirs
     modules = [module(fields) for title, fields in parts if title == "Memory Device" and fitted(fields)]
-    yield from rows("Win32_PhysicalMemory", machine.query("Win32_PhysicalMemory"), modules)
+    # All memory as one object, where there are no modules, has an empty locator.
+    fitted_here = [each for each in machine.query("Win32_PhysicalMemory") if each["DeviceLocator"] != ""]
+    yield from rows("Win32_PhysicalMemory", fitted_here, modules)
     sockets = [{"SocketDesignation": told(fields["Socket Designation"])} for title, fields in parts
                if title == "Processor Information" and fields["Status"].startswith("Populated")]
     if machine.query(CPU):
@@ -141,9 +143,14 @@ def edid_decode(machine):
 
 
 def monitor_name(text):
-    for label in ("Display Product Name", "Alphanumeric Data String"):
-        if names := [name.strip() for name in re.findall(label + r": '(.*)'", text) if name.strip()]:
-            return names[-1]
+    """A product name that fills its 13 places goes on in the next."""
+    names, strings = ([name for name in re.findall(label + r": '(.*)'", text) if name.strip()]
+                      for label in ("Display Product Name", "Alphanumeric Data String"))
+    if names:
+        full = next((n for n, name in enumerate(names) if len(name) < 13 or name.endswith(" ")), len(names))
+        return "".join(names[:full + 1]).strip()
+    if strings:
+        return strings[-1].strip()
     maker, product = (re.search(label + r": (\w+)", text)[1] for label in ("Manufacturer", "Model"))
     return f"{maker} {int(product):04X}"
 
@@ -168,7 +175,7 @@ def lspci(machine):
              and machine.text(f"{folder}{slot}/vendor")]
     if not slots:
         raise NotCompared("no graphics card on PCI")
-    slots.sort(key=lambda slot: machine.text(f"{folder}{slot}/boot_vga") != "1")
+    slots.sort(key=lambda slot: (machine.text(f"{folder}{slot}/boot_vga") != "1", not has_monitor(machine, slot)))
     dump = "".join(config_space(machine, folder + slot) for slot in slots)
     text = over_file(dump.encode(), "lspci", "-F", "FILE", "-D", "-vmm")
     cards = {fields["Slot"]: fields for fields in map(labels, text.split("\n\n")) if "Slot" in fields}
@@ -176,6 +183,13 @@ def lspci(machine):
     if machine.live:
         drivers = [{"InstalledDisplayDrivers": labels(run("lspci", "-vmmks", slot)).get("Driver")} for slot in slots]
         yield from rows(VIDEO, machine.query(VIDEO), drivers)
+
+
+def has_monitor(machine, slot):
+    own = machine.list(f"/sys/bus/pci/devices/{slot}/drm")
+    cards = tuple(card + "-" for card in own if re.fullmatch(r"card\d+", card))
+    return any(machine.text(f"/sys/class/drm/{name}/status") == "connected"
+               for name in machine.list("/sys/class/drm") if name.startswith(cards))
 
 
 def card_name(fields):
@@ -199,6 +213,8 @@ def sound_codecs(machine):
     theirs = [labels(text)["Codec"] for text in map(machine.text, files) if "AFG Function" in text]
     if not theirs:
         raise NotCompared("no card lists a codec")
+    # Those of monitors come last.
+    theirs.sort(key=lambda name: "HDMI" in name)
     yield from rows("Win32_SoundDevice", machine.query("Win32_SoundDevice"), [{"Name": name} for name in theirs])
 
 
