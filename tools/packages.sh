@@ -27,31 +27,80 @@ missing_packages() {
     done
 }
 
+# full_disk FOLDER: whether there is less room left there than a build or an installation may want for one file.
+full_disk() {
+    local free
+    free=$(df --output=avail -k -- "$1" 2>/dev/null | tail -n 1) && [ -n "$free" ] && [ "$free" -lt 51200 ]
+}
+
+# reason_of LOG: in one sentence, why apt could not do what it was asked.
+reason_of() {
+    if grep -qE 'enough free space|No space left on device' "$1"; then
+        echo "the disk is full"
+    elif grep -qE 'Could not get lock|Unable to acquire the dpkg' "$1"; then
+        echo "another program is installing packages"
+    elif grep -qE 'Temporary failure resolving|Could not resolve|Could not connect|Unable to connect|Connection (failed|timed out|refused)|Network is unreachable' "$1"; then
+        echo "the package servers cannot be reached (no network?)"
+    elif grep -qE 'Permission denied|Read-only file system|are you root|is not in the sudoers|password is required|incorrect password' "$1"; then
+        echo "this user may not"
+    elif grep -qE 'Unable to locate package|no installation candidate' "$1"; then
+        echo "this system's package lists do not have all of them; they are Debian 12's names"
+    else
+        grep -E '^E: ' "$1" | head -n 1 | sed 's/^E: //' | grep . || tail -n 1 "$1"
+    fi
+}
+
+# apt_get LOG ARGUMENT...: runs it as root and shows on one line of a terminal how far it is.
+apt_get() {
+    local log=$1 as_root=()
+    shift
+    [ "$(id -u)" -eq 0 ] || as_root=(sudo)
+    "${as_root[@]}" env LC_ALL=C DEBIAN_FRONTEND=noninteractive \
+        apt-get -o DPkg::Lock::Timeout=60 -o Acquire::Retries=2 "$@" 2>&1 </dev/null | tee -a "$log" | show_progress
+    return "${PIPESTATUS[0]}"
+}
+
+show_progress() {
+    local line
+    while IFS= read -r line; do
+        case "$line" in
+        Get:* | Unpacking* | Setting\ up*) [ ! -t 1 ] || printf '\r\033[K%.78s' "$line" ;;
+        esac
+    done
+    [ ! -t 1 ] || printf '\r\033[K'
+}
+
 # need_packages NAME...: installs what is missing and nothing else.
 need_packages() {
     command -v dpkg-query >/dev/null && command -v apt-get >/dev/null ||
-        fail "This script installs what it needs with apt, and there is no apt here. Needed: $*"
+        fail "This script installs what it needs with apt, which is not here. Needed are, by their names in Debian 12: $(echo "$@")"
     local missing
     missing=$(missing_packages "$@" | tr '\n' ' ')
     [ -n "$missing" ] || return 0
-    local as_root=()
-    if [ "$(id -u)" -ne 0 ]; then
-        command -v sudo >/dev/null ||
-            fail "These packages are missing, and installing them takes root or sudo: $missing"
-        as_root=(sudo)
-    fi
+    [ "$(id -u)" -eq 0 ] || command -v sudo >/dev/null ||
+        fail "These packages are missing, and installing them takes root or sudo: $missing"
+    [ "$(id -u)" -eq 0 ] || sudo -v || fail "These packages are missing, and this user may not install them: $missing"
     echo "Installing: $missing"
+    local log
+    log=$(mktemp 2>/dev/null) || fail "Nothing can be installed: $(full_disk "${TMPDIR:-/tmp}" && echo "the disk is full" || echo "no file can be made in ${TMPDIR:-/tmp}")."
     # shellcheck disable=SC2086 # names, one word each
-    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $missing >/dev/null 2>&1 ||
-        { "${as_root[@]}" apt-get update -qq &&
-            "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $missing >/dev/null; } ||
-        fail "apt could not install: $missing"
+    apt_get "$log" install -y --no-install-recommends $missing || {
+        apt_get "$log" update && apt_get "$log" install -y --no-install-recommends $missing
+    } || {
+        local reason
+        reason=$(reason_of "$log")
+        rm -f "$log"
+        fail "Could not be installed, because $reason: $missing"
+    }
+    rm -f "$log"
 }
 
-# build PRESET [TARGET...]: configures where that has not been done, then builds what has changed.
+# build PRESET FOLDER [TARGET...]: configures where that has not been done, then builds what has changed.
 build() {
     local preset=$1 folder=$2
     shift 2
-    [ -f "$folder/build.ninja" ] || cmake --preset "$preset" >/dev/null || fail "CMake could not configure $preset."
-    ninja -C "$folder" "$@" || fail "The build of $preset failed."
+    { [ -f "$folder/build.ninja" ] || cmake --preset "$preset" >/dev/null; } && ninja -C "$folder" "$@" && return
+    full_disk . && fail "The build of $preset failed: the disk is full."
+    [ -w . ] || fail "The build of $preset failed: this user may not write into $PWD."
+    fail "The build of $preset failed."
 }
