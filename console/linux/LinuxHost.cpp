@@ -17,12 +17,13 @@ namespace {
 
 constexpr const char* user_name = "UserName";
 
-/// A recording tells whose pages it was made of. Nothing: the user of this process's.
+/// A recording tells whose pages it was made of; one that does not is nobody's. Nothing: the user
+/// of this process's.
 std::optional<std::string> user_of(const Options& options, const Sysroot& files)
 {
     if (options.user || files.is_live())
         return options.user;
-    return recorded_system_calls(Sysroot(files, nullptr))->variable(user_name);
+    return recorded_system_calls(Sysroot(files, nullptr))->variable(user_name).value_or("");
 }
 
 /// The user that the program sees.

@@ -1,4 +1,5 @@
 #include "platform/linux/files/Sysroot.h"
+#include "platform/linux/recording/RecordedSystemCalls.h"
 #include "platform/system/Failure.h"
 #include "window/linux/Window.h"
 
@@ -11,11 +12,12 @@ using namespace ostrelum::window;
 
 namespace {
 
-constexpr const char* usage = "Usage: ostrelum-showcase --sysroot DIR [--user NAME]\n"
-                              "\n"
-                              "Shows a recorded machine in the program's window.\n"
-                              "  --sysroot DIR  root folder of the machine\n"
-                              "  --user NAME    the account of the user page\n";
+constexpr const char* usage =
+    "Usage: ostrelum-showcase --sysroot DIR [--user NAME]\n"
+    "\n"
+    "Shows a recorded machine in the program's window.\n"
+    "  --sysroot DIR  root folder of the machine\n"
+    "  --user NAME    the account of the user page, if not the recording's\n";
 
 /// What the command line asks for; nothing if it is wrong.
 std::optional<MachineSource> read_options(int argc, char** argv)
@@ -38,7 +40,7 @@ std::optional<MachineSource> read_options(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
-    const auto source = read_options(argc, argv);
+    auto source = read_options(argc, argv);
     if (!source) {
         std::cerr << usage;
         return 2;
@@ -46,6 +48,8 @@ int main(int argc, char** argv)
     try {
         // Opened here, since the window passes over a machine that is not there.
         const Sysroot there(source->root);
+        if (!source->user && !there.is_live())
+            source->user = recorded_system_calls(there)->variable("UserName").value_or("");
     } catch (const Failure& failure) {
         std::cerr << "ostrelum-showcase: " << failure.what() << '\n';
         return 1;

@@ -2,9 +2,9 @@
 
 #include "platform/linux/formats/MouseButtons.h"
 #include "platform/linux/services/UserFolders.h"
+#include "platform/linux/text/Text.h"
 #include "platform/system/Failure.h"
 #include "sources/Ascii.h"
-#include "sources/Utf8.h"
 
 #include <algorithm>
 #include <charconv>
@@ -108,9 +108,11 @@ int LinuxSystemApi::GetSystemMetrics(int index)
 
 std::string LinuxSystemApi::Environ(const std::string& name)
 {
-    if (!same_ascii_letters(name, "UserName"))
-        return made_valid_utf8(variable_in_any_case(environment_, name));
-    return made_valid_utf8(user_ ? *user_ : login_name(environment_));
+    const bool is_user = same_ascii_letters(name, "UserName");
+    const std::string raw = !is_user ? variable_in_any_case(environment_, name)
+                            : user_  ? *user_
+                                     : login_name(environment_);
+    return text_or_none(raw).value_or("");
 }
 
 int LinuxSystemApi::GetAttr(const std::string& path)

@@ -27,6 +27,13 @@ TEST(VolumeRule, ListsEachVolumeOnce)
          "/dev/sda1 / ext4 rw 0 0\nproc /proc proc rw 0 0\nh:/x /net nfs rw 0 0\n"
          "/dev/sdb /net/d ext4 rw 0 0\n",
          "/ net:/net far:/net/d "},
+        {"names with blanks and what ends a line, and a mount of nothing",
+         "20 1 8:1 / /a\\040b rw - ext4 /dev/sda1 rw\n21 1 8:2 / /c\\012\\134\\400 rw - ext4  rw\n",
+         "/a b /c\n\\\\400 "},
+        {"lines of neither form, and one that is cut off",
+         "\n# note\n20 1 8:1 / / rw ext4 /dev/sda1 rw\n21 1 8:2 / b rw - ext4 /dev/sda1 rw\nx /y\n"
+         "22 1 8:3 / /last rw - ext4 /dev/sd",
+         ""},
     };
     for (const auto& [what, table, volumes] : cases) {
         std::string listed;

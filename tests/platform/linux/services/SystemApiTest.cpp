@@ -67,7 +67,10 @@ TEST(SystemApi, FindsVariablesInAnyCase)
     };
     for (const auto& [environment, name, value] : cases)
         EXPECT_EQ(LinuxSystemApi("/", environment).Environ(name), value) << name;
-    EXPECT_EQ(LinuxSystemApi("/", {{"UserName", own}}, "ada").Environ("UserName"), "ada");
+    // A recording may name anybody, and the name goes to a terminal.
+    EXPECT_EQ(
+        LinuxSystemApi("/", {{"UserName", own}}, "\x1B[2J\nada\r\xC2\x9B").Environ("UserName"),
+        "[2J ada");
 }
 
 TEST(SystemApi, TellsAFilesAttribute)
