@@ -35,9 +35,9 @@ void check_service(const std::string& root)
 }
 
 /// Every page, and each document of a report, as the window shows and saves them.
-void check_program(const std::string& root)
+void check_program(const std::string& root, const std::string& user)
 {
-    const auto machine = LinuxHost().open({.sysroot = root, .user = "eva"});
+    const auto machine = LinuxHost().open({.sysroot = root, .user = user});
     ConsoleProgram program(*machine, "English");
     for (int section = 1; section <= 13; ++section)
         require(are_clean_lines(program.page(section), "\n"));
@@ -52,7 +52,7 @@ void check_program(const std::string& root)
 
 } // namespace
 
-/// Any bytes as the name of everything that has one: pages and reports are made of them, and all
+/// Any bytes as the name of everything and of the user: pages and reports are made of them, and all
 /// that they show is clean text. The first byte also chooses the machine.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
@@ -63,8 +63,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                                                         RenamedSysroot(folder + "desktop"),
                                                         RenamedSysroot(folder + "notebook")};
     const RenamedSysroot& machine = machines[size > 0 ? data[0] % machines.size() : 0];
-    machine.rename_all(std::string(data, data + size));
+    const std::string name(data, data + size);
+    machine.rename_all(name);
     check_service(machine.root());
-    check_program(machine.root());
+    check_program(machine.root(), name);
     return 0;
 }
