@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/linux/recording/Recording.h"
+#include "platform/masking/KnownIdentities.h"
 
 #include <string>
 #include <vector>
@@ -12,5 +13,8 @@ namespace ostrelum::linux_platform {
 /// their own names. Files in a form that is not known are left out, and so are the records of
 /// logins. `accounts` are those that are shown, the user's own first.
 Recording masked_recording(const Recording& recording, const std::vector<std::string>& accounts);
+
+/// What is hidden in that recording.
+KnownIdentities identities_in(const Recording& recording, const std::vector<std::string>& accounts);
 
 } // namespace ostrelum::linux_platform

@@ -2,6 +2,8 @@
 #include "platform/linux/formats/Edid.h"
 #include "platform/linux/formats/Smbios.h"
 #include "platform/linux/recording/MaskedBytes.h"
+#include "platform/linux/recording/MaskedConfig.h"
+#include "platform/linux/recording/MaskedRecording.h"
 #include "platform/linux/recording/MaskedTexts.h"
 #include "tests/platform/linux/MadeEdid.h"
 
@@ -28,9 +30,11 @@ TEST(Masked, LeavesOfEachTextWhatIdentifiesNobody)
         {masked_mounts,
          "28 1 0:41 /@ / rw shared:1 - btrfs /dev/mapper/luks-1c5a7e90 rw,subvol=/@\n"
          "29 28 0:50 / /media/alma/a\\040b rw - cifs //nas/alma rw,username=alma\n",
-         "28 1 0:41 /(hidden\\0405) / rw - btrfs /dev/mapper/(hidden\\0404) rw\n"
-         "29 28 0:50 / /media/(hidden\\0406)/(hidden\\0407) rw - cifs "
-         "//(hidden\\0408)/(hidden\\0406) rw\n"},
+         "28 1 0:41 /(hidden\\0407) / rw - btrfs /dev/mapper/(hidden\\0404) rw\n"
+         "29 28 0:50 / /media/(hidden\\0405)/(hidden\\0406) rw - cifs "
+         "//(hidden\\0408)/(hidden\\0405) rw\n"},
+        {masked_mounts, "a\\134\\011b /sys a\\134\\011b rw 0 0\n",
+         "a\\134\\011b /sys a\\134\\011b rw 0 0\n"},
         {masked_mounts, "/dev/sda1 /mnt/my ext4 rw 0 0\n",
          "/dev/sda1 /mnt/(hidden\\0409) ext4 rw 0 0\n"},
         {masked_cpuinfo, "Hardware\t: BCM2835\nSerial\t\t: 00000000abcdef01\n",
@@ -43,7 +47,19 @@ TEST(Masked, LeavesOfEachTextWhatIdentifiesNobody)
          "GRUB_TIMEOUT=5\n"},
         {masked_accounts, "daemon:x:1:1::/:\nalma:x:1000:100:Alma Kestrel,4:/home/alma:/bin/sh\n",
          "(hidden):x:1000:100:(hidden)::\n"},
-        {masked_groups, "larch:x:9:alma\nsudo:x:27:root,alma\n", "sudo:x:27:root,(hidden)\n"},
+        {masked_groups, "larch:x:9:alma\nsudo:$6$hash:27:owl, alma\nwheel\nadmin:x:owl:\n",
+         "sudo:x:27:(hidden)\nwheel:x::\nadmin:x::\n"},
+        {masked_boot_menu, "GRUB_TIMEOUT=alma\n", "GRUB_TIMEOUT=-1\n"},
+        {masked_locale, "# alma\nLANG=sr_RS.alma@latin\n", "LANG=sr_RS@latin\n"},
+        {masked_locale, "LANG=C.UTF-8\n", "LANG=C\n"},
+        {masked_locale, "LANG=alma\n", "LANG=(hidden)\n"},
+        {masked_definitions, "UID_MAX alma\nUID_MAX 9\n\tUID_MIN 500 # alma\nUMASK 022\n",
+         "UID_MIN 500\n"},
+        {masked_release, "NAME=\"A \\\"B\"\nHOME_URL=alma\n# alma\n", "NAME=\"A \\\"B\"\n"},
+        {masked_driver, "NVRM version: 535  Release Build  (alma@larch)  Mon\n",
+         "NVRM version: 535  Release Build  (hidden)  Mon\n"},
+        {masked_names, "# alma\nusb:v046D ID_VENDOR_FROM_DATABASE=Logitech\nalma ALMA=x\n",
+         "usb:v046D ID_VENDOR_FROM_DATABASE=Logitech\n"},
         {masked_machine_id, "3b7c61f04d7a4c0e9f5521d88e90ab17\n", "(hidden)\n"},
         {hidden_line, "4KQ7ZX1\n", "(hidden)\n"},
         {hidden_line, "2222\n", "(hidden)\n"},
@@ -52,12 +68,82 @@ TEST(Masked, LeavesOfEachTextWhatIdentifiesNobody)
         {masked_kernel, "Linux version 6.1 (alma@larch) #1 SMP\n", "(hidden) #1 SMP\n"},
         {masked_kernel, "Linux version 6.1 (alma@larch)\n", ""},
         {masked_udev,
-         "S:disk/by-id/S3Z1\nE:ID_WWN=0x5002\nE:ID_MODEL=SSD\nE:ID_FS_UUID=1c5a\n"
+         "S:disk/by-id/S3Z1\nE:ID_WWN=0x5002\nE:ID_MODEL=SSD\nE:ID_FS_UUID=1C5A-7E90\n"
          "E:MEMORY_DEVICE_0_ASSET_TAG=A1\nE:ID_PART_ENTRY_UUID=77\n",
          "E:ID_MODEL=SSD\nE:ID_FS_UUID=(hidden)\n"},
+        {masked_udev, "E:ID_FS_UUID=2024-08-27-15-44-48-00\nE:ID_FS_LABEL_ENC=\n",
+         "E:ID_FS_UUID=-\n"},
     };
     for (const auto& each : cases)
         EXPECT_EQ(each.masked(each.before, given), each.after);
+}
+
+/// A maker's word is what it says; in a text of a person's it may be a name.
+TEST(Masked, FindsWhatIsKnownInOtherTexts)
+{
+    KnownIdentities known;
+    known.add_person("Alma von Kestrel");
+    for (const char* each : {"@S3Z1NB", "1234567", "12345678", "USB", "al", "sda1", "home", "Café"})
+        known.add(each);
+    const struct {
+        Writer writer;
+        std::string_view before, after;
+    } cases[] = {
+        {Writer::Person, "ALMA's and Almas, alma_von-kestrel",
+         "(hidden)'s and Almas, (hidden 2)_(hidden 3)-(hidden 4)"},
+        {Writer::Person, "Alma von Kestrel", "(hidden 5)"},
+        {Writer::Maker, "alma S3Z1NB s3z1nb XS3Z1NB", "alma (hidden 6) (hidden 7) XS3Z1NB"},
+        {Writer::Maker, "12345678 \n", "12345678 \n"},
+        {Writer::Maker, "V12345678 12345678 1234567", "V12345678 (hidden 8) 1234567"},
+        {Writer::Person, "al USB sda1 home café 1234567",
+         "al USB sda1 home (hidden 9) (hidden 10)"},
+        {Writer::Maker, "c4:d3:8C:00:11:22 c4:d3:8c:00:11:2 0c4:d3:8c:00:11:22",
+         "(hidden 11) c4:d3:8c:00:11:2 0c4:d3:8c:00:11:22"},
+        {Writer::Maker, "{4a67b082-0a4c-41cf-b6c7-440b29bb8c4f}", "{(hidden 12)}"},
+    };
+    Pseudonyms given;
+    for (const auto& each : cases)
+        EXPECT_EQ(known.hidden_in(each.before, each.writer, given), each.after);
+}
+
+/// Links lead where they led, and of the boot menu's files the last one still counts.
+TEST(Masked, GivesPseudonymsToPlaces)
+{
+    const Place folder{PlaceKind::Folder, "", ""};
+    const auto menu = [](const std::string& path, const std::string& text) {
+        return std::pair(path, Place{PlaceKind::File, text, path});
+    };
+    const std::string menus = "/etc/default/grub.d/";
+    Recording recording;
+    recording.places = {
+        menu(menus + "9-alma.cfg", "GRUB_TIMEOUT=9\n"),
+        menu(menus + "10-alma.cfg", "GRUB_TIMEOUT=10\n"),
+        {"/dev/vault", folder},
+        {"/dev/vault/den", {PlaceKind::Link, "/dev/mapper/vault-den", ""}},
+        {"/dev/mapper/vault-den", {PlaceKind::Link, "../dm-0", ""}},
+        {"/dev/mydisk", {PlaceKind::Link, "sda1", ""}},
+        {"/etc/passwd", {PlaceKind::Link, "../home/./alma//p", ""}},
+        {"/sys/class/power_supply/hid-S3-battery",
+         {PlaceKind::Link, "../../devices/hid-S3-battery", ""}},
+        {"/sys/class/power_supply/hid-0005:046D:B019.0003-battery", folder},
+        {"/sys/firmware/efi/efivars/X-4a67b082-0a4c-41cf-b6c7-440b29bb8c4f", folder},
+    };
+    std::map<std::string, std::string> after;
+    for (const auto& [path, place] : masked_recording(recording, {}).places)
+        after.emplace(path, place.content);
+    const std::map<std::string, std::string> expected = {
+        {menus + "1.cfg", "GRUB_TIMEOUT=9\n"},
+        {menus + "2.cfg", "GRUB_TIMEOUT=10\n"},
+        {"/dev/(hidden 3)", ""},
+        {"/dev/(hidden 3)/(hidden 4)", "/dev/mapper/(hidden)"},
+        {"/dev/mapper/(hidden)", "../dm-0"},
+        {"/dev/(hidden 2)", "sda1"},
+        {"/etc/passwd", "../home/./(hidden 5)//(hidden 6)"},
+        {"/sys/class/power_supply/hid-(hidden 7)-battery", "../../devices/hid-(hidden 7)-battery"},
+        {"/sys/class/power_supply/hid-0005:046D:B019.0003-battery", ""},
+        {"/sys/firmware/efi/efivars/X-4a67b082-0a4c-41cf-b6c7-440b29bb8c4f", ""},
+    };
+    EXPECT_EQ(after, expected);
 }
 
 TEST(Masked, BlotsOutSerialNumbersInTheFirmwareTable)
