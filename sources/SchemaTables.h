@@ -18,10 +18,14 @@ enum class Identity {
     None,
     /// It identifies a person, a machine, a network, a part or a volume.
     Value,
+    /// It is a person's name.
+    Person,
     /// It names an account; one must still be told from another.
     Account,
     /// A place, in which folders may be named after any of these.
     Path,
+    /// A text in which a person may have put any of these.
+    Wording,
 };
 
 struct PropertySchema {
@@ -45,7 +49,7 @@ inline constexpr PropertySchema Win32_Battery_properties[] = {
      Identity::Value},
     {"EstimatedChargeRemaining", CimType::UInt16, "%", "Charge left"},
     {"EstimatedRunTime", CimType::UInt32, "min", "Time until empty"},
-    {"Name", CimType::String, "", "The maker's name for the battery"},
+    {"Name", CimType::String, "", "The maker's name for the battery", Key::No, Identity::Wording},
 };
 
 inline constexpr PropertySchema Win32_BIOS_properties[] = {
@@ -84,7 +88,7 @@ inline constexpr PropertySchema Win32_DiskDrive_properties[] = {
 
 inline constexpr PropertySchema Win32_Keyboard_properties[] = {
     {"Description", CimType::String, "", "Kind of keyboard, by its connection"},
-    {"Name", CimType::String, "", "Name of the device"},
+    {"Name", CimType::String, "", "Name of the device", Key::No, Identity::Wording},
 };
 
 inline constexpr PropertySchema Win32_LogicalDisk_properties[] = {
@@ -117,7 +121,7 @@ inline constexpr PropertySchema Win32_OperatingSystem_properties[] = {
     {"NumberOfProcesses", CimType::UInt32, "", "Running processes"},
     {"OSArchitecture", CimType::String, "", "Width of the system's words"},
     {"OSLanguage", CimType::UInt32, "", "LCID of the system's language"},
-    {"RegisteredUser", CimType::String, "", "Owner of the system", Key::No, Identity::Value},
+    {"RegisteredUser", CimType::String, "", "Owner of the system", Key::No, Identity::Person},
     {"SerialNumber", CimType::String, "", "Identity of the installation", Key::No, Identity::Value},
     {"ServicePackMajorVersion", CimType::UInt16, "", "Service pack, 0 for none"},
     {"TotalVirtualMemorySize", CimType::UInt64, "KB", "Memory with swap space"},
@@ -135,8 +139,8 @@ inline constexpr PropertySchema Win32_PhysicalMemory_properties[] = {
 inline constexpr PropertySchema Win32_PointingDevice_properties[] = {
     {"DeviceInterface", CimType::UInt16, "", "Kind of connection"},
     {"Handedness", CimType::UInt16, "", "2 right, 3 left"},
-    {"Manufacturer", CimType::String, "", "Maker of the device"},
-    {"Name", CimType::String, "", "Name of the device"},
+    {"Manufacturer", CimType::String, "", "Maker of the device", Key::No, Identity::Wording},
+    {"Name", CimType::String, "", "Name of the device", Key::No, Identity::Wording},
 };
 
 inline constexpr PropertySchema Win32_Processor_properties[] = {
@@ -152,8 +156,8 @@ inline constexpr PropertySchema Win32_Processor_properties[] = {
 };
 
 inline constexpr PropertySchema Win32_SoundDevice_properties[] = {
-    {"Manufacturer", CimType::String, "", "Maker of the device"},
-    {"Name", CimType::String, "", "The maker's name for the device"},
+    {"Manufacturer", CimType::String, "", "Maker of the device", Key::No, Identity::Wording},
+    {"Name", CimType::String, "", "The maker's name for the device", Key::No, Identity::Wording},
 };
 
 inline constexpr PropertySchema Win32_UserAccount_properties[] = {
@@ -173,7 +177,7 @@ inline constexpr PropertySchema Win32_VideoController_properties[] = {
     {"CurrentRefreshRate", CimType::UInt32, "Hz", "Refresh rate of the current mode"},
     {"CurrentVerticalResolution", CimType::UInt32, "pixel", "Height of the current mode"},
     {"DriverDate", CimType::DateTime, "", "Day of the driver's release"},
-    {"DriverVersion", CimType::String, "", "Version of the driver"},
+    {"DriverVersion", CimType::String, "", "Version of the driver", Key::No, Identity::Wording},
     {"InstalledDisplayDrivers", CimType::String, "", "Drivers, with commas between them"},
     {"MaxRefreshRate", CimType::UInt32, "Hz", "Highest refresh rate"},
     {"MinRefreshRate", CimType::UInt32, "Hz", "Lowest refresh rate"},

@@ -6,6 +6,7 @@
 #include "platform/linux/recording/RecordedSystemCalls.h"
 #include "platform/linux/services/MachineShell.h"
 #include "platform/masking/MaskedService.h"
+#include "platform/masking/MaskedShell.h"
 
 #include <optional>
 
@@ -57,19 +58,36 @@ public:
         auto service = make_linux_management_service(files_, SessionFactsSource());
         if (!options_.mask)
             return service;
-        LinuxSystemApi open(files_, process_environment(), user_of(options_, files_));
-        return std::make_unique<MaskedService>(std::move(service), open.Environ(user_name));
+        return std::make_unique<MaskedService>(std::move(service), own_account(), known());
     }
 
     std::unique_ptr<Shell> shell_over(std::unique_ptr<Shell> stored) override
     {
-        return std::make_unique<MachineShell>(files_, std::move(stored));
+        auto shell = std::make_unique<MachineShell>(files_, std::move(stored));
+        if (!options_.mask)
+            return shell;
+        return std::make_unique<MaskedShell>(std::move(shell), known());
     }
 
 private:
+    std::string own_account() const
+    {
+        LinuxSystemApi open(files_, process_environment(), user_of(options_, files_));
+        return open.Environ(user_name);
+    }
+
+    /// Asks the machine for much: once.
+    const KnownIdentities& known()
+    {
+        if (!known_)
+            known_ = identities_of(files_, own_account());
+        return *known_;
+    }
+
     Sysroot files_;
     Options options_;
     std::optional<LinuxSystem> system_;
+    std::optional<KnownIdentities> known_;
 };
 
 } // namespace

@@ -11,6 +11,7 @@ import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "faults"))
 import machine  # noqa: E402
+import planted  # noqa: E402
 from machine import MACHINES, USERS  # noqa: E402
 
 # Rows of this machine that change from one second to the next.
@@ -30,6 +31,21 @@ FURTHER = {"1AB2C3D4", "HCHW301122", "10.0.0.5", "buildd", "mockbuild", "nvme0n1
 COMMON = {"boot", "EFI", "fedora", "scratch", "Windows", "WORKGROUP", "guest", "Not Specified", "uninitialized"}
 MASKED_ROWS = ("Name:", "Domain:", "Workgroup:", "Serial number:", "Registered by:", "Drive letter:", "Start time:",
                "Number of bad passwords entered:", "Logon's number:")
+
+
+# What a masked recording leaves out, and what is hidden as a whole.
+LEFT_OUT = ('"DeviceID":', '"SerialNumber":', '"VolumeSerialNumber":', "Serial number:", "Start time:", "Number of bad passwords entered:", "Logon's number:", '"LastLogon":',
+              '"BadPasswordCount":', '"NumberOfLogons":')
+
+
+def any_of(words):
+    return re.compile("|".join(map(re.escape, sorted(words, key=len, reverse=True))), re.IGNORECASE)
+
+
+def neutral(line, told):
+    """With what is hidden, and what is to be hidden, as one and the same."""
+    line = re.sub(r"\(hidden[ 0-9]*\)", "(hidden)", told.sub("(hidden)", line))
+    return re.sub(r"\(hidden\)(?:[ '@/.-]*\(hidden\))*", "(hidden)", line)
 
 
 def identities(root):
@@ -117,6 +133,26 @@ class RecordingTest(unittest.TestCase):
                         if before != after:
                             self.assertTrue(before.startswith(MASKED_ROWS), before)
                             self.assertRegex(after, "hidden|Unknown")
+
+    def test_masked_holds_nothing_planted(self):
+        """And all else that it shows is as it was."""
+        root = planted.planted(self.folder / "machine")
+        user = ("--user", planted.USER)
+        recording = self.record(root, "masked", *user, "--mask")
+        plain = shown(root, *user)
+        told = any_of(planted.ALL)
+        self.assertGreaterEqual(len(set(planted.ALL)), 100)
+        for texts in (content(recording), shown(recording), shown(root, *user, "--mask")):
+            for name, text in texts.items():
+                whole = name + "\n" + (text.decode("latin-1") if isinstance(text, bytes) else text or "")
+                self.assertEqual(sorted(set(told.findall(whole))), [], name)
+        # What the machine had before: an account and a label, which also stand for themselves.
+        told = any_of(planted.ALL + ["root", "boot"])
+        for texts in (shown(recording), shown(root, *user, "--mask")):
+            for name, text in plain.items():
+                for before, after in zip(text.splitlines(), texts[name].splitlines(), strict=True):
+                    if not before.strip(" ·").startswith(LEFT_OUT):
+                        self.assertEqual(neutral(after, told), neutral(before, told), name)
 
     def test_is_written_whole_or_not_at_all(self):
         for folder in ("used", "used/mine", "empty"):
