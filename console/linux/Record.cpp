@@ -7,10 +7,12 @@
 #include "platform/linux/LinuxManagementService.h"
 #include "platform/linux/recording/MaskedRecording.h"
 #include "platform/linux/recording/Recorder.h"
+#include "platform/system/Failure.h"
 #include "sources/Schema.h"
 
 #include <memory>
 #include <string>
+#include <system_error>
 #include <vector>
 
 namespace ostrelum::console {
@@ -46,17 +48,30 @@ std::vector<std::string> ask_everything(const Options& options, const Sysroot& f
     return ask_classes(*machine->management_service(), own_account);
 }
 
+/// Libraries pass over what they cannot open, so there must be room for them beforehand. Throws
+/// Failure if this process may not have so many files open.
+void check_room(const std::string& root)
+{
+    constexpr std::size_t most_at_once = 32;
+    std::vector<Sysroot> opened;
+    while (opened.size() < most_at_once)
+        opened.emplace_back(root);
+}
+
 } // namespace
 
 void record_machine(const Options& options, const std::string& folder)
 {
     check_unused(folder);
+    check_room(options.sysroot.value_or("/"));
     const Sysroot files(options.sysroot.value_or("/"));
     const auto recorder = std::make_shared<Recorder>(files);
     // What is hidden is so in the recording: the machine itself is asked as it is.
     Options open = options;
     open.mask = false;
     const auto accounts = ask_everything(open, Sysroot(files, recorder));
+    if (const int error = files.shortage())
+        throw Failure(folder + ": " + std::generic_category().message(error));
     const Recording& recording = recorder->recording();
     write_recording(options.mask ? masked_recording(recording, accounts) : recording, folder);
 }

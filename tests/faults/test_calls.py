@@ -1,5 +1,7 @@
 """No call that fails ends the program: the console on a recorded machine and on this one."""
 
+import os
+import tempfile
 import unittest
 from concurrent.futures import ThreadPoolExecutor
 
@@ -39,6 +41,16 @@ class CallsTest(unittest.TestCase):
 
     def test_without_threads(self):
         pages([], calls.tracer("/dev/null", *calls.failing("clone3", "EAGAIN", 1, "+")))
+
+    def test_a_recording_is_whole_or_fails(self):
+        few = [["sh", "-c", f'ulimit -n {limit}; exec "$@"', "sh"] for limit in (5, 6, 12)]
+        once = [calls.tracer("/dev/null", *calls.failing(call, "ENFILE", 200)) for call in ("openat2", "openat")]
+        with tempfile.TemporaryDirectory() as folder:
+            for root in ("/", str(machine.MACHINES / "notebook")):
+                for before in few + once:
+                    done = machine.run("--sysroot", root, "record", f"{folder}/new", before=before)
+                    self.assertRegex(done.stderr.decode(), "Too many open files")
+                    self.assertEqual((done.returncode, os.listdir(folder)), (1, []), before)
 
 
 if __name__ == "__main__":

@@ -24,6 +24,9 @@ public:
     explicit operator bool() const { return number_ >= 0; }
     int number() const { return number_; }
 
+    /// Hands the file over: it stays open, for whoever takes the number to close.
+    int release() { return std::exchange(number_, -1); }
+
 private:
     int number_;
 };

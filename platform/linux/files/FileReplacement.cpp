@@ -1,106 +1,16 @@
 #include "platform/linux/files/FileReplacement.h"
 
 #include "platform/linux/files/FileStatus.h"
-#include "platform/linux/files/PathWalk.h"
-#include "platform/linux/text/Hex.h"
-#include "platform/system/Failure.h"
+#include "platform/linux/files/PartFile.h"
 
 #include <cerrno>
-#include <climits>
+#include <cstdio>
 #include <fcntl.h>
-#include <filesystem>
-#include <functional>
-#include <sys/file.h>
+#include <utility>
 
 namespace ostrelum::linux_platform {
 
 namespace {
-
-namespace fs = std::filesystem;
-
-constexpr int write_flags = O_WRONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
-
-[[noreturn]] void fail_in_use(const std::string& path)
-{
-    throw Failure(path + ": in use");
-}
-
-/// What a chain of symbolic links leads to; it need not exist.
-std::string followed(const std::string& path)
-{
-    fs::path place = path;
-    for (int links = 0; links < link_limit; ++links) {
-        std::error_code error;
-        const fs::path next = fs::read_symlink(place, error);
-        if (error)
-            return place;
-        place = place.parent_path() / next;
-    }
-    throw Failure(path + ": too many symbolic links");
-}
-
-/// The file that is there, open for writing; none where there is none yet. What is no regular file
-/// is not opened: with some devices that alone does something.
-Descriptor existing_file(const std::string& target, const std::string& path)
-{
-    struct stat found = {};
-    if (::lstat(target.c_str(), &found) != 0)
-        return Descriptor();
-    if (!S_ISREG(found.st_mode))
-        throw Failure(path + ": not a regular file");
-    Descriptor file(::open(target.c_str(), write_flags));
-    if (!file)
-        fail_at(path);
-    regular_status(file, path);
-    return file;
-}
-
-/// Beside the target, under its name where there is room in a name for more.
-std::string part_name(const fs::path& target)
-{
-    const std::string name = target.filename();
-    const std::string readable = "." + name + ".part";
-    const std::string brief = "." + lower_hex(std::hash<std::string>{}(name), 16) + ".part";
-    return target.parent_path() / (readable.size() > NAME_MAX ? brief : readable);
-}
-
-/// Whether `name` still leads to the file that was opened.
-bool leads_to(const std::string& name, const struct stat& opened)
-{
-    struct stat named = {};
-    return ::lstat(name.c_str(), &named) == 0 && named.st_dev == opened.st_dev &&
-           named.st_ino == opened.st_ino;
-}
-
-/// Takes the file for this process alone, as far as the file system knows locks. The name is looked
-/// at again once the lock is had: its last holder may have put another file there.
-void hold(const Descriptor& file, const std::string& name, const std::string& path)
-{
-    const struct stat opened = regular_status(file, path);
-    if (::flock(file.number(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
-        fail_in_use(path);
-    if (!leads_to(name, opened))
-        fail_in_use(path);
-}
-
-/// Whether the last call failed because the folder is not the user's to write.
-bool is_closed_folder()
-{
-    return errno == EACCES || errno == EPERM || errno == EROFS;
-}
-
-/// The part file, open and held. What a killed process left is taken over. None where the folder
-/// may not be written but the file in it may.
-Descriptor held_part(const std::string& name, mode_t mode, const Descriptor& old,
-                     const std::string& path)
-{
-    Descriptor part(::open(name.c_str(), write_flags | O_CREAT, mode));
-    if (part)
-        hold(part, name, path);
-    else if (!old || !is_closed_folder())
-        fail_at(path);
-    return part;
-}
 
 void write_all(const Descriptor& file, std::string_view content, const std::string& path)
 {
@@ -128,9 +38,9 @@ bool takes_over(const Descriptor& part, const struct stat& old)
 }
 
 /// Makes the renaming itself survive a loss of power, where the file system can.
-void sync_folder(const fs::path& folder)
+void sync_folder(const Descriptor& folder)
 {
-    const Descriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const Descriptor opened(::openat(folder.number(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (opened)
         ::fsync(opened.number());
 }
@@ -138,17 +48,21 @@ void sync_folder(const fs::path& folder)
 } // namespace
 
 FileReplacement::FileReplacement(const std::string& path, mode_t new_mode)
-    : path_(path), target_(followed(path)), old_(existing_file(target_, path)),
-      part_name_(part_name(target_)), part_(held_part(part_name_, new_mode, old_, path))
+    : path_(path), target_(find_written_place(path)), old_(std::move(target_.file)),
+      part_name_(part_name(target_.name))
 {
+    // Nobody else opens the file before it is certain that he may read what it gets.
+    part_ = make_part(target_.folder, part_name_, old_ ? owner_alone : new_mode, path);
+    if (!part_ && !(old_ && is_closed_folder()))
+        fail_at(path);
     if (!part_)
-        hold(old_, target_, path);
+        hold(target_.folder, target_.name, old_, path);
 }
 
 FileReplacement::~FileReplacement()
 {
     if (part_)
-        ::unlink(part_name_.c_str());
+        ::unlinkat(target_.folder.number(), part_name_.c_str(), 0);
 }
 
 void FileReplacement::commit(std::string_view content)
@@ -162,19 +76,18 @@ bool FileReplacement::replaced(std::string_view content)
 {
     if (old_ && !takes_over(part_, regular_status(old_, path_)))
         return false;
-    if (::ftruncate(part_.number(), 0) != 0)
-        fail_at(path_);
     write_all(part_, content, path_);
     if (::fsync(part_.number()) != 0)
         fail_at(path_);
-    if (::rename(part_name_.c_str(), target_.c_str()) != 0) {
+    const int folder = target_.folder.number();
+    if (::renameat(folder, part_name_.c_str(), folder, target_.name.c_str()) != 0) {
         // Something is mounted at the name.
         if (old_ && errno == EBUSY)
             return false;
         fail_at(path_);
     }
     part_ = Descriptor();
-    sync_folder(fs::path(target_).parent_path());
+    sync_folder(target_.folder);
     return true;
 }
 
@@ -182,7 +95,7 @@ bool FileReplacement::replaced(std::string_view content)
 /// costs nothing.
 void FileReplacement::write_over(std::string_view content)
 {
-    if (!leads_to(target_, regular_status(old_, path_)))
+    if (!leads_to(target_.folder, target_.name, regular_status(old_, path_)))
         fail_in_use(path_);
     const auto size = static_cast<off_t>(content.size());
     const bool refused = ::fallocate(old_.number(), FALLOC_FL_KEEP_SIZE, 0, size) != 0 &&

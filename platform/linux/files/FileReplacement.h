@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/linux/files/Descriptor.h"
+#include "platform/linux/files/WrittenPlace.h"
 
 #include <string>
 #include <string_view>
@@ -15,6 +16,10 @@ inline constexpr mode_t owner_alone = 0600;
 /// leads to the old content or to the new one, whole. A symbolic link is kept and what it leads to
 /// replaced. The new file takes the owner and the permissions of the old one; without an old one
 /// its permissions are those asked for. Several processes take turns: the second one fails.
+///
+/// What the system would refuse a shell's ">" is refused, as another user's link or file in a
+/// folder that all may write. The new content is written into a file of this process's own making
+/// alone, never into one that lay there.
 ///
 /// Where a new file could not be what the old one is, the old one is written over, as a shell's ">"
 /// does: a file of somebody else or of a group that is not the user's, one with other names (hard
@@ -42,7 +47,7 @@ private:
     /// As it was asked for: failures name it.
     std::string path_;
     /// Where the links of that lead.
-    std::string target_;
+    WrittenPlace target_;
     /// The file that is there, open for writing; none for a new one.
     Descriptor old_;
     std::string part_name_;

@@ -16,13 +16,16 @@
 namespace ostrelum::linux_platform {
 namespace {
 
-/// Opens for reading what a place is, if it is a regular file. The place refers to
-/// the file itself, whatever has taken its name meanwhile.
-Descriptor opened(const Descriptor& place)
+bool is_regular(const Descriptor& place)
 {
     struct stat status = {};
-    if (!place || ::fstat(place.number(), &status) != 0 || !S_ISREG(status.st_mode))
-        return Descriptor();
+    return place && ::fstat(place.number(), &status) == 0 && S_ISREG(status.st_mode);
+}
+
+/// Opens for reading what a place is. The place refers to the file itself, whatever has taken its
+/// name meanwhile.
+Descriptor opened(const Descriptor& place)
+{
     const std::string path = "/proc/self/fd/" + std::to_string(place.number());
     return Descriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
 }
@@ -66,11 +69,24 @@ std::optional<Sysroot> Sysroot::find(const std::string& path)
     }
 }
 
+/// What the last call opened, if anything.
+Descriptor Sysroot::checked(Descriptor file) const
+{
+    if (!file && (errno == EMFILE || errno == ENFILE || errno == ENOMEM))
+        *shortage_ = errno;
+    return file;
+}
+
+Descriptor Sysroot::find_place(const std::string& path, LastLink last) const
+{
+    return checked(resolver_(root_->number(), path, last));
+}
+
 bool Sysroot::exists(const std::string& path) const
 {
     if (observer_)
         observer_->on_exists(path);
-    return static_cast<bool>(resolver_(root_->number(), path, LastLink::Follow));
+    return static_cast<bool>(find_place(path, LastLink::Follow));
 }
 
 std::optional<std::string> Sysroot::read(const std::string& path, std::size_t limit) const
@@ -78,8 +94,7 @@ std::optional<std::string> Sysroot::read(const std::string& path, std::size_t li
     std::optional<Descriptor> file;
     if (live_ && is_kernel_path(path))
         file = open_kernel_file(root_->number(), path);
-    if (!file)
-        file = open(path);
+    file = file ? checked(std::move(*file)) : open(path);
     auto content = *file ? read_to_end(*file, limit) : std::nullopt;
     if (observer_)
         observer_->on_read(path, content);
@@ -101,7 +116,8 @@ std::optional<std::string> Sysroot::read_piece(const std::string& path, std::uin
 
 Descriptor Sysroot::open(const std::string& path) const
 {
-    return opened(resolver_(root_->number(), path, LastLink::Follow));
+    const Descriptor place = find_place(path, LastLink::Follow);
+    return is_regular(place) ? checked(opened(place)) : Descriptor();
 }
 
 std::optional<std::string> Sysroot::text(const std::string& path) const
@@ -121,11 +137,13 @@ std::optional<std::uint64_t> Sysroot::number(const std::string& path) const
 
 std::vector<std::string> Sysroot::list(const std::string& path) const
 {
-    const Descriptor place = resolver_(root_->number(), path, LastLink::Follow);
-    const int opened =
-        place ? ::openat(place.number(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC) : -1;
-    const std::unique_ptr<DIR, int (*)(DIR*)> folder(opened < 0 ? nullptr : ::fdopendir(opened),
-                                                     ::closedir);
+    const Descriptor place = find_place(path, LastLink::Follow);
+    Descriptor opened;
+    if (place)
+        opened =
+            checked(Descriptor(::openat(place.number(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC)));
+    const std::unique_ptr<DIR, int (*)(DIR*)> folder(
+        opened ? ::fdopendir(opened.release()) : nullptr, ::closedir);
     std::vector<std::string> names;
     while (const dirent* entry = folder ? ::readdir(folder.get()) : nullptr) {
         const std::string_view name = entry->d_name;
@@ -142,7 +160,7 @@ std::optional<std::string> Sysroot::link(const std::string& path) const
 {
     if (observer_)
         observer_->on_link(path);
-    const Descriptor place = resolver_(root_->number(), path, LastLink::Keep);
+    const Descriptor place = find_place(path, LastLink::Keep);
     return place ? link_text(place) : std::nullopt;
 }
 

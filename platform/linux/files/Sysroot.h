@@ -35,6 +35,10 @@ public:
     /// This very machine, not a recorded one.
     bool is_live() const { return live_; }
 
+    /// Why the system last refused a file that may well be there: the error number that says that
+    /// too many are open, or that there is no memory. 0 if it never did, here or on a copy.
+    int shortage() const { return *shortage_; }
+
     bool exists(const std::string& path) const;
 
     /// All bytes of a regular file, to its end whatever size it claims; nothing for one of more
@@ -69,11 +73,15 @@ public:
     const std::shared_ptr<AccessObserver>& observer() const { return observer_; }
 
 private:
+    Descriptor find_place(const std::string& path, LastLink last) const;
+    Descriptor checked(Descriptor file) const;
+
     static constexpr std::size_t default_limit = std::size_t{4} << 20;
 
     std::shared_ptr<const Descriptor> root_;
     Resolver resolver_;
     bool live_ = false;
+    std::shared_ptr<int> shortage_ = std::make_shared<int>(0);
     std::shared_ptr<AccessObserver> observer_;
 };
 

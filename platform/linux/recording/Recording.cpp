@@ -54,8 +54,8 @@ private:
 void write_bytes(const fs::path& path, std::uint64_t at, const std::string& bytes)
 {
     // Opened for both, a file keeps what it has; it must then be there.
-    if (!fs::exists(path))
-        std::ofstream(path, std::ios::binary);
+    if (!fs::exists(path) && !std::ofstream(path, std::ios::binary))
+        fail(path, errno);
     std::fstream file(path, std::ios::binary | std::ios::in | std::ios::out);
     file.seekp(static_cast<std::streamoff>(at));
     file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));

@@ -1,10 +1,12 @@
 #include "platform/linux/services/FileWriter.h"
 
+#include "platform/linux/files/Descriptor.h"
 #include "platform/system/Failure.h"
 #include "tests/platform/linux/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
+#include <fcntl.h>
 #include <sched.h>
 #include <sys/mount.h>
 #include <sys/stat.h>
@@ -17,6 +19,7 @@ namespace fs = std::filesystem;
 using namespace std::string_literals;
 
 constexpr uid_t nobody = 65534;
+constexpr uid_t stranger = 4711;
 constexpr const char* old_text = "something longer";
 
 bool is_root()
@@ -78,6 +81,72 @@ TEST(FileWriter, NewFilesAreAsTheUserHasThemAndOldOnesStayAsTheyAre)
         EXPECT_EQ(fs::status(old).permissions(), fs::perms(0640));
         EXPECT_NE(status_of(old).st_ino, before.st_ino) << "replaced in one step";
     }
+}
+
+/// Whether the system lets that user open the file as a shell's ">" does.
+bool system_allows(const std::string& path, uid_t writer)
+{
+    EXPECT_EQ(::seteuid(writer), 0);
+    const Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600));
+    EXPECT_EQ(::seteuid(::getuid()), 0);
+    return static_cast<bool>(file);
+}
+
+/// A file and two links of that owner in a folder where all may write; one link leads to nothing.
+void lay_for(uid_t owner, const TemporaryFolder& folder)
+{
+    for (const char* name : {"file", "home/target"}) {
+        fs::permissions(folder.file(name, old_text), fs::perms(0666));
+        EXPECT_EQ(::chown((folder / name).c_str(), owner, owner), 0);
+    }
+    for (const char* link : {"target", "new"}) {
+        fs::create_symlink("home/"s + link, folder / link);
+        EXPECT_EQ(::lchown((folder / link).c_str(), owner, owner), 0);
+    }
+    fs::permissions(folder / "home", fs::perms(0777));
+    fs::permissions(folder / "", fs::perms(01777));
+}
+
+TEST(FileWriter, IsRefusedWhatTheSystemRefusesWhereAllMayWrite)
+{
+    if (!is_root())
+        GTEST_SKIP() << "only root can lay files there as several users";
+    for (const uid_t owner : {uid_t{0}, nobody, stranger}) {
+        for (const auto& [name, place] :
+             {std::pair("file", "file"), {"target", "home/target"}, {"new", "home/new"}}) {
+            for (const uid_t writer : {uid_t{0}, nobody}) {
+                const TemporaryFolder folder;
+                lay_for(owner, folder);
+                const std::string path = folder / name;
+                const bool allowed = system_allows(path, writer);
+                fs::remove(folder / "home/new");
+                const std::string what = name + " of "s + std::to_string(owner);
+                EXPECT_EQ(failure_of(path, "short", writer) == "", allowed) << what;
+                EXPECT_EQ(content_of(folder / place) == "short", allowed) << what;
+            }
+        }
+    }
+}
+
+TEST(FileWriter, WritesIntoNoPartFileThatLayThere)
+{
+    const TemporaryFolder folder;
+    const std::string report = folder / "report";
+    const std::string other_name = folder.file("other", old_text);
+    fs::create_hard_link(other_name, folder / ".report.part");
+    LinuxFileWriter().replace(report, "short");
+    EXPECT_EQ(content_of(other_name), old_text);
+    EXPECT_EQ(content_of(report), "short");
+    EXPECT_FALSE(fs::exists(folder / ".report.part"));
+    if (!is_root())
+        return;
+    ASSERT_EQ(::chmod((folder / "").c_str(), 01777), 0);
+    const std::string part = folder.file(".mine.part", old_text);
+    ASSERT_EQ(::chmod(part.c_str(), 0666), 0);
+    ASSERT_EQ(::chown(part.c_str(), stranger, stranger), 0);
+    EXPECT_EQ(failure_of(folder / "mine", "short"), folder / "mine" + ": in use");
+    EXPECT_EQ(content_of(part), old_text);
+    EXPECT_FALSE(fs::exists(folder / "mine"));
 }
 
 TEST(FileWriter, WritesOverAFileThatNoOtherCouldReplace)
