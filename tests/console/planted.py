@@ -32,8 +32,8 @@ ALL = KNOWN + GROUPS + [WORKGROUP]
 
 # Names that people give, and texts that makers write, by the names of their files.
 GIVEN = ("name", "manufacturer", "product", "model_name")
-MADE = ("model", "sys_vendor", "product_name", "board_vendor", "board_name", "bios_vendor", "bios_version", "vendor_name",
-        "chip_name")
+MADE = ("model", "sys_vendor", "product_name", "board_vendor", "board_name", "bios_vendor", "bios_version",
+        "vendor_name", "chip_name")
 
 
 def put(root, path, text):
@@ -56,7 +56,8 @@ def plant_accounts(root):
     accounts = (root / "etc/passwd").read_text("utf-8").splitlines(keepends=True)
     put(root, "etc/passwd", "".join(line for line in accounts if not line.startswith("guest")))
     for number, (name, full_name) in enumerate(ACCOUNTS.items(), 1101):
-        add(root, "etc/passwd", f"{name}:{GROUPS[1]}:{number}:{number}:{full_name},Room 7,{SERIALS[0]}:/home/{name}:/bin/sh\n")
+        add(root, "etc/passwd",
+            f"{name}:{GROUPS[1]}:{number}:{number}:{full_name},Room 7,{SERIALS[0]}:/home/{name}:/bin/sh\n")
         put(root, f"run/faillock/{name}", "")
     add(root, "etc/group", f"wheel:{GROUPS[1]}:10:{','.join([*STRANGERS, *ACCOUNTS])}\n{GROUPS[0]}:x:77:{USER}\n")
     put(root, "etc/machine-id", MACHINE_ID + "\n")
@@ -90,7 +91,8 @@ def plant_volumes(root):
             f"E:DM_LV_NAME={volume}\nE:DM_NAME={name}\nE:ID_PART_ENTRY_UUID={UUIDS[n + 8]}\n" if n != 8 else "")
         target = f"/media/{USER}/{folder}".replace(" ", "\\040")
         number = "0:77" if n == 9 else f"254:{n}"
-        mounts += f"{700 + n} 28 {number} /@{folder.split()[0]} {target} rw - btrfs /dev/{group}/{volume} rw,user={USER}\n"
+        mounts += (f"{700 + n} 28 {number} /@{folder.split()[0]} {target} rw - btrfs /dev/{group}/{volume} "
+                   f"rw,user={USER}\n")
         spaces += f"/media/{USER}/{folder} 4096 {n}00000 {n}0000 {n}000\n"
     for n, server in enumerate(SERVERS):
         mounts += f"{720 + n} 28 0:8{n} / /mnt/{VOLUMES[n]} rw - cifs //{server}/{USER} rw\n"
@@ -107,8 +109,7 @@ def plant_devices(root):
             put(root, f"{supply}/{file}", text + "\n")
         lead(root, f"sys/class/power_supply/hid-{owner}-battery", f"/{supply}")
     (root / power / f"hid-{ADDRESSES[0]}-battery" / "model_name").unlink()
-    for file in root.glob("sys/class/power_supply/BAT0/serial_number"):
-        file.write_text(SERIALS[20] + "\n", "utf-8")
+    put(root, "sys/class/power_supply/BAT0/serial_number", SERIALS[20] + "\n")
     put(root, "sys/class/dmi/id/product_serial", SERIALS[2] + "\n")
     put(root, "sys/block/nvme0n1/wwid", NUMBERS[0] + "\n")
     for n, name in enumerate(["b259:0", "b254:0", "b254:1", "+dmi:id", "+input:input5"]):
@@ -116,7 +117,8 @@ def plant_devices(root):
             f"E:MEMORY_DEVICE_7_SERIAL_NUMBER={SERIALS[8 + n]}\nE:MEMORY_DEVICE_7_ASSET_TAG={SERIALS[13 + n]}\n")
     add(root, "run/udev/data/b254:1", "".join(f"E:ID_SCSI_SERIAL={serial}\n" for serial in SERIALS) +
         f"E:ID_PART_ENTRY_UUID={UUIDS[-1]}\n")
-    put(root, "proc/asound/cards", f" 0 [PCH            ]: HDA-Intel - HDA of {HOST}\n                      HDA at irq 1\n")
+    put(root, "proc/asound/cards",
+        f" 0 [PCH            ]: HDA-Intel - HDA of {HOST}\n                      HDA at irq 1\n")
 
 
 def mention(root):
@@ -126,11 +128,13 @@ def mention(root):
         if file.is_file() and file.name not in ("passwd", "group", "machine-id", "krb5.keytab"):
             add(root, file.relative_to(root), f"\n# {listed}\n; {listed}\nOWNER=\"{listed}\"\n")
     for file in sorted(root.glob("run/udev/data/*")):
-        add(root, file.relative_to(root), f"E:NOTE={listed}\nS:disk/by-id/{listed}\nE:ID_VENDOR_NOTE={' '.join(UNMISTAKABLE)}\n")
+        add(root, file.relative_to(root),
+            f"E:NOTE={listed}\nS:disk/by-id/{listed}\nE:ID_VENDOR_NOTE={' '.join(UNMISTAKABLE)}\n")
     add(root, ".facts/hwdb", f"# {listed}\nusb:v046D ID_VENDOR_FROM_DATABASE=Maker {SERIALS[4]}\n")
     add(root, "proc/cpuinfo", f"Serial : {SERIALS[5]}\nnote : {' '.join(UNMISTAKABLE)}\n")
     for n, name in enumerate([USER, HOST, *STRANGERS]):
-        put(root, f"etc/default/grub.d/{n}-{name}.cfg", f"GRUB_TIMEOUT={n}\nGRUB_CMDLINE_LINUX=\"root=UUID={UUIDS[n]}\"\n")
+        put(root, f"etc/default/grub.d/{n}-{name}.cfg",
+            f"GRUB_TIMEOUT={n}\nGRUB_CMDLINE_LINUX=\"root=UUID={UUIDS[n]}\"\n")
     for file in sorted(root.glob("sys/**/*")):
         if not file.is_file() or file.is_symlink() or file.stat().st_size == 0:
             continue

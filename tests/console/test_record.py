@@ -34,8 +34,9 @@ MASKED_ROWS = ("Name:", "Domain:", "Workgroup:", "Serial number:", "Registered b
 
 
 # What a masked recording leaves out, and what is hidden as a whole.
-LEFT_OUT = ('"DeviceID":', '"SerialNumber":', '"VolumeSerialNumber":', "Serial number:", "Start time:", "Number of bad passwords entered:", "Logon's number:", '"LastLogon":',
-              '"BadPasswordCount":', '"NumberOfLogons":')
+LEFT_OUT = ('"DeviceID":', '"SerialNumber":', '"VolumeSerialNumber":', "Serial number:", "Start time:",
+            "Number of bad passwords entered:", "Logon's number:", '"LastLogon":', '"BadPasswordCount":',
+            '"NumberOfLogons":')
 
 
 def any_of(words):
@@ -142,7 +143,11 @@ class RecordingTest(unittest.TestCase):
         plain = shown(root, *user)
         told = any_of(planted.ALL)
         self.assertGreaterEqual(len(set(planted.ALL)), 100)
-        for texts in (content(recording), shown(recording), shown(root, *user, "--mask")):
+        reports = {form: machine.run("--sysroot", root, *user, "--mask", "report", form).stdout
+                   for form in ("html", "rtf", "bbcode")}
+        for form, document in reports.items():
+            self.assertIn(b"(hidden)", document, form)
+        for texts in (content(recording), shown(recording), shown(root, *user, "--mask"), reports):
             for name, text in texts.items():
                 whole = name + "\n" + (text.decode("latin-1") if isinstance(text, bytes) else text or "")
                 self.assertEqual(sorted(set(told.findall(whole))), [], name)
