@@ -63,8 +63,9 @@ std::string quoted(const std::string& text)
 
 std::string masked_machine_id(const std::string& content, MachinePseudonyms& given)
 {
-    given.known.add(trimmed_space(content));
-    return (installation_id(content) ? hidden : "uninitialized") + "\n";
+    const std::string_view id = trimmed_space(content);
+    given.known.add(id);
+    return (is_pseudonym(id) || installation_id(id) ? hidden : "uninitialized") + "\n";
 }
 
 std::string masked_accounts(const std::string& content, MachinePseudonyms& given)

@@ -61,6 +61,7 @@ TEST(Masked, LeavesOfEachTextWhatIdentifiesNobody)
         {masked_names, "# alma\nusb:v046D ID_VENDOR_FROM_DATABASE=Logitech\nalma ALMA=x\n",
          "usb:v046D ID_VENDOR_FROM_DATABASE=Logitech\n"},
         {masked_machine_id, "3b7c61f04d7a4c0e9f5521d88e90ab17\n", "(hidden)\n"},
+        {masked_machine_id, "(hidden)\n", "(hidden)\n"},
         {hidden_line, "4KQ7ZX1\n", "(hidden)\n"},
         {hidden_line, "2222\n", "(hidden)\n"},
         {hidden_serial, "2222\n", "2222\n"},
