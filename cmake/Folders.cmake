@@ -15,6 +15,9 @@ if(OSTRELUM_SANITIZE)
     target_link_options(ostrelum_rules INTERFACE -fsanitize=address,undefined)
 endif()
 
+include(Hardening)
+ostrelum_harden(ostrelum_rules)
+
 # ostrelum_folder(NAME): every source of the current folder and its rooms, as the target ostrelum_NAME. Headers are
 # checked to compile alone, and for Windows behind the system's own.
 function(ostrelum_folder name)
