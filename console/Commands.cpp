@@ -8,7 +8,9 @@
 
 #include <algorithm>
 #include <charconv>
+#include <exception>
 #include <iostream>
+#include <new>
 
 namespace ostrelum::console {
 namespace {
@@ -119,12 +121,14 @@ int run(Host& host, const Options& options)
 
 int run_console(Host& host, const std::vector<std::string>& arguments)
 {
-    const auto options = read_options(arguments);
     int code = wrong_usage;
     try {
-        if (options)
+        if (const auto options = read_options(arguments))
             code = run(host, *options);
-    } catch (const Failure& failure) {
+    } catch (const std::bad_alloc&) {
+        std::cerr << "ostrelum-console: there is not enough memory\n";
+        return failed;
+    } catch (const std::exception& failure) {
         std::cerr << "ostrelum-console: " << failure.what() << '\n';
         return failed;
     }

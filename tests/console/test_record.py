@@ -170,9 +170,29 @@ class RecordingTest(unittest.TestCase):
                 self.assertEqual((run.returncode, run.stdout), (1, b""))
                 self.assertIn(target, run.stderr.decode())
                 self.assertEqual(content(self.folder), before)
+        gone = ("sh", "-c", 'mkdir "$0" && cd "$0" && rmdir "$0" && exec "$@"', str(self.folder / "gone"))
+        run = machine.run("--sysroot", MACHINES / "virtual", "record", "new", before=gone)
+        self.assertEqual((run.returncode, run.stderr), (1, b"ostrelum-console: new: No such file or directory\n"))
         self.record(MACHINES / "virtual", "empty/")
         self.assertTrue((self.folder / "empty" / "etc" / "passwd").exists())
         self.assertEqual(sorted(path.name for path in self.folder.iterdir()), ["empty", "file", "used"])
+
+    @unittest.skipIf(machine.is_sanitized(), "the sanitizers need more room than there is")
+    def test_ends_with_a_reason_where_memory_ends(self):
+        root = machine.copy_of("virtual", self.folder / "crowded")
+        (root / "proc/self/mountinfo").write_text("".join(
+            f"{n} 1 8:{n} / /volume/{n} rw - ext4 /dev/volume{n} rw\n" for n in range(2, 30000)))
+        codes = set()
+        for megabytes in (20, 24, 32, 40, 48, 56):
+            limited = ("sh", "-c", f'ulimit -v {megabytes << 10}; exec "$@"', "sh")
+            run = machine.run("--sysroot", root, "record", self.folder / "recording", before=limited)
+            with self.subTest(megabytes=megabytes):
+                self.assertIn((run.returncode, run.stderr), (
+                    (0, b""), (1, b"ostrelum-console: there is not enough memory\n")))
+                self.assertEqual([path.name for path in self.folder.iterdir() if path.name != "recording"], ["crowded"])
+            codes.add(run.returncode)
+            shutil.rmtree(self.folder / "recording", ignore_errors=True)
+        self.assertIn(1, codes)
 
 
 if __name__ == "__main__":

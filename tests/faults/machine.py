@@ -19,6 +19,10 @@ ENVIRONMENT = {"LC_ALL": "C", "TZ": "UTC0", "PATH": os.environ.get("PATH", ""),
                **{name: value for name, value in os.environ.items() if name.endswith("SAN_OPTIONS")}}
 
 
+def is_sanitized():
+    return b"__asan_init" in pathlib.Path(CONSOLE).read_bytes()
+
+
 def copy_of(machine, folder):
     return pathlib.Path(shutil.copytree(MACHINES / machine, folder, symlinks=True,
                                         ignore=shutil.ignore_patterns("expected")))

@@ -1,6 +1,5 @@
 """A second opinion about memory: nothing unset is read, nothing out of bounds, nothing is left lying about."""
 
-import pathlib
 import re
 import shutil
 import unittest
@@ -10,13 +9,9 @@ import machine
 VALGRIND = ["valgrind", "-q", "--error-exitcode=9", "--leak-check=full", "--errors-for-leak-kinds=definite,possible"]
 
 
-def is_sanitized():
-    return b"__asan_init" in pathlib.Path(machine.CONSOLE).read_bytes()
-
-
 @unittest.skipUnless(machine.LONG, "only in the long run")
 @unittest.skipUnless(shutil.which("valgrind"), "there is no valgrind")
-@unittest.skipIf(is_sanitized(), "the sanitizers have an opinion of their own")
+@unittest.skipIf(machine.is_sanitized(), "the sanitizers have an opinion of their own")
 class MemoryTest(unittest.TestCase):
     def test_every_recorded_machine_and_this_one(self):
         machines = sorted(path.parent for path in machine.MACHINES.glob("*/expected"))

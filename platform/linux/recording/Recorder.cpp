@@ -7,6 +7,9 @@ namespace ostrelum::linux_platform {
 void Recorder::keep(const std::string& place, PlaceKind kind, const std::string& content,
                     const std::string& asked)
 {
+    // The root itself, to which links may lead: it is there anyway.
+    if (place.empty())
+        return;
     const auto [known, is_new] = recording_.places.try_emplace(place, Place{kind, content, asked});
     if (!is_new && known->second.kind < kind)
         known->second = {kind, content, asked};
@@ -68,7 +71,8 @@ void Recorder::on_read(const std::string& path, const std::optional<std::string>
 
 void Recorder::on_read_piece(const std::string& path, std::uint64_t at, const std::string& bytes)
 {
-    if (const auto place = walk(path, LastLink::Follow))
+    const auto place = walk(path, LastLink::Follow);
+    if (place && !place->empty())
         recording_.pieces.try_emplace({*place, at}, bytes);
 }
 

@@ -21,7 +21,11 @@ namespace fs = std::filesystem;
 /// The folder without a slash at its end, which would hide its name.
 fs::path named(const std::string& folder)
 {
-    const fs::path path = fs::absolute(folder).lexically_normal();
+    std::error_code error;
+    const fs::path path = fs::absolute(folder, error).lexically_normal();
+    // In a folder that has been deleted.
+    if (error)
+        fail(folder, error.value());
     return path.has_filename() ? path : path.parent_path();
 }
 
@@ -40,8 +44,11 @@ public:
     PartFolder& operator=(const PartFolder&) = delete;
     ~PartFolder()
     {
-        std::error_code error;
-        fs::remove_all(path_, error);
+        try {
+            fs::remove_all(path_);
+        } catch (const std::exception&) {
+            // Without the memory for it there is nothing else to be done.
+        }
     }
 
     fs::path operator/(const std::string& path) const { return path_ / path.substr(1); }
@@ -102,8 +109,9 @@ void write_answers(const Recording& recording, const PartFolder& part)
 void check_unused(const std::string& folder)
 {
     std::error_code error;
-    const fs::file_status status = fs::symlink_status(named(folder), error);
-    if (fs::exists(status) && (!fs::is_directory(status) || !fs::is_empty(named(folder), error)))
+    const fs::path wanted = named(folder);
+    const fs::file_status status = fs::symlink_status(wanted, error);
+    if (fs::exists(status) && (!fs::is_directory(status) || !fs::is_empty(wanted, error)))
         throw Failure(folder + ": is there already, and not an empty folder");
 }
 

@@ -1,5 +1,4 @@
 #include "platform/linux/recording/Recorder.h"
-#include "platform/linux/devices/HardwareDatabase.h"
 #include "tests/platform/linux/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -14,6 +13,8 @@ TEST(Recorder, KeepsLinksAsLinks)
     folder.file("machine/devices/bus/disk/model", "SSD\n");
     folder.file("machine/devices/bus/maker", "ACME\n");
     folder.file("machine/unread", "secret");
+    std::filesystem::create_symlink("/", folder / "machine/root");
+    std::filesystem::create_symlink("..", folder / "machine/devices/root");
     std::filesystem::create_directory(folder / "machine/class");
     std::filesystem::create_symlink("../devices/bus/disk", folder / "machine/class/sda");
     std::filesystem::create_symlink("/../../unread", folder / "machine/class/out");
@@ -22,12 +23,19 @@ TEST(Recorder, KeepsLinksAsLinks)
     EXPECT_EQ(machine.text("/class/sda/../maker"), "ACME");
     EXPECT_EQ(machine.read_piece("/class/sda/model", 1, 2), "SD");
     EXPECT_EQ(machine.list("/class").size(), 2U);
+    for (const char* root : {"/", "/root", "/devices/root"}) {
+        EXPECT_FALSE(machine.text(root));
+        EXPECT_TRUE(machine.exists(root));
+    }
+    EXPECT_EQ(machine.list("/root/class").size(), 2U);
     write_recording(recorder->recording(), folder / "recording");
     const Sysroot recording(folder / "recording");
     EXPECT_EQ(recording.link("/class/sda"), "../devices/bus/disk");
     EXPECT_EQ(recording.text("/class/sda/../maker"), "ACME");
     EXPECT_EQ(recording.read_piece("/class/sda/model", 1, 2), "SD");
     EXPECT_TRUE(recording.exists("/class/out"));
+    EXPECT_EQ(recording.link("/root"), "/");
+    EXPECT_EQ(recording.link("/devices/root"), "..");
     EXPECT_FALSE(recording.exists("/unread"));
 }
 
