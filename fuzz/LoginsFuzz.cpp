@@ -24,7 +24,7 @@ std::string_view first_user(ByteView log, std::size_t record_bytes)
 void check_history(ByteView log, std::size_t record_bytes)
 {
     const std::string_view user = first_user(log, record_bytes);
-    const LoginHistory history = login_history(log, record_bytes, user);
+    const LoginHistory history = login_histories(log, record_bytes)[std::string(user)];
     if (history.logins > log.size() / record_bytes ||
         history.last.has_value() != (history.logins > 0))
         std::abort();

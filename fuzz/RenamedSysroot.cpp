@@ -1,7 +1,5 @@
 #include "fuzz/RenamedSysroot.h"
 
-#include "tests/platform/linux/MadeHardwareDatabase.h"
-
 #include <algorithm>
 #include <array>
 #include <sstream>
@@ -25,7 +23,7 @@ constexpr std::array<std::string_view, 9> name_keys{
 bool holds_lines(const std::string& path)
 {
     return path.find("/run/udev/data/") != path.npos || path.ends_with("os-release") ||
-           path.ends_with("/cpuinfo");
+           path.ends_with("/cpuinfo") || path.ends_with("/.facts/hwdb");
 }
 
 /// A number for the kernel's "vendor" and "model" is no name.
@@ -53,8 +51,10 @@ std::string renamed_line(const std::string& line, const std::string& name)
 {
     const auto sign = line.find_first_of(line.starts_with("model") ? ":" : "=");
     const auto begins = [&](std::string_view key) { return line.starts_with(key); };
-    if (sign == line.npos || std::ranges::none_of(name_keys, begins) ||
-        line.find_first_not_of("0123456789", sign + 1) == line.npos)
+    // The hardware database's keys stand behind the devices that they are of.
+    const bool named =
+        std::ranges::any_of(name_keys, begins) || line.find("_FROM_DATABASE=") != line.npos;
+    if (sign == line.npos || !named || line.find_first_not_of("0123456789", sign + 1) == line.npos)
         return line;
     const std::string key = line.substr(0, sign);
     return key + line[sign] + (key.ends_with("_ENC") ? escaped(name, "\\x", 16, 2) : name);
@@ -102,7 +102,6 @@ void RenamedSysroot::rename_all(const std::string& name) const
         fs::remove(file.path);
         std::ofstream(file.path, std::ios::binary) << renamed(file.path, file.content, name);
     }
-    folder_.file("machine/etc/udev/hwdb.bin", hardware_database("", name));
 }
 
 } // namespace ostrelum

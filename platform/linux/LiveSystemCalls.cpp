@@ -1,6 +1,7 @@
 #include "platform/linux/LiveSystemCalls.h"
 
 #include "platform/linux/accounts/AccountsService.h"
+#include "platform/linux/devices/HardwareDatabase.h"
 #include "platform/linux/devices/KernelMode.h"
 #include "platform/linux/devices/NvidiaMemory.h"
 #include "platform/linux/devices/SpaceInTime.h"
@@ -66,6 +67,13 @@ public:
         return entry->second;
     }
 
+    std::optional<std::string> hardware_name(const std::string& alias, const char* key) override
+    {
+        if (!hardware_)
+            hardware_.emplace();
+        return hardware_->text(alias, key);
+    }
+
     std::optional<PasswordPolicy> password_policy(std::uint64_t uid) override
     {
         return linux_platform::password_policy(uid);
@@ -97,6 +105,7 @@ public:
 
 private:
     std::map<std::string, std::optional<std::uint64_t>> graphics_memory_;
+    std::optional<HardwareDatabase> hardware_;
     Environment environment_ = process_environment();
 };
 

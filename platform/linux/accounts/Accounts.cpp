@@ -35,17 +35,6 @@ std::uint64_t defined(std::string_view definitions, std::string_view key, std::u
     return fallback;
 }
 
-bool is_listed(std::string_view members, std::string_view name)
-{
-    while (!members.empty()) {
-        const std::string_view member = members.substr(0, members.find(','));
-        if (trimmed_space(member) == name)
-            return true;
-        members.remove_prefix(std::min(member.size() + 1, members.size()));
-    }
-    return false;
-}
-
 } // namespace
 
 std::vector<Account> parse_passwd(std::string_view text)
@@ -70,17 +59,26 @@ PersonRange person_range(const Sysroot& root)
             defined(definitions, "UID_MAX", PersonRange().highest)};
 }
 
-bool administers(std::string_view groups, const Account& account)
+Administrators::Administrators(std::string_view groups)
 {
     constexpr std::array<std::string_view, 3> administrators{"admin", "sudo", "wheel"};
     for (const std::string_view line : lines_of(groups)) {
         const auto fields = fields_of<4>(line);
         if (std::ranges::find(administrators, fields[0]) == administrators.end())
             continue;
-        if (whole_number(fields[2]) == account.gid || is_listed(fields[3], account.name))
-            return true;
+        if (const auto number = whole_number(fields[2]))
+            groups_.insert(*number);
+        for (std::string_view members = fields[3]; !members.empty();) {
+            const std::string_view member = members.substr(0, members.find(','));
+            names_.emplace(trimmed_space(member));
+            members.remove_prefix(std::min(member.size() + 1, members.size()));
+        }
     }
-    return false;
+}
+
+bool Administrators::contains(const Account& account) const
+{
+    return groups_.contains(account.gid) || names_.contains(account.name);
 }
 
 std::vector<Account> local_accounts(const MachineView& machine)

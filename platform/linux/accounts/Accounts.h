@@ -3,7 +3,9 @@
 #include "platform/linux/files/MachineView.h"
 
 #include <cstdint>
+#include <functional>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -31,9 +33,17 @@ struct PersonRange {
 
 PersonRange person_range(const Sysroot& root);
 
-/// Whether /etc/group (group(5)) makes the account a member of one of the groups that may
-/// administer the machine.
-bool administers(std::string_view groups, const Account& account);
+/// The members of the groups that may administer the machine, by /etc/group (group(5)).
+class Administrators {
+public:
+    explicit Administrators(std::string_view groups);
+
+    bool contains(const Account& account) const;
+
+private:
+    std::set<std::uint64_t> groups_;
+    std::set<std::string, std::less<>> names_;
+};
 
 /// The accounts of root, of persons, and of the user who runs the program, in the order of
 /// /etc/passwd; the last of them behind the others if that file does not have it. Directories on

@@ -1,6 +1,5 @@
 #include "platform/linux/accounts/LoginFiles.h"
 
-#include "platform/linux/formats/LoginRecords.h"
 #include "platform/linux/os/KernelRelease.h"
 
 #include <limits>
@@ -13,36 +12,33 @@ constexpr std::size_t longest_log = std::size_t{64} << 20;
 
 } // namespace
 
-const std::optional<std::string>& LoginFiles::content_of(Log& log)
+const LoginFiles::Log& LoginFiles::known(Log& log) const
 {
-    if (!log.tried)
-        log.bytes = machine_.root.read(log.path, longest_log);
+    if (log.tried)
+        return log;
     log.tried = true;
-    return log.bytes;
-}
-
-std::size_t LoginFiles::record_bytes(const std::optional<std::string>& log) const
-{
+    const auto bytes = machine_.root.read(log.path, longest_log);
     const auto kind = kernel_architecture(machine_);
-    return utmp_bytes(bytes_of(log.value_or("")),
-                      kind == "aarch64" ? wide_utmp_bytes : usual_utmp_bytes);
+    log.there = bytes.has_value();
+    log.record_bytes = utmp_bytes(bytes_of(bytes.value_or("")),
+                                  kind == "aarch64" ? wide_utmp_bytes : usual_utmp_bytes);
+    if (bytes)
+        log.histories = login_histories(bytes_of(*bytes), log.record_bytes);
+    return log;
 }
 
 std::optional<std::int64_t> LoginFiles::last(const Account& account)
 {
-    if (const auto& log = content_of(present_)) {
-        const auto history = login_history(bytes_of(*log), record_bytes(log), account.name);
-        if (history.last)
-            return history.last;
-    }
-    return last_in_lastlog(account);
+    const auto& histories = known(present_).histories;
+    const auto history = histories.find(account.name);
+    return history == histories.end() ? last_in_lastlog(account) : history->second.last;
 }
 
 /// Reads one record alone: the file has a place for every user number up to the highest, so that it
 /// is long with little in it.
 std::optional<std::int64_t> LoginFiles::last_in_lastlog(const Account& account)
 {
-    const std::size_t size = lastlog_bytes(record_bytes(content_of(present_)));
+    const std::size_t size = lastlog_bytes(known(present_).record_bytes);
     if (account.uid > std::numeric_limits<std::uint32_t>::max())
         return std::nullopt;
     const auto record = machine_.root.read_piece("/var/log/lastlog", account.uid * size, size);
@@ -53,9 +49,11 @@ std::optional<std::uint32_t> LoginFiles::count(const Account& account)
 {
     std::optional<std::uint32_t> logins;
     for (Log* each : {&present_, &before_}) {
-        if (const auto& log = content_of(*each))
-            logins = logins.value_or(0) +
-                     login_history(bytes_of(*log), record_bytes(log), account.name).logins;
+        const Log& log = known(*each);
+        const auto history = log.histories.find(account.name);
+        if (log.there)
+            logins =
+                logins.value_or(0) + (history == log.histories.end() ? 0 : history->second.logins);
     }
     return logins;
 }

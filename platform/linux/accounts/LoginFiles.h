@@ -1,16 +1,19 @@
 #pragma once
 
 #include "platform/linux/accounts/Accounts.h"
+#include "platform/linux/formats/LoginRecords.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <map>
 #include <optional>
 #include <string>
 
 namespace ostrelum::linux_platform {
 
-/// What the files of a machine say about logins. A file is read when it is first asked for, and the
-/// logs are kept as long as the object: they are the same for every account.
+/// What the files of a machine say about logins. A file is read when it is first asked for, the
+/// logs once for all accounts.
 class LoginFiles {
 public:
     explicit LoginFiles(const MachineView& machine) : machine_(machine) {}
@@ -28,10 +31,13 @@ private:
     struct Log {
         const char* path;
         bool tried = false;
-        std::optional<std::string> bytes = {};
+        /// Whether it could be read.
+        bool there = false;
+        /// Width of its records in bytes.
+        std::size_t record_bytes = 0;
+        std::map<std::string, LoginHistory, std::less<>> histories = {};
     };
-    const std::optional<std::string>& content_of(Log& log);
-    std::size_t record_bytes(const std::optional<std::string>& log) const;
+    const Log& known(Log& log) const;
     std::optional<std::int64_t> last_in_lastlog(const Account& account);
 
     const MachineView& machine_;

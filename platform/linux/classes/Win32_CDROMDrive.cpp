@@ -5,15 +5,57 @@
 #include "platform/linux/text/Text.h"
 
 #include <array>
+#include <map>
+#include <memory>
 #include <vector>
 
 namespace ostrelum::linux_platform {
 namespace {
 
+/// The kernel's table of drives (/proc/sys/dev/cdrom/info): one column for each drive, under its
+/// name.
+class KernelTable {
+public:
+    explicit KernelTable(const Sysroot& root)
+    {
+        const std::string table = root.read("/proc/sys/dev/cdrom/info").value_or("");
+        for (const std::string_view line : lines_of(table)) {
+            const std::size_t colon = line.find(':');
+            if (colon != line.npos)
+                take(trimmed_space(line.substr(0, colon)), words_of(line.substr(colon + 1)));
+        }
+    }
+
+    bool can(const std::string& drive, const std::string& row) const
+    {
+        const auto column = columns_.find(drive);
+        const auto marks = marks_.find(row);
+        return column != columns_.end() && marks != marks_.end() &&
+               column->second < marks->second.size() && marks->second[column->second];
+    }
+
+private:
+    void take(std::string_view row, const std::vector<std::string_view>& cells)
+    {
+        std::vector<bool> marks;
+        for (const std::string_view cell : cells) {
+            if (row == "drive name")
+                columns_.try_emplace(std::string(cell), columns_.size());
+            marks.push_back(cell == "1");
+        }
+        marks_.try_emplace(std::string(row), std::move(marks));
+    }
+
+    std::map<std::string, std::size_t> columns_;
+    std::map<std::string, std::vector<bool>> marks_;
+};
+
 struct Drive {
     const MachineView& machine;
     /// The kernel's name, such as "sr0".
     std::string name;
+    /// One for all drives of a query.
+    std::shared_ptr<const KernelTable> kernel;
 
     UdevRecord udev() const
     {
@@ -46,7 +88,7 @@ Value size(const Drive& drive)
 /// where that has one, and the name of such a drive.
 struct Ability {
     std::string_view udev_key;
-    std::string_view kernel_row;
+    const char* kernel_row;
     const char* type;
 };
 constexpr std::array<Ability, 12> abilities{{
@@ -64,41 +106,13 @@ constexpr std::array<Ability, 12> abilities{{
     {"ID_CDROM", "", "CD-ROM"},
 }};
 
-/// The kernel's table of drives (/proc/sys/dev/cdrom/info): one column for each drive, under its
-/// name.
-class KernelTable {
-public:
-    KernelTable(const Sysroot& root, std::string_view drive)
-        : text_(root.read("/proc/sys/dev/cdrom/info").value_or(""))
-    {
-        const auto names = cells("drive name");
-        column_ = static_cast<std::size_t>(std::ranges::find(names, drive) - names.begin());
-    }
-
-    bool can(std::string_view row) const
-    {
-        const auto marks = row.empty() ? std::vector<std::string_view>() : cells(row);
-        return column_ < marks.size() && marks[column_] == "1";
-    }
-
-private:
-    std::vector<std::string_view> cells(std::string_view row) const
-    {
-        return words_of(value_behind(text_, row, ':').value_or(""));
-    }
-
-    std::string text_;
-    std::size_t column_ = 0;
-};
-
 Value media_type(const Drive& drive)
 {
     const UdevRecord udev = drive.udev();
     const bool known_to_udev = udev.text("ID_CDROM").has_value();
-    const KernelTable kernel(drive.machine.root, drive.name);
     for (const Ability& ability : abilities) {
-        const bool can =
-            known_to_udev ? udev.text(ability.udev_key) == "1" : kernel.can(ability.kernel_row);
+        const bool can = known_to_udev ? udev.text(ability.udev_key) == "1"
+                                       : drive.kernel->can(drive.name, ability.kernel_row);
         if (can)
             return ability.type;
     }
@@ -113,9 +127,10 @@ constexpr PropertyRow<Drive> rows[] = {
 
 std::vector<Drive> drives(const MachineView& machine)
 {
+    const auto kernel = std::make_shared<const KernelTable>(machine.root);
     std::vector<Drive> drives;
     for (std::string& name : optical_drives(machine.root))
-        drives.push_back({machine, std::move(name)});
+        drives.push_back({machine, std::move(name), kernel});
     return drives;
 }
 

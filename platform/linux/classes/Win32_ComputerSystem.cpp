@@ -52,11 +52,15 @@ Value model(const Computer& computer)
     return value_of(FirmwareStrings(computer.root()).text(FirmwareText::SystemName));
 }
 
-/// What the boot loader's configuration says; the files of the folder come after the main one.
+/// What the boot loader's configuration says; the files of the folder come after the main one. Of
+/// more text than any has, nobody knows what comes last.
 std::optional<std::uint64_t> grub_timeout(const Computer& computer)
 {
+    constexpr std::size_t longest = std::size_t{4} << 20;
     std::string text = computer.file("/etc/default/grub");
     for (const std::string& name : computer.root().list("/etc/default/grub.d")) {
+        if (text.size() > longest)
+            return std::nullopt;
         if (name.ends_with(".cfg"))
             text += "\n" + computer.root().read("/etc/default/grub.d/" + name).value_or("");
     }

@@ -23,7 +23,7 @@ Value manufacturer(const Monitor& monitor)
     if (!monitor.edid)
         return value_of(meaningful_text(monitor.screen.maker));
     const std::string& code = monitor.edid->maker;
-    return code.empty() ? Value() : monitor_maker(monitor.machine.root, code, monitor.panel);
+    return code.empty() ? Value() : monitor_maker(monitor.machine, code, monitor.panel);
 }
 
 /// The codes of maker and model, for a monitor without any name: "LGD 0690".

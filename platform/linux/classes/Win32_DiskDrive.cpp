@@ -4,6 +4,7 @@
 #include "platform/linux/devices/UdevDatabase.h"
 #include "platform/linux/text/Text.h"
 
+#include <memory>
 #include <set>
 #include <vector>
 
@@ -14,6 +15,8 @@ struct Drive {
     const MachineView& machine;
     /// The kernel's name, such as "sda".
     std::string name;
+    /// One for all drives of a query.
+    std::shared_ptr<RemovableDrives> removable;
 
     std::string folder() const { return "/sys/block/" + name; }
 };
@@ -34,7 +37,7 @@ bool passes(std::string_view path, std::string_view word)
 Value interface_type(const Drive& drive)
 {
     const std::string path = device_path(drive.machine.root, drive.name);
-    if (passes(path, "/usb") || is_memory_card(drive.machine.root, drive.name))
+    if (passes(path, "/usb") || drive.removable->is_memory_card(drive.name))
         return "USB";
     if (passes(path, "/fw"))
         return "1394";
@@ -100,9 +103,10 @@ std::vector<Drive> drives(const MachineView& machine)
 {
     std::vector<Drive> drives;
     std::set<std::string> identities;
+    const auto removable = std::make_shared<RemovableDrives>(machine.root);
     for (const std::string& name : block_devices(machine.root)) {
         if (is_drive(machine.root, name) && !is_another_way(machine.root, name, identities))
-            drives.push_back({machine, name});
+            drives.push_back({machine, name, removable});
     }
     return drives;
 }

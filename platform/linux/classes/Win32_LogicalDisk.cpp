@@ -6,6 +6,9 @@
 #include "platform/linux/devices/Volumes.h"
 
 #include <algorithm>
+#include <map>
+#include <memory>
+#include <set>
 #include <vector>
 
 namespace ostrelum::linux_platform {
@@ -17,10 +20,51 @@ constexpr int network_disk = 4;
 constexpr int optical_disc = 5;
 constexpr int memory_disk = 6;
 
+/// What is looked up once for all disks of a query, when it is first needed.
+struct Lookups {
+    explicit Lookups(const MachineView& machine)
+        : root(machine.root), mounts(mount_table(root)), finder(root), records(root),
+          removable(root)
+    {
+    }
+
+    /// What is mounted lies on these.
+    const DeviceStacks& stacks()
+    {
+        if (!known_stacks) {
+            std::vector<std::string> devices;
+            for (const Mount& mount : mounts)
+                devices.push_back(finder.device_of(mount));
+            known_stacks.emplace(root, devices);
+        }
+        return *known_stacks;
+    }
+
+    /// Whether a mounted device lies on a drive that can be taken out.
+    bool can_be_taken_out(const std::string& device)
+    {
+        if (!taken_out) {
+            std::vector<std::string> drives(stacks().disks().begin(), stacks().disks().end());
+            std::erase_if(drives, [&](const auto& drive) { return !removable.contains(drive); });
+            taken_out = stacks().lying_on(drives);
+        }
+        return taken_out->contains(device);
+    }
+
+    const Sysroot& root;
+    std::vector<Mount> mounts;
+    MountedDevices finder;
+    DiskRecords records;
+    RemovableDrives removable;
+    std::optional<DeviceStacks> known_stacks = {};
+    std::optional<std::set<std::string>> taken_out = {};
+};
+
 /// A mounted volume, an optical drive whatever is in it, or what is on another drive that can be
 /// taken out.
 struct Disk {
     const MachineView& machine;
+    std::shared_ptr<Lookups> lookups;
     /// Without a mount point: one that is not mounted.
     Volume volume;
     /// The kernel's name of the device; empty for none.
@@ -29,7 +73,7 @@ struct Disk {
     std::optional<std::uint64_t> unmounted_size;
 
     bool mounted() const { return !volume.mount.target.empty(); }
-    FileSystemFacts facts() const { return {machine, device}; }
+    FileSystemFacts facts() const { return {machine, lookups->records, device}; }
     std::optional<VolumeSpace> space() const
     {
         if (!mounted() || volume.network || volume.behind_network)
@@ -51,9 +95,7 @@ Value drive_type(const Disk& disk)
         return optical_disc;
     if (disk.device.starts_with("zram") || disk.device.starts_with("ram"))
         return memory_disk;
-    const auto disks = whole_disks(disk.machine.root, disk.device);
-    const bool removable = std::ranges::any_of(
-        disks, [&](const std::string& whole) { return is_removable(disk.machine.root, whole); });
+    const bool removable = !disk.mounted() || disk.lookups->can_be_taken_out(disk.device);
     return removable ? removable_disk : fixed_disk;
 }
 
@@ -113,19 +155,29 @@ constexpr PropertyRow<Disk> rows[] = {
 
 /// What is plugged in but not mounted has a size and no free space. It comes first, since a page
 /// that cannot read a free space shows that of the volume before.
-std::vector<Disk> unmounted_disks(const MachineView& machine, const std::vector<Mount>& mounts)
+/// None if the table of mounts is empty.
+std::vector<Disk> unmounted_disks(const Disk& form)
 {
+    Lookups& lookups = *form.lookups;
     std::vector<Disk> disks;
-    for (const auto& [device, size] : unmounted_volumes(machine.root, mounts))
-        disks.push_back({machine, Volume(), device, size});
+    for (const std::string& drive : lookups.mounts.empty()
+                                        ? std::vector<std::string>()
+                                        : loaded_drives(lookups.root, lookups.removable)) {
+        if (lookups.stacks().disks().contains(drive))
+            continue;
+        auto [device, size] = unmounted_volume(lookups.root, drive);
+        disks.push_back({form.machine, form.lookups, Volume(), std::move(device), size});
+    }
     return disks;
 }
 
-std::vector<Disk> optical_disks(const MachineView& machine)
+/// By the drives' names, in their order.
+std::vector<Disk> optical_disks(const Disk& form)
 {
+    const Sysroot& root = form.machine.root;
     std::vector<Disk> discs;
-    for (const std::string& drive : optical_drives(machine.root))
-        discs.push_back({machine, Volume(), drive, disc_bytes(machine.root, drive)});
+    for (const std::string& drive : optical_drives(root))
+        discs.push_back({form.machine, form.lookups, Volume(), drive, disc_bytes(root, drive)});
     return discs;
 }
 
@@ -133,17 +185,20 @@ std::vector<Disk> optical_disks(const MachineView& machine)
 /// these come in the same order as the drives' own class has them.
 std::vector<Disk> disks(const MachineView& machine)
 {
-    const auto mounts = mount_table(machine.root);
-    std::vector<Disk> all = unmounted_disks(machine, mounts);
-    std::vector<Disk> discs = optical_disks(machine);
-    for (Volume& volume : volumes_of(mounts)) {
+    const Disk form{machine, std::make_shared<Lookups>(machine), {}, {}, {}};
+    std::vector<Disk> all = unmounted_disks(form);
+    std::vector<Disk> discs = optical_disks(form);
+    std::map<std::string, Disk*> drives;
+    for (Disk& disc : discs)
+        drives.try_emplace(disc.device, &disc);
+    for (Volume& volume : volumes_of(form.lookups->mounts)) {
         const std::string device =
-            volume.network ? "" : device_of_mount(machine.root, volume.mount);
-        const auto drive = std::ranges::find(discs, device, &Disk::device);
-        if (drive != discs.end())
-            drive->volume = std::move(volume);
+            volume.network ? "" : form.lookups->finder.device_of(volume.mount);
+        const auto drive = drives.find(device);
+        if (drive != drives.end())
+            drive->second->volume = std::move(volume);
         else
-            all.push_back({machine, std::move(volume), device, std::nullopt});
+            all.push_back({machine, form.lookups, std::move(volume), device, std::nullopt});
     }
     std::ranges::for_each(discs, [&](Disk& disc) { all.push_back(std::move(disc)); });
     return all;

@@ -12,8 +12,9 @@ namespace {
 struct Profile {
     const MachineView& machine;
     Account account;
-    /// One for all profiles of a query.
+    /// Of these, one for all profiles of a query.
     std::shared_ptr<LoginFiles> files;
+    std::shared_ptr<const Administrators> administrators;
 };
 
 Value bad_password_count(const Profile& profile)
@@ -55,8 +56,7 @@ Value privileges(const Profile& profile)
     constexpr int guest = 0;
     constexpr int user = 1;
     constexpr int administrator = 2;
-    const std::string groups = profile.machine.root.read("/etc/group").value_or("");
-    if (profile.account.uid == 0 || administers(groups, profile.account))
+    if (profile.account.uid == 0 || profile.administrators->contains(profile.account))
         return administrator;
     return profile.account.name.starts_with("guest") ? guest : user;
 }
@@ -74,9 +74,11 @@ constexpr PropertyRow<Profile> rows[] = {
 std::vector<Profile> profiles(const MachineView& machine)
 {
     const auto files = std::make_shared<LoginFiles>(machine);
+    const auto administrators =
+        std::make_shared<const Administrators>(machine.root.read("/etc/group").value_or(""));
     std::vector<Profile> profiles;
     for (Account& account : local_accounts(machine))
-        profiles.push_back({machine, std::move(account), files});
+        profiles.push_back({machine, std::move(account), files, administrators});
     return profiles;
 }
 

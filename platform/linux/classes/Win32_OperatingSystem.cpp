@@ -8,6 +8,7 @@
 #include "platform/linux/os/Distribution.h"
 #include "platform/linux/os/KernelRelease.h"
 #include "platform/linux/os/Processes.h"
+#include "platform/linux/text/Text.h"
 
 #include <algorithm>
 #include <optional>
@@ -42,10 +43,11 @@ Value caption(const System& system)
     return Distribution(system.root()).name().value_or("Linux");
 }
 
-/// 64-bit numbers are text. Null where the machine's memory is not known.
+/// 64-bit numbers are text. Null where the machine's memory is not known, and beyond 64 bits.
 Value sum(std::optional<std::uint64_t> memory, std::optional<std::uint64_t> swap)
 {
-    return memory ? Value(std::to_string(*memory + swap.value_or(0))) : Value();
+    const auto both = memory ? sum_of(*memory, swap.value_or(0)) : std::nullopt;
+    return both ? Value(std::to_string(*both)) : Value();
 }
 
 Value free_physical_memory(const System& system)

@@ -44,7 +44,7 @@ Value handedness(const Pointer& pointer)
 
 Value manufacturer(const Pointer& pointer)
 {
-    return value_of(input_maker(pointer.machine.root, pointer.node));
+    return value_of(input_maker(pointer.machine, pointer.node));
 }
 
 Value pointer_name(const Pointer& pointer)

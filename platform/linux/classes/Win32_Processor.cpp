@@ -1,10 +1,7 @@
 #include "platform/linux/classes/Classes.h"
 #include "platform/linux/devices/CpuPackages.h"
-#include "platform/linux/devices/FirmwareTable.h"
 #include "platform/linux/formats/CpuInfo.h"
 #include "platform/linux/formats/Placeholder.h"
-#include "platform/linux/formats/Smbios.h"
-#include "platform/linux/os/KernelRelease.h"
 #include "platform/linux/text/Hex.h"
 #include "platform/linux/text/Text.h"
 
@@ -22,14 +19,14 @@ constexpr std::uint64_t kilo_per_mega = 1000;
 /// What the kernel says of the package's first processor.
 CpuRecord first_record(const CpuPackage& package)
 {
-    return (*package.cpuinfo)().of(package.cpus.front());
+    return package.facts->info().of(package.cpus.front());
 }
 
 /// The codes of the kinds that Linux runs on (CIM schema as the service extends it). Other kinds
 /// have none, and 0 is x86's.
 Value architecture(const CpuPackage& package)
 {
-    const std::string kind = kernel_architecture(package.machine).value_or("");
+    const std::string kind = package.facts->architecture().value_or("");
     if (kind.size() == 4 && kind.starts_with('i') && kind.ends_with("86"))
         return 0;
     constexpr int unknown_architecture = 65535;
@@ -73,20 +70,20 @@ std::optional<std::string> arm_caption(const CpuRecord& record, bool wide)
 Value caption(const CpuPackage& package)
 {
     const CpuRecord record = first_record(package);
-    const std::string kind = kernel_architecture(package.machine).value_or("");
+    const std::string kind = package.facts->architecture().value_or("");
     if (const auto text = x86_caption(record, kind == "x86_64"))
         return *text;
     return value_of(arm_caption(record, kind == "aarch64"));
 }
 
-/// Mean over the package's processors, in MHz; nothing if no clock is known.
-template <class Clock>
-std::optional<double> mean(const CpuPackage& package, Clock clock)
+/// Mean in MHz; nothing if no clock is known.
+template <class Processor, class Clock>
+std::optional<double> mean(const std::vector<Processor>& processors, Clock clock)
 {
     double sum = 0;
     int count = 0;
-    for (const std::uint64_t cpu : package.cpus) {
-        if (const std::optional<double> megahertz = clock(cpu)) {
+    for (const Processor& processor : processors) {
+        if (const std::optional<double> megahertz = clock(processor)) {
             sum += *megahertz;
             ++count;
         }
@@ -96,8 +93,8 @@ std::optional<double> mean(const CpuPackage& package, Clock clock)
 
 std::optional<double> clock_of_cpuinfo(const CpuPackage& package)
 {
-    const CpuInfo& cpuinfo = (*package.cpuinfo)();
-    return mean(package, [&](std::uint64_t cpu) { return cpuinfo.of(cpu).megahertz(); });
+    const std::vector<CpuRecord> records = package.facts->info().of_all(package.cpus);
+    return mean(records, [](const CpuRecord& record) { return record.megahertz(); });
 }
 
 Value whole_megahertz(const std::optional<double>& megahertz)
@@ -107,7 +104,7 @@ Value whole_megahertz(const std::optional<double>& megahertz)
 
 Value current_clock(const CpuPackage& package)
 {
-    const auto scaled = mean(package, [&](std::uint64_t cpu) -> std::optional<double> {
+    const auto scaled = mean(package.cpus, [&](std::uint64_t cpu) -> std::optional<double> {
         const auto kilohertz =
             package.machine.root.number(cpu_file(cpu, "cpufreq/scaling_cur_freq"));
         return kilohertz ? std::optional(static_cast<double>(*kilohertz) / kilo_per_mega)
@@ -121,8 +118,7 @@ std::optional<std::string> arm_model_name(const CpuPackage& package)
 {
     std::set<std::pair<std::uint64_t, std::uint64_t>> seen;
     std::optional<std::string> names;
-    for (const std::uint64_t cpu : package.cpus) {
-        const CpuRecord record = (*package.cpuinfo)().of(cpu);
+    for (const CpuRecord& record : package.facts->info().of_all(package.cpus)) {
         const auto implementer = record.number("CPU implementer");
         const auto part = implementer ? record.number("CPU part") : std::nullopt;
         // A record without them is of another kind of processor, and so are the rest.
@@ -200,22 +196,12 @@ Value name(const CpuPackage& package)
     return value_of(model_name(package));
 }
 
-/// The label of the package's socket in the firmware's table (SMBIOS type 4): sockets in their
-/// order, empty ones left out (status, offset 18h, bit 6).
+/// The label of the package's socket in the firmware's table: sockets in their order.
 Value socket(const CpuPackage& package)
 {
-    constexpr std::uint8_t processor_type = 4;
-    const std::string table = firmware_table(package.machine.root);
-    std::size_t place = 0;
-    for (const SmbiosStructure& socket : smbios_structures(bytes_of(table))) {
-        const bool fitted =
-            socket.type() == processor_type && (socket.byte(0x18).value_or(0) & 0x40) != 0;
-        if (!fitted || place++ != package.place)
-            continue;
-        const auto label = socket.string(0x04);
-        return label ? value_of(meaningful_text(*label)) : Value();
-    }
-    return {};
+    const auto& labels = package.facts->sockets();
+    return package.place < labels.size() ? value_of(meaningful_text(labels[package.place]))
+                                         : Value();
 }
 
 constexpr PropertyRow<CpuPackage> rows[] = {

@@ -7,6 +7,8 @@
 
 #include <algorithm>
 #include <iterator>
+#include <map>
+#include <memory>
 #include <vector>
 
 namespace ostrelum::linux_platform {
@@ -14,12 +16,17 @@ namespace {
 
 constexpr std::string_view class_folder = "/sys/class/sound/";
 
+/// What the sound system calls its cards, by number: " 0 [PCH   ]: HDA-Intel - HDA Intel PCH".
+using CardNames = std::map<std::string, std::string>;
+
 /// A codec of an HD-audio card, as Windows lists them; a card of another kind is one device.
 struct SoundDevice {
     const MachineView& machine;
     /// The kernel's names, such as "card0" and "hwC0D2"; no codec for a card as a whole.
     std::string card;
     std::string codec;
+    /// One for all devices of a query.
+    std::shared_ptr<const CardNames> card_names;
 
     std::optional<std::string> codec_text(const char* file) const
     {
@@ -28,20 +35,32 @@ struct SoundDevice {
     }
 };
 
-/// What the sound system calls a card: " 0 [PCH            ]: HDA-Intel - HDA Intel PCH".
-std::optional<std::string> card_name(const SoundDevice& device)
+CardNames card_names(const Sysroot& root)
 {
-    const Sysroot& root = device.machine.root;
-    const std::string number = device.card.substr(std::string_view("card").size());
+    CardNames names;
     const std::string table = root.read("/proc/asound/cards").value_or("");
     for (const std::string_view line : lines_of(table)) {
         const auto words = words_of(line);
         const std::size_t dash = line.find(" - ");
-        if (words.size() > 1 && words[0] == number && words[1].starts_with('[') &&
-            dash != std::string_view::npos)
-            return text_or_none(line.substr(dash + 3));
+        if (words.size() > 1 && words[1].starts_with('[') && dash != line.npos)
+            names.try_emplace(std::string(words[0]),
+                              text_or_none(line.substr(dash + 3)).value_or(""));
     }
-    return root.text(std::string(class_folder) + device.card + "/id");
+    return names;
+}
+
+/// The number of a card in its name, "card0".
+std::string number_of(const std::string& card)
+{
+    return card.substr(std::string_view("card").size());
+}
+
+std::optional<std::string> card_name(const SoundDevice& device)
+{
+    const auto name = device.card_names->find(number_of(device.card));
+    if (name == device.card_names->end())
+        return device.machine.root.text(std::string(class_folder) + device.card + "/id");
+    return name->second.empty() ? std::nullopt : std::optional(name->second);
 }
 
 std::optional<std::string> card_maker(const SoundDevice& device)
@@ -58,7 +77,7 @@ std::optional<std::string> card_maker(const SoundDevice& device)
         return maker;
     std::string path = root.link(folder).value_or("");
     path.resize(std::min(path.rfind("/sound/"), path.size()));
-    return pci_names(root, path.substr(path.rfind('/') + 1)).vendor;
+    return pci_names(device.machine, path.substr(path.rfind('/') + 1)).vendor;
 }
 
 Value manufacturer(const SoundDevice& device)
@@ -104,17 +123,19 @@ bool is_hardware(const Sysroot& root, const std::string& card)
     return !modem;
 }
 
-/// The codecs of a card that play sound.
-std::vector<std::string> codecs(const Sysroot& root, const std::string& card)
+/// The codecs that play sound, "hwC0D2", by the numbers of their cards.
+std::map<std::string, std::vector<std::string>> codecs(const Sysroot& root,
+                                                       const std::vector<std::string>& names)
 {
-    const std::string prefix = "hwC" + card.substr(std::string_view("card").size()) + "D";
-    std::vector<std::string> codecs;
-    for (std::string& name : root.list(std::string(class_folder))) {
+    constexpr std::string_view beginning = "hwC";
+    std::map<std::string, std::vector<std::string>> codecs;
+    for (const std::string& name : names) {
         const std::string folder = std::string(class_folder) + name;
+        const std::size_t end = name.find('D');
         // The function group of a modem codec is another one, and it has none for sound.
-        if (name.starts_with(prefix) && root.exists(folder + "/vendor_name") &&
-            root.text(folder + "/afg") != "0x0")
-            codecs.push_back(std::move(name));
+        if (name.starts_with(beginning) && end != name.npos &&
+            root.exists(folder + "/vendor_name") && root.text(folder + "/afg") != "0x0")
+            codecs[name.substr(beginning.size(), end - beginning.size())].push_back(name);
     }
     return codecs;
 }
@@ -131,15 +152,19 @@ bool is_monitors(const SoundDevice& device)
 /// In the order of the cards.
 std::vector<SoundDevice> all_devices(const MachineView& machine)
 {
+    const auto listed = machine.root.list(std::string(class_folder));
+    const auto names = std::make_shared<const CardNames>(card_names(machine.root));
+    const auto all_codecs = codecs(machine.root, listed);
     std::vector<SoundDevice> devices;
-    for (const std::string& card : machine.root.list(std::string(class_folder))) {
+    for (const std::string& card : listed) {
         if (!card.starts_with("card") || !is_hardware(machine.root, card))
             continue;
-        const auto parts = codecs(machine.root, card);
-        for (const std::string& codec : parts)
-            devices.push_back({machine, card, codec});
-        if (parts.empty())
-            devices.push_back({machine, card, ""});
+        const auto parts = all_codecs.find(number_of(card));
+        if (parts == all_codecs.end())
+            devices.push_back({machine, card, "", names});
+        else
+            for (const std::string& codec : parts->second)
+                devices.push_back({machine, card, codec, names});
     }
     return devices;
 }
@@ -148,14 +173,12 @@ std::vector<SoundDevice> all_devices(const MachineView& machine)
 /// whatever number the kernel gave it.
 std::vector<SoundDevice> sound_devices(const MachineView& machine)
 {
-    const auto all = all_devices(machine);
-    std::vector<SoundDevice> ordered;
-    for (const bool last : {false, true}) {
-        std::ranges::copy_if(all, std::back_inserter(ordered), [&](const SoundDevice& device) {
-            return is_monitors(device) == last;
-        });
-    }
-    return ordered;
+    std::vector<SoundDevice> own;
+    std::vector<SoundDevice> monitors;
+    for (SoundDevice& device : all_devices(machine))
+        (is_monitors(device) ? monitors : own).push_back(std::move(device));
+    std::ranges::move(monitors, std::back_inserter(own));
+    return own;
 }
 
 } // namespace

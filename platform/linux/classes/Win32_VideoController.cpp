@@ -8,6 +8,7 @@
 
 #include <bit>
 #include <limits>
+#include <memory>
 #include <vector>
 
 namespace ostrelum::linux_platform {
@@ -15,18 +16,28 @@ namespace {
 
 struct Adapter {
     const MachineView& machine;
+    /// One for all adapters of a query.
+    std::shared_ptr<const SessionScreens> screens;
     GraphicsCard card;
     bool first;
     /// Kept, so that width and height are those of one mode even if it changes meanwhile.
     mutable std::optional<DisplayMode> known_mode = std::nullopt;
+    /// Each read once for all properties.
+    mutable std::optional<std::optional<std::string>> known_driver = {};
+    mutable std::optional<RefreshRange> known_limits = {};
 
     const DisplayMode& mode() const
     {
         if (!known_mode)
-            known_mode = current_mode(machine, card, first);
+            known_mode = current_mode(machine, *screens, card, first);
         return *known_mode;
     }
-    std::optional<std::string> driver() const { return graphics_driver(machine.root, card); }
+    const std::optional<std::string>& driver() const
+    {
+        if (!known_driver)
+            known_driver = graphics_driver(machine.root, card);
+        return *known_driver;
+    }
 };
 
 /// A number of a mode, in which 0 is not known.
@@ -43,7 +54,7 @@ int hertz(const DisplayMode& mode)
 /// Only connectors with analog lines need a converter, and it is always the chip's own.
 Value converter(const Adapter& adapter)
 {
-    for (const Connector& connector : connectors(adapter.machine.root, adapter.card)) {
+    for (const Connector& connector : adapter.screens->graphics().connectors(adapter.card)) {
         if (connector.label().starts_with("VGA-") || connector.label().starts_with("DVI-I-"))
             return "Internal";
     }
@@ -93,7 +104,7 @@ Value refresh_rate(const Adapter& adapter)
 
 Value driver_date(const Adapter& adapter)
 {
-    const auto driver = adapter.driver();
+    const auto& driver = adapter.driver();
     const auto date = driver ? graphics_driver_date(adapter.machine.root, *driver) : std::nullopt;
     return date ? value_of(cim_datetime(*date)) : Value();
 }
@@ -110,15 +121,22 @@ Value drivers(const Adapter& adapter)
 }
 
 /// What the monitor follows, else what its modes need, else what is on.
-RefreshRange limits(const Adapter& adapter)
+RefreshRange read_limits(const Adapter& adapter)
 {
-    const auto edid = main_monitor(adapter.machine, adapter.card);
+    const auto edid = main_monitor(adapter.machine, *adapter.screens, adapter.card);
     if (edid && edid->limits)
         return *edid->limits;
     if (edid && edid->rates_of_modes)
         return *edid->rates_of_modes;
     const int now = hertz(adapter.mode());
     return {now, now};
+}
+
+const RefreshRange& limits(const Adapter& adapter)
+{
+    if (!adapter.known_limits)
+        adapter.known_limits = read_limits(adapter);
+    return *adapter.known_limits;
 }
 
 Value highest_rate(const Adapter& adapter)
@@ -145,7 +163,7 @@ Value adapter_name(const Adapter& adapter)
     if (const auto name = name_by_driver(adapter))
         return *name;
     const PciNames names =
-        adapter.card.slot.empty() ? PciNames{} : pci_names(adapter.machine.root, adapter.card.slot);
+        adapter.card.slot.empty() ? PciNames{} : pci_names(adapter.machine, adapter.card.slot);
     if (names.vendor && names.model)
         return std::string(bracketed_name(*names.vendor)) + " " +
                std::string(bracketed_name(*names.model));
@@ -173,8 +191,9 @@ constexpr PropertyRow<Adapter> rows[] = {
 std::vector<Adapter> adapters(const MachineView& machine)
 {
     std::vector<Adapter> adapters;
-    for (GraphicsCard& card : SessionScreens(machine).cards())
-        adapters.push_back({machine, std::move(card), adapters.empty()});
+    const auto screens = std::make_shared<const SessionScreens>(machine);
+    for (GraphicsCard& card : screens->cards())
+        adapters.push_back({machine, screens, std::move(card), adapters.empty()});
     return adapters;
 }
 

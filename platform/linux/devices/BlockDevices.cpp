@@ -1,15 +1,15 @@
 #include "platform/linux/devices/BlockDevices.h"
 
 #include <algorithm>
-#include <set>
 
 namespace ostrelum::linux_platform {
 namespace {
 
 constexpr std::uint64_t sector_bytes = 512;
 constexpr std::uint64_t extended_bytes = 2 * sector_bytes;
-/// Logical volumes may lie on each other; deeper than this is a circle.
-constexpr int deepest_stack = 16;
+/// No machine's devices lie on each other in more ways; links in a recorded one can make of a few
+/// folders any number.
+constexpr std::size_t most_links = 100'000;
 
 std::string last_part(std::string_view path)
 {
@@ -40,30 +40,6 @@ bool is_device(const Sysroot& root, const std::string& name)
     return !name.empty() && root.exists(in_class(name));
 }
 
-/// The device whose name the device mapper knows, as in /dev/mapper/NAME.
-std::string mapped_device(const Sysroot& root, const std::string& mapped)
-{
-    for (const std::string& name : block_devices(root)) {
-        if (name.starts_with("dm-") && root.text(in_list(name) + "/dm/name") == mapped)
-            return name;
-    }
-    return {};
-}
-
-/// The device behind a path under /dev; udev's own names there are links.
-std::string device_of_source(const Sysroot& root, const std::string& source)
-{
-    if (!source.starts_with("/dev/"))
-        return {};
-    if (source.starts_with("/dev/mapper/")) {
-        std::string name = mapped_device(root, last_part(source));
-        if (!name.empty())
-            return name;
-    }
-    const std::string name = last_part(root.link(source).value_or(source));
-    return is_device(root, name) ? name : std::string();
-}
-
 /// The disk of a partition; the device itself if it is none.
 std::string disk_of(const Sysroot& root, const std::string& name)
 {
@@ -74,17 +50,11 @@ std::string disk_of(const Sysroot& root, const std::string& name)
     return end == std::string::npos ? name : last_part(std::string_view(path).substr(0, end));
 }
 
-void gather_disks(const Sysroot& root, const std::string& name, std::set<std::string>& disks,
-                  int depth)
+/// What a device lies on at once; nothing for a whole disk.
+std::vector<std::string> below(const Sysroot& root, const std::string& name)
 {
     const std::string disk = disk_of(root, name);
-    const auto below = root.list(in_class(disk) + "/slaves");
-    if (below.empty())
-        disks.insert(disk);
-    if (depth == deepest_stack)
-        return;
-    for (const std::string& part : below)
-        gather_disks(root, part, disks, depth + 1);
+    return disk == name ? root.list(in_class(name) + "/slaves") : std::vector{disk};
 }
 
 } // namespace
@@ -96,25 +66,95 @@ std::optional<std::string> device_number(const Sysroot& root, const std::string&
     return root.text(in_class(name) + "/dev");
 }
 
-std::string device_of_mount(const Sysroot& root, const Mount& mount)
+std::string MountedDevices::device_of(const Mount& mount)
 {
-    if (!mount.device.empty() && !mount.device.starts_with("0:")) {
-        if (const auto path = root.link("/sys/dev/block/" + mount.device))
-            return last_part(*path);
-        for (const std::string& name : root.list("/sys/class/block")) {
-            if (device_number(root, name) == mount.device)
-                return name;
-        }
-    }
-    return device_of_source(root, mount.source);
+    const bool numbered = !mount.device.empty() && !mount.device.starts_with("0:");
+    std::string name = numbered ? of_number(mount.device) : "";
+    return name.empty() ? of_source(mount.source) : name;
 }
 
-std::vector<std::string> whole_disks(const Sysroot& root, const std::string& name)
+std::string MountedDevices::of_number(const std::string& number)
 {
-    std::set<std::string> disks;
-    if (is_device(root, name))
-        gather_disks(root, name, disks, 0);
-    return {disks.begin(), disks.end()};
+    if (const auto path = root_.link("/sys/dev/block/" + number))
+        return last_part(*path);
+    if (!by_number_) {
+        by_number_.emplace();
+        for (const std::string& name : root_.list("/sys/class/block"))
+            by_number_->try_emplace(device_number(root_, name).value_or(""), name);
+    }
+    const auto found = by_number_->find(number);
+    return found == by_number_->end() ? "" : found->second;
+}
+
+/// The device behind a path under /dev; udev's own names there are links.
+std::string MountedDevices::of_source(const std::string& source)
+{
+    if (!source.starts_with("/dev/"))
+        return {};
+    std::string name = source.starts_with("/dev/mapper/") ? of_mapped(last_part(source)) : "";
+    if (!name.empty())
+        return name;
+    name = last_part(root_.link(source).value_or(source));
+    return is_device(root_, name) ? name : std::string();
+}
+
+/// The device whose name the device mapper knows, as in /dev/mapper/NAME.
+std::string MountedDevices::of_mapped(const std::string& mapped)
+{
+    if (!by_mapped_name_) {
+        by_mapped_name_.emplace();
+        for (const std::string& name : block_devices(root_)) {
+            const auto known =
+                name.starts_with("dm-") ? root_.text(in_list(name) + "/dm/name") : std::nullopt;
+            if (known)
+                by_mapped_name_->try_emplace(*known, name);
+        }
+    }
+    const auto found = by_mapped_name_->find(mapped);
+    return found == by_mapped_name_->end() ? "" : found->second;
+}
+
+DeviceStacks::DeviceStacks(const Sysroot& root, const std::vector<std::string>& devices)
+{
+    std::set<std::string> seen;
+    std::vector<std::string> rest;
+    const auto add = [&](const std::string& name) {
+        if (seen.insert(name).second)
+            rest.push_back(name);
+    };
+    for (const std::string& name : devices) {
+        if (is_device(root, name))
+            add(name);
+    }
+    std::size_t links = 0;
+    while (!rest.empty() && links < most_links) {
+        const std::string name = std::move(rest.back());
+        rest.pop_back();
+        const auto parts = below(root, name);
+        if (parts.empty())
+            disks_.insert(name);
+        for (const std::string& part : parts) {
+            above_[part].push_back(name);
+            add(part);
+        }
+        links += parts.size();
+    }
+}
+
+std::set<std::string> DeviceStacks::lying_on(const std::vector<std::string>& disks) const
+{
+    std::set<std::string> found(disks.begin(), disks.end());
+    std::vector<std::string> rest(found.begin(), found.end());
+    while (!rest.empty()) {
+        const auto upper = above_.find(rest.back());
+        rest.pop_back();
+        for (const std::string& name :
+             upper == above_.end() ? std::vector<std::string>() : upper->second) {
+            if (found.insert(name).second)
+                rest.push_back(name);
+        }
+    }
+    return found;
 }
 
 std::string device_path(const Sysroot& root, const std::string& name)

@@ -4,7 +4,9 @@
 #include "platform/linux/formats/Mounts.h"
 
 #include <cstdint>
+#include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,13 +18,45 @@ namespace ostrelum::linux_platform {
 /// The number "major:minor" of a device.
 std::optional<std::string> device_number(const Sysroot& root, const std::string& name);
 
-/// The device that a file system lies on: by its number, or by its source where the number is one
-/// of no device (btrfs) or not known.
-std::string device_of_mount(const Sysroot& root, const Mount& mount);
+/// Finds the devices of mounts. What takes a walk over all devices is done once, when a mount first
+/// needs it. It keeps a reference to the root.
+class MountedDevices {
+public:
+    explicit MountedDevices(const Sysroot& root) : root_(root) {}
 
-/// The whole disks under a device: a partition's disk, the disks of the parts of a logical or
-/// encrypted volume. Sorted, each once.
-std::vector<std::string> whole_disks(const Sysroot& root, const std::string& name);
+    /// The device that a file system lies on: by its number, or by its source where the number is
+    /// one of no device (btrfs) or not known. Empty for none.
+    std::string device_of(const Mount& mount);
+
+private:
+    using Names = std::map<std::string, std::string>;
+    std::string of_number(const std::string& number);
+    std::string of_source(const std::string& source);
+    std::string of_mapped(const std::string& mapped);
+
+    const Sysroot& root_;
+    std::optional<Names> by_number_;
+    std::optional<Names> by_mapped_name_;
+};
+
+/// What devices lie on: a partition on its disk, a logical or encrypted volume on the disks of its
+/// parts. All are looked at together and each once, also where a recorded machine has devices that
+/// lie on each other.
+class DeviceStacks {
+public:
+    DeviceStacks(const Sysroot& root, const std::vector<std::string>& devices);
+
+    /// The whole disks under the devices.
+    const std::set<std::string>& disks() const { return disks_; }
+
+    /// The devices that lie on one of the disks, themselves included.
+    std::set<std::string> lying_on(const std::vector<std::string>& disks) const;
+
+private:
+    std::set<std::string> disks_;
+    /// By device, what lies on it at once.
+    std::map<std::string, std::vector<std::string>> above_;
+};
 
 /// The place of a device in the tree of devices, such as "../../devices/pci0000:00/...".
 std::string device_path(const Sysroot& root, const std::string& name);

@@ -1,5 +1,7 @@
 #include "platform/linux/devices/CpuPackages.h"
 
+#include "platform/linux/devices/FirmwareTable.h"
+#include "platform/linux/formats/Smbios.h"
 #include "platform/linux/os/KernelRelease.h"
 #include "platform/linux/text/Text.h"
 
@@ -9,8 +11,10 @@
 namespace ostrelum::linux_platform {
 namespace {
 
-/// No machine has more logical processors; a longer list is none.
-constexpr std::uint64_t most_cpus = 65536;
+/// No kernel is built for more logical processors (NR_CPUS); a longer list is none.
+constexpr std::uint64_t most_cpus = 8192;
+/// No processor numbers more caches.
+constexpr std::size_t most_caches = 32;
 
 std::vector<std::uint64_t> cpus_in_use(const Sysroot& root)
 {
@@ -23,6 +27,7 @@ std::vector<std::uint64_t> cpus_in_use(const Sysroot& root)
                 name.starts_with("cpu") ? whole_number(name.substr(3)) : std::nullopt)
             cpus.push_back(*number);
     }
+    cpus.resize(std::min<std::size_t>(cpus.size(), most_cpus));
     // Where the kernel has no such folders, its list of processors still shows that there is one.
     if (cpus.empty() && root.exists("/proc/cpuinfo"))
         cpus.push_back(0);
@@ -56,30 +61,56 @@ std::vector<std::string> caches_of_level(const Sysroot& root, std::uint64_t cpu,
         if (name.starts_with("index") && root.number(folder + "/level") == level &&
             root.text(folder + "/type") != "Instruction")
             names.push_back(name);
+        if (names.size() == most_caches)
+            break;
     }
     return names;
 }
 
 } // namespace
 
-const CpuInfo& LazyCpuInfo::operator()()
+const CpuInfo& CpuFacts::info()
 {
     if (!info_)
-        info_ = std::make_unique<const CpuInfo>(root_.read("/proc/cpuinfo").value_or(""));
+        info_ = std::make_unique<const CpuInfo>(machine_.root.read("/proc/cpuinfo").value_or(""));
     return *info_;
+}
+
+const std::optional<std::string>& CpuFacts::architecture()
+{
+    if (!architecture_)
+        architecture_ = kernel_architecture(machine_);
+    return *architecture_;
+}
+
+/// SMBIOS type 4, offset 4; empty sockets (status, offset 18h, bit 6) are left out.
+const std::vector<std::string>& CpuFacts::sockets()
+{
+    constexpr std::uint8_t processor_type = 4;
+    if (sockets_)
+        return *sockets_;
+    sockets_.emplace();
+    const std::string table = firmware_table(machine_.root);
+    for (const SmbiosStructure& socket : smbios_structures(bytes_of(table))) {
+        if (socket.type() == processor_type && (socket.byte(0x18).value_or(0) & 0x40) != 0)
+            sockets_->emplace_back(socket.string(0x04).value_or(""));
+    }
+    return *sockets_;
 }
 
 std::vector<std::uint64_t> numbers_of_list(std::string_view list)
 {
     std::vector<std::uint64_t> numbers;
-    while (!list.empty()) {
+    for (bool more = !list.empty(); more;) {
         const std::string_view piece = list.substr(0, list.find(','));
-        list.remove_prefix(std::min(piece.size() + 1, list.size()));
+        more = piece.size() < list.size();
+        list.remove_prefix(piece.size() + (more ? 1 : 0));
         const auto hyphen = piece.find('-');
         const auto first = whole_number(piece.substr(0, hyphen));
         const auto last = hyphen == piece.npos ? first : whole_number(piece.substr(hyphen + 1));
-        if (!first || !last || *last < *first || *last >= most_cpus ||
-            numbers.size() + (*last - *first) >= most_cpus)
+        const bool rises = first && last && *first <= *last && *last < most_cpus &&
+                           (numbers.empty() || numbers.back() < *first);
+        if (!rises)
             return {};
         for (std::uint64_t number = *first; number <= *last; ++number)
             numbers.push_back(number);
@@ -100,11 +131,11 @@ std::vector<CpuPackage> cpu_packages(const MachineView& machine)
         const auto number = machine.root.number(cpu_file(cpu, "topology/physical_package_id"));
         by_number[one ? 0 : number.value_or(0)].push_back(cpu);
     }
-    const auto cpuinfo = std::make_shared<LazyCpuInfo>(machine.root);
+    const auto facts = std::make_shared<CpuFacts>(machine);
     std::vector<CpuPackage> packages;
     packages.reserve(by_number.size());
     for (auto& [number, cpus] : by_number)
-        packages.push_back({machine, packages.size(), std::move(cpus), cpuinfo});
+        packages.push_back({machine, packages.size(), std::move(cpus), facts});
     return packages;
 }
 
@@ -112,6 +143,7 @@ std::optional<std::uint64_t> cache_kilobytes(const CpuPackage& package, std::uin
 {
     const Sysroot& root = package.machine.root;
     const std::vector<std::string> indices = caches_of_level(root, package.cpus.front(), level);
+    constexpr std::uint64_t most_kilobytes = UINT32_MAX;
     std::set<std::string> counted;
     std::optional<std::uint64_t> sum;
     for (const std::uint64_t cpu : package.cpus) {
@@ -120,7 +152,8 @@ std::optional<std::uint64_t> cache_kilobytes(const CpuPackage& package, std::uin
             const auto sharers = root.text(folder + "/shared_cpu_map");
             if (!counted.insert(sharers.value_or(folder)).second)
                 continue;
-            if (const auto size = kilobytes_of(root.text(folder + "/size").value_or("")))
+            const auto size = kilobytes_of(root.text(folder + "/size").value_or(""));
+            if (size && *size <= most_kilobytes)
                 sum = sum.value_or(0) + *size;
         }
     }

@@ -10,16 +10,25 @@
 
 namespace ostrelum::linux_platform {
 
-/// /proc/cpuinfo, read when it is first asked for: the kernel makes it anew each time, and on large
-/// machines that takes a while.
-class LazyCpuInfo {
+/// What the packages of a machine have in common, read when it is first asked for.
+class CpuFacts {
 public:
-    explicit LazyCpuInfo(const Sysroot& root) : root_(root) {}
-    const CpuInfo& operator()();
+    explicit CpuFacts(const MachineView& machine) : machine_(machine) {}
+
+    /// /proc/cpuinfo: the kernel makes it anew each time, and on large machines that takes a while.
+    const CpuInfo& info();
+
+    /// The kernel's name for the kind of processor.
+    const std::optional<std::string>& architecture();
+
+    /// The labels of the fitted sockets in the order of the firmware's table; empty for none.
+    const std::vector<std::string>& sockets();
 
 private:
-    const Sysroot& root_;
+    const MachineView& machine_;
     std::unique_ptr<const CpuInfo> info_;
+    std::optional<std::optional<std::string>> architecture_;
+    std::optional<std::vector<std::string>> sockets_;
 };
 
 /// A processor as one buys it: the logical processors of one package that are in use, in rising
@@ -30,7 +39,7 @@ struct CpuPackage {
     std::size_t place = 0;
     std::vector<std::uint64_t> cpus;
     /// Shared by the packages.
-    std::shared_ptr<LazyCpuInfo> cpuinfo;
+    std::shared_ptr<CpuFacts> facts;
 };
 
 /// The machine's packages by their numbers. On machines without firmware tables the kernel's
@@ -44,7 +53,8 @@ std::string cpu_file(std::uint64_t cpu, const char* name);
 /// there is none.
 std::optional<std::uint64_t> cache_kilobytes(const CpuPackage& package, std::uint64_t level);
 
-/// The numbers of a list such as "0-3,6"; nothing inside for other text.
+/// The numbers of a list such as "0-3,6", which rise, as the kernel writes them; nothing inside for
+/// other text, and for a number above the highest that a kernel is built for.
 std::vector<std::uint64_t> numbers_of_list(std::string_view list);
 
 } // namespace ostrelum::linux_platform

@@ -1,6 +1,5 @@
 #include "platform/linux/devices/CurrentMode.h"
 
-#include "platform/linux/devices/SessionScreens.h"
 #include "platform/linux/text/Text.h"
 
 #include <algorithm>
@@ -69,7 +68,8 @@ bool read_console_size(const Sysroot& root, const std::string& folder, DisplayMo
 
 /// The consoles' mode. The kernel does not publish its refresh rate: it is that of the monitor's
 /// own mode of this size.
-DisplayMode console_mode(const MachineView& machine, const GraphicsCard& card, bool first)
+DisplayMode console_mode(const MachineView& machine, const SessionScreens& screens,
+                         const GraphicsCard& card, bool first)
 {
     DisplayMode mode;
     const auto folder = console_folder(machine.root, card, first);
@@ -77,7 +77,7 @@ DisplayMode console_mode(const MachineView& machine, const GraphicsCard& card, b
         return mode;
     mode.bits_per_pixel = static_cast<int>(
         std::min<std::uint64_t>(machine.root.number(*folder + "/bits_per_pixel").value_or(0), 64));
-    const auto edid = main_monitor(machine, card);
+    const auto edid = main_monitor(machine, screens, card);
     for (const EdidTiming& timing : edid ? edid->detailed : std::vector<EdidTiming>()) {
         if (timing.width == mode.width && timing.height == mode.height && mode.refresh_mHz == 0)
             mode.refresh_mHz = timing.refresh_mHz;
@@ -87,24 +87,25 @@ DisplayMode console_mode(const MachineView& machine, const GraphicsCard& card, b
 
 } // namespace
 
-DisplayMode current_mode(const MachineView& machine, const GraphicsCard& card, bool first)
+DisplayMode current_mode(const MachineView& machine, const SessionScreens& screens,
+                         const GraphicsCard& card, bool first)
 {
-    const SessionScreens screens(machine);
     if (const ScreenFact* screen = first ? screens.primary_somewhere() : nullptr)
         return mode_of(*screen);
     const auto monitors = screens.connected_to(card);
     if (monitors.empty())
-        return console_mode(machine, card, first);
+        return console_mode(machine, screens, card, first);
     // The window system counts in its own scaled pixels: the kernel's figures are exact.
     if (const auto mode = kernel_mode_of(machine, monitors.front()))
         return *mode;
     const ScreenFact* screen = screens.at(monitors.front());
-    return screen ? mode_of(*screen) : console_mode(machine, card, first);
+    return screen ? mode_of(*screen) : console_mode(machine, screens, card, first);
 }
 
-std::optional<Edid> main_monitor(const MachineView& machine, const GraphicsCard& card)
+std::optional<Edid> main_monitor(const MachineView& machine, const SessionScreens& screens,
+                                 const GraphicsCard& card)
 {
-    const auto monitors = SessionScreens(machine).connected_to(card);
+    const auto monitors = screens.connected_to(card);
     return monitors.empty() ? std::nullopt : edid_of(machine.root, monitors.front());
 }
 

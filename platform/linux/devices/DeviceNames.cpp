@@ -1,7 +1,7 @@
 #include "platform/linux/devices/DeviceNames.h"
 
-#include "platform/linux/devices/HardwareDatabase.h"
 #include "platform/linux/devices/UdevDatabase.h"
+#include "platform/linux/formats/Placeholder.h"
 #include "platform/linux/text/Hex.h"
 #include "platform/linux/text/Text.h"
 
@@ -58,10 +58,18 @@ std::optional<unsigned> number_in(const Sysroot& root, const std::string& path)
     return number ? std::optional(static_cast<unsigned>(*number)) : std::nullopt;
 }
 
+std::optional<std::string> database_name(const MachineView& machine, const std::string& alias,
+                                         const char* key)
+{
+    const auto name = machine.system_calls->hardware_name(alias, key);
+    return name ? meaningful_text(*name) : std::nullopt;
+}
+
 } // namespace
 
-PciNames pci_names(const Sysroot& root, const std::string& slot)
+PciNames pci_names(const MachineView& machine, const std::string& slot)
 {
+    const Sysroot& root = machine.root;
     const UdevRecord udev = udev_record(root, "+pci:" + slot);
     PciNames names = {udev.text(vendor_key), udev.text(model_key)};
     const std::string folder = "/sys/bus/pci/devices/" + slot;
@@ -69,12 +77,11 @@ PciNames pci_names(const Sysroot& root, const std::string& slot)
     const auto device = number_in(root, folder + "/device");
     if ((names.vendor && names.model) || !vendor || !device)
         return names;
-    const HardwareDatabase database(root);
     const std::string alias = "pci:v" + upper_hex(*vendor, 8);
     if (!names.vendor)
-        names.vendor = database.text(alias, vendor_key);
+        names.vendor = database_name(machine, alias, vendor_key);
     if (!names.model)
-        names.model = database.text(alias + "d" + upper_hex(*device, 8), model_key);
+        names.model = database_name(machine, alias + "d" + upper_hex(*device, 8), model_key);
     return names;
 }
 
@@ -88,18 +95,18 @@ std::optional<std::string> pci_code(const Sysroot& root, const std::string& slot
     return upper_hex(*vendor, 4) + ":" + upper_hex(*device, 4);
 }
 
-std::optional<std::string> usb_vendor(const Sysroot& root, std::uint16_t vendor)
+std::optional<std::string> usb_vendor(const MachineView& machine, std::uint16_t vendor)
 {
-    return HardwareDatabase(root).text("usb:v" + upper_hex(vendor, 4), vendor_key);
+    return database_name(machine, "usb:v" + upper_hex(vendor, 4), vendor_key);
 }
 
-std::string monitor_maker(const Sysroot& root, const std::string& code, bool panel)
+std::string monitor_maker(const MachineView& machine, const std::string& code, bool panel)
 {
     if (const char* name = maker_in(unregistered_makers, code))
         return name;
     if (const char* name = panel ? maker_in(unregistered_panel_makers, code) : nullptr)
         return name;
-    if (const auto name = HardwareDatabase(root).text("acpi:" + code + ":", vendor_key))
+    if (const auto name = database_name(machine, "acpi:" + code + ":", vendor_key))
         return *name;
     const char* name = maker_in(monitor_makers, code);
     return name != nullptr ? name : code;

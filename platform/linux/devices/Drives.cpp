@@ -13,26 +13,16 @@ namespace {
 constexpr std::array<std::string_view, 11> no_drives{"dm-", "drbd", "fd",  "loop", "md",  "mtd",
                                                      "nbd", "ram",  "rbd", "sr",   "zram"};
 
-/// The drives on which something is mounted.
-std::set<std::string> mounted_drives(const Sysroot& root, const std::vector<Mount>& mounts)
-{
-    std::set<std::string> drives;
-    for (const Mount& mount : mounts) {
-        const auto below = whole_disks(root, device_of_mount(root, mount));
-        drives.insert(below.begin(), below.end());
-    }
-    return drives;
-}
-
 /// The drives that the running system lies on; none where "/" lies on no device.
 std::set<std::string> system_drives(const Sysroot& root)
 {
-    std::vector<Mount> mounts;
+    MountedDevices finder(root);
+    std::vector<std::string> devices;
     for (const Volume& volume : volumes_of(mount_table(root))) {
         if (volume.mount.target == "/" && !volume.network)
-            mounts.push_back(volume.mount);
+            devices.push_back(finder.device_of(volume.mount));
     }
-    return mounted_drives(root, mounts);
+    return DeviceStacks(root, devices).disks();
 }
 
 /// Several ways to a drive of NVMe are gathered into one device, which software makes, and are
@@ -68,36 +58,40 @@ std::vector<Mount> mount_table(const Sysroot& root)
 }
 
 /// The kernel's `removable` is 0 for a card's slot: to the kernel, the drive goes with the card.
-bool is_memory_card(const Sysroot& root, const std::string& drive)
+bool RemovableDrives::is_memory_card(const std::string& drive)
 {
-    return root.text("/sys/block/" + drive + "/device/type") == "SD" &&
-           !system_drives(root).contains(drive);
+    if (root_.text("/sys/block/" + drive + "/device/type") != "SD")
+        return false;
+    if (!system_drives_)
+        system_drives_ = system_drives(root_);
+    return !system_drives_->contains(drive);
 }
 
-bool is_removable(const Sysroot& root, const std::string& drive)
+bool RemovableDrives::contains(const std::string& drive)
 {
-    return root.number("/sys/block/" + drive + "/removable") == 1 || is_memory_card(root, drive);
+    const auto [known, is_new] = known_.try_emplace(drive);
+    if (is_new)
+        known->second =
+            root_.number("/sys/block/" + drive + "/removable") == 1 || is_memory_card(drive);
+    return known->second;
 }
 
-std::vector<UnmountedVolume> unmounted_volumes(const Sysroot& root,
-                                               const std::vector<Mount>& mounts)
+UnmountedVolume unmounted_volume(const Sysroot& root, const std::string& drive)
 {
-    std::vector<std::string> drives =
-        mounts.empty() ? std::vector<std::string>() : block_devices(root);
+    const auto parts = partitions_of(root, drive);
+    const auto largest = std::ranges::max_element(parts, {}, &Partition::size);
+    if (largest != parts.end())
+        return {largest->name, largest->size};
+    return {drive, device_bytes(root, drive).value_or(0)};
+}
+
+std::vector<std::string> loaded_drives(const Sysroot& root, RemovableDrives& removable)
+{
+    std::vector<std::string> drives = block_devices(root);
     std::erase_if(drives, [&](const std::string& drive) {
-        return !device_bytes(root, drive) || !is_removable(root, drive) || !is_drive(root, drive);
+        return !device_bytes(root, drive) || !removable.contains(drive) || !is_drive(root, drive);
     });
-    const auto in_use = drives.empty() ? std::set<std::string>() : mounted_drives(root, mounts);
-    std::vector<UnmountedVolume> found;
-    for (const std::string& drive : drives) {
-        if (in_use.contains(drive))
-            continue;
-        const auto parts = partitions_of(root, drive);
-        const auto largest = std::ranges::max_element(parts, {}, &Partition::size);
-        found.push_back(largest == parts.end() ? UnmountedVolume{drive, *device_bytes(root, drive)}
-                                               : UnmountedVolume{largest->name, largest->size});
-    }
-    return found;
+    return drives;
 }
 
 } // namespace ostrelum::linux_platform

@@ -4,6 +4,9 @@
 #include "platform/linux/files/Sysroot.h"
 
 #include <cstdint>
+#include <map>
+#include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -17,12 +20,24 @@ bool is_drive(const Sysroot& root, const std::string& name);
 /// The table of what is mounted where, as this process sees it; empty if it cannot be read.
 std::vector<Mount> mount_table(const Sysroot& root);
 
-/// Whether a drive is a memory card in a slot of the machine's own. The one that the system runs
-/// from is none: it is a part of the machine.
-bool is_memory_card(const Sysroot& root, const std::string& drive);
+/// Which drives can be taken out. What the running system lies on is looked up once, when it is
+/// first needed. It keeps a reference to the root.
+class RemovableDrives {
+public:
+    explicit RemovableDrives(const Sysroot& root) : root_(root) {}
 
-/// Whether a drive or the medium in it can be taken out.
-bool is_removable(const Sysroot& root, const std::string& drive);
+    /// Whether a drive is a memory card in a slot of the machine's own. The one that the system
+    /// runs from is none: it is a part of the machine.
+    bool is_memory_card(const std::string& drive);
+
+    /// Whether a drive or the medium in it can be taken out.
+    bool contains(const std::string& drive);
+
+private:
+    const Sysroot& root_;
+    std::map<std::string, bool> known_;
+    std::optional<std::set<std::string>> system_drives_;
+};
 
 /// What is on a drive that can be taken out: its largest partition, or the whole drive where it has
 /// none.
@@ -32,9 +47,9 @@ struct UnmountedVolume {
     std::uint64_t size = 0;
 };
 
-/// One for each drive that can be taken out, holds a medium and has nothing mounted, in natural
-/// order of the drives. None if the table of mounts is empty.
-std::vector<UnmountedVolume> unmounted_volumes(const Sysroot& root,
-                                               const std::vector<Mount>& mounts);
+UnmountedVolume unmounted_volume(const Sysroot& root, const std::string& drive);
+
+/// The drives that can be taken out and hold a medium, in natural order.
+std::vector<std::string> loaded_drives(const Sysroot& root, RemovableDrives& removable);
 
 } // namespace ostrelum::linux_platform

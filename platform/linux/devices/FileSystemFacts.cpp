@@ -5,27 +5,43 @@
 
 namespace ostrelum::linux_platform {
 
-FileSystemFacts::FileSystemFacts(const MachineView& machine, std::string device)
-    : machine_(machine), device_(std::move(device))
+const UdevRecord& DiskRecords::of(const std::string& device)
+{
+    if (device != last_device_) {
+        const auto number = device_number(root_, device);
+        last_record_ = number ? udev_record(root_, "b" + *number) : UdevRecord("");
+        last_device_ = device;
+    }
+    return last_record_;
+}
+
+std::optional<std::string> DiskRecords::name_of(const std::string& device,
+                                                const std::string& folder)
+{
+    const auto [known, is_new] = names_.try_emplace(folder);
+    for (const std::string& name : is_new ? root_.list(folder) : std::vector<std::string>()) {
+        const std::string target = root_.link(folder + "/" + name).value_or("");
+        known->second.try_emplace(target.substr(target.rfind('/') + 1), name);
+    }
+    const auto name = known->second.find(device);
+    return name == known->second.end() ? std::nullopt : std::optional(name->second);
+}
+
+FileSystemFacts::FileSystemFacts(const MachineView& machine, DiskRecords& records,
+                                 std::string device)
+    : machine_(machine), records_(records), device_(std::move(device))
 {
 }
 
 std::optional<std::string> FileSystemFacts::udev(std::string_view key) const
 {
-    const auto number = device_number(machine_.root, device_);
-    return number ? udev_record(machine_.root, "b" + *number).text(key) : std::nullopt;
+    return records_.of(device_).text(key);
 }
 
 std::optional<std::string> FileSystemFacts::link_name(const std::string& folder) const
 {
-    if (device_.empty())
-        return std::nullopt;
-    for (const std::string& name : machine_.root.list(folder)) {
-        const std::string target = machine_.root.link(folder + "/" + name).value_or("");
-        if (target.substr(target.rfind('/') + 1) == device_)
-            return udev_decoded(name);
-    }
-    return std::nullopt;
+    const auto name = device_.empty() ? std::nullopt : records_.name_of(device_, folder);
+    return name ? std::optional(udev_decoded(*name)) : std::nullopt;
 }
 
 std::optional<std::string> FileSystemFacts::label() const

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <set>
+#include <string_view>
 
 namespace ostrelum::linux_platform {
 namespace {
@@ -14,19 +16,6 @@ struct DrmDevice {
     std::string name, link;
 };
 
-std::vector<DrmDevice> drm_cards(const Sysroot& root)
-{
-    std::vector<DrmDevice> cards;
-    for (std::string& name : root.list(drm_devices)) {
-        // The connectors stand beside the cards: "card0-VGA-1".
-        if (!name.starts_with("card") || name.find('-') != std::string::npos)
-            continue;
-        std::string link = root.link(drm_devices + ("/" + name)).value_or("");
-        cards.push_back({std::move(name), std::move(link)});
-    }
-    return cards;
-}
-
 std::vector<std::string> display_slots(const Sysroot& root)
 {
     constexpr std::string_view display_class = "0x03";
@@ -38,13 +27,11 @@ std::vector<std::string> display_slots(const Sysroot& root)
     return slots;
 }
 
-/// 0 for the card that the firmware started on, 1 for others with a monitor, 2 for the rest.
-int rank(const Sysroot& root, const GraphicsCard& card)
+/// Whether the firmware started on the card.
+bool is_boot_card(const Sysroot& root, const GraphicsCard& card)
 {
     const std::string folder = card.folder();
-    if (root.number(folder + "/boot_vga") == 1U || root.number(folder + "/boot_display") == 1U)
-        return 0;
-    return connected(root, card).empty() ? 2 : 1;
+    return root.number(folder + "/boot_vga") == 1U || root.number(folder + "/boot_display") == 1U;
 }
 
 /// Cards outside PCI that are hardware of their own: not the firmware's picture memory, displays
@@ -56,6 +43,44 @@ bool is_hardware(const Sysroot& root, const DrmDevice& card)
     if (!driver || card.link.find("/virtual/") != std::string::npos)
         return false;
     return std::ranges::find(made, driver->substr(driver->rfind('/') + 1)) == made.end();
+}
+
+/// The first display device that is left of each place on PCI through which its link leads.
+std::map<std::string_view, std::vector<DrmDevice*>> devices_by_folder(std::vector<DrmDevice>& drm)
+{
+    std::map<std::string_view, std::vector<DrmDevice*>> devices;
+    for (DrmDevice& device : drm) {
+        const std::string_view link = device.link;
+        for (auto start = link.find('/'); start != link.npos;) {
+            const auto end = link.find('/', start + 1);
+            if (end != link.npos)
+                devices[link.substr(start + 1, end - start - 1)].push_back(&device);
+            start = end;
+        }
+    }
+    return devices;
+}
+
+/// All cards, those on PCI first.
+std::vector<GraphicsCard> listed_cards(const Sysroot& root, std::vector<DrmDevice> drm)
+{
+    auto devices = devices_by_folder(drm);
+    std::set<const DrmDevice*> taken;
+    std::vector<GraphicsCard> cards;
+    for (const std::string& slot : display_slots(root)) {
+        const auto own = devices.find(slot);
+        DrmDevice* first = nullptr;
+        for (DrmDevice* each : own == devices.end() ? std::vector<DrmDevice*>() : own->second) {
+            if (!first && taken.insert(each).second)
+                first = each;
+        }
+        cards.push_back({slot, first ? first->name : ""});
+    }
+    for (const DrmDevice& other : drm) {
+        if (!taken.contains(&other) && is_hardware(root, other))
+            cards.push_back({"", other.name});
+    }
+    return cards;
 }
 
 } // namespace
@@ -70,43 +95,51 @@ std::string_view Connector::label() const
     return std::string_view(name).substr(std::min(name.find('-'), name.size() - 1) + 1);
 }
 
-std::vector<GraphicsCard> graphics_cards(const Sysroot& root)
+GraphicsCards::GraphicsCards(const Sysroot& root)
 {
-    std::vector<DrmDevice> drm = drm_cards(root);
-    std::vector<GraphicsCard> cards;
-    for (const std::string& slot : display_slots(root)) {
-        const auto own = std::ranges::find_if(drm, [&](const DrmDevice& each) {
-            return each.link.find("/" + slot + "/") != std::string::npos;
-        });
-        cards.push_back({slot, own == drm.end() ? "" : own->name});
-        if (own != drm.end())
-            drm.erase(own);
+    std::vector<DrmDevice> drm;
+    for (std::string& name : root.list(drm_devices)) {
+        const std::string folder = drm_devices + ("/" + name);
+        const std::size_t hyphen = name.find('-');
+        // The connectors stand beside the cards: "card0-VGA-1".
+        if (hyphen != std::string::npos)
+            ports_[name.substr(0, hyphen)].push_back(
+                {{name}, root.text(folder + "/status") == "connected"});
+        else if (name.starts_with("card"))
+            drm.push_back({std::move(name), root.link(folder).value_or("")});
     }
-    for (const DrmDevice& other : drm) {
-        if (is_hardware(root, other))
-            cards.push_back({"", other.name});
-    }
-    std::ranges::stable_sort(cards, {}, [&](const GraphicsCard& card) { return rank(root, card); });
-    return cards;
+    cards_ = listed_cards(root, std::move(drm));
+    // 0 for the card that the firmware started on, 1 for others with a monitor, 2 for the rest.
+    std::map<std::string, int> ranks;
+    for (const GraphicsCard& card : cards_)
+        ranks[card.folder()] = is_boot_card(root, card) ? 0 : connected(card).empty() ? 2 : 1;
+    std::ranges::stable_sort(cards_, {},
+                             [&](const GraphicsCard& card) { return ranks[card.folder()]; });
 }
 
-std::vector<Connector> connectors(const Sysroot& root, const GraphicsCard& card)
+const std::vector<GraphicsCards::Port>& GraphicsCards::ports_of(const GraphicsCard& card) const
+{
+    static const std::vector<Port> none;
+    const auto ports = ports_.find(card.drm);
+    return ports == ports_.end() ? none : ports->second;
+}
+
+std::vector<Connector> GraphicsCards::connectors(const GraphicsCard& card) const
 {
     std::vector<Connector> connectors;
-    for (std::string& name : root.list(drm_devices)) {
-        if (!card.drm.empty() && name.starts_with(card.drm + "-"))
-            connectors.push_back({std::move(name)});
-    }
+    for (const Port& port : ports_of(card))
+        connectors.push_back(port.connector);
     return connectors;
 }
 
-std::vector<Connector> connected(const Sysroot& root, const GraphicsCard& card)
+std::vector<Connector> GraphicsCards::connected(const GraphicsCard& card) const
 {
-    std::vector<Connector> all = connectors(root, card);
-    std::erase_if(all, [&](const Connector& each) {
-        return root.text(each.folder() + "/status") != "connected";
-    });
-    return all;
+    std::vector<Connector> connectors;
+    for (const Port& port : ports_of(card)) {
+        if (port.connected)
+            connectors.push_back(port.connector);
+    }
+    return connectors;
 }
 
 std::optional<Edid> edid_of(const Sysroot& root, const Connector& connector)

@@ -3,6 +3,7 @@
 #include "platform/linux/files/Sysroot.h"
 #include "platform/linux/formats/Edid.h"
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -21,11 +22,6 @@ struct GraphicsCard {
     bool operator==(const GraphicsCard&) const = default;
 };
 
-/// The card that the firmware started on first, since the kernel numbers them by chance; then those
-/// with a monitor, then the others. Among equals those on PCI come first, by place. Displays that
-/// programs make are none.
-std::vector<GraphicsCard> graphics_cards(const Sysroot& root);
-
 struct Connector {
     /// Such as "card0-HDMI-A-1".
     std::string name;
@@ -35,11 +31,33 @@ struct Connector {
     std::string_view label() const;
 };
 
-/// A card's connectors by name, with and without a monitor.
-std::vector<Connector> connectors(const Sysroot& root, const GraphicsCard& card);
+/// The graphics cards of a machine and their connectors, listed once.
+class GraphicsCards {
+public:
+    explicit GraphicsCards(const Sysroot& root);
 
-/// Those with a monitor.
-std::vector<Connector> connected(const Sysroot& root, const GraphicsCard& card);
+    /// The card that the firmware started on first, since the kernel numbers them by chance; then
+    /// those with a monitor, then the others. Among equals those on PCI come first, by place.
+    /// Displays that programs make are none.
+    const std::vector<GraphicsCard>& all() const { return cards_; }
+
+    /// A card's connectors by name, with and without a monitor.
+    std::vector<Connector> connectors(const GraphicsCard& card) const;
+
+    /// Those with a monitor.
+    std::vector<Connector> connected(const GraphicsCard& card) const;
+
+private:
+    struct Port {
+        Connector connector;
+        bool connected;
+    };
+    const std::vector<Port>& ports_of(const GraphicsCard& card) const;
+
+    /// By the names of the cards' display devices.
+    std::map<std::string, std::vector<Port>> ports_;
+    std::vector<GraphicsCard> cards_;
+};
 
 /// The data of the monitor at the connector.
 std::optional<Edid> edid_of(const Sysroot& root, const Connector& connector);

@@ -1,6 +1,7 @@
 #include "platform/linux/devices/GraphicsDriver.h"
 
 #include "platform/linux/formats/BuildDate.h"
+#include "platform/linux/text/Text.h"
 
 namespace ostrelum::linux_platform {
 namespace {
@@ -32,8 +33,11 @@ std::optional<std::uint64_t> memory_of_tiles(const Sysroot& root, const std::str
     for (const std::string& name : root.list(folder)) {
         if (!name.starts_with("tile"))
             continue;
-        if (const auto bytes = root.number(folder + "/" + name + "/physical_vram_size_bytes"))
-            sum = sum.value_or(0) + *bytes;
+        const auto bytes = root.number(folder + "/" + name + "/physical_vram_size_bytes");
+        const auto more = bytes ? sum_of(sum.value_or(0), *bytes) : sum;
+        if (bytes && !more)
+            return std::nullopt;
+        sum = more;
     }
     return sum;
 }

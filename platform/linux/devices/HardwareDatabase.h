@@ -1,7 +1,5 @@
 #pragma once
 
-#include "platform/linux/files/Sysroot.h"
-
 #include <memory>
 #include <optional>
 #include <string>
@@ -9,19 +7,16 @@
 
 namespace ostrelum::linux_platform {
 
-/// systemd's compiled database of hardware names. A recorded machine brings its own database, or in
-/// /.facts/hwdb the answers that one gave, in lines of alias, key, "=" and value: with the
-/// database of the system that shows it, it would get other names on each system.
+/// The compiled database of hardware names of the system that the program runs on.
 class HardwareDatabase {
 public:
-    explicit HardwareDatabase(const Sysroot& root);
+    HardwareDatabase();
 
     /// What the database has under `key` for a device, which is given by the kernel's alias such as
     /// "usb:v046DpC31C". Nothing without a database.
     std::optional<std::string> text(const std::string& alias, const char* key) const;
 
 private:
-    Sysroot root_;
     std::unique_ptr<sd_hwdb, sd_hwdb* (*)(sd_hwdb*)> database_;
 };
 

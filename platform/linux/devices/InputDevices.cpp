@@ -7,6 +7,8 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
+#include <string_view>
 
 namespace ostrelum::linux_platform {
 namespace {
@@ -124,33 +126,39 @@ std::vector<Part> all_parts(const Sysroot& root)
     return parts;
 }
 
-/// The foremost part of that kind for each piece of hardware. A touch pad has a part for mice
-/// besides its own, often before it.
-std::vector<Part> one_for_each_hardware(const std::vector<Part>& parts, InputKind kind)
-{
-    std::vector<Part> foremost;
-    for (const Part& part : parts) {
-        if (!part.kinds.has(kind))
-            continue;
-        const auto seen = std::ranges::find_if(
-            foremost, [&](const Part& other) { return other.node.hardware == part.node.hardware; });
-        if (seen == foremost.end())
-            foremost.push_back(part);
-        else if (part.kinds.touchpad && !seen->kinds.touchpad)
-            *seen = part;
-    }
-    return foremost;
-}
+/// A piece of hardware as one of a kind.
+struct Hardware {
+    /// Its foremost part of that kind. A touch pad has a part for mice besides its own, often
+    /// before it.
+    const Part* foremost;
+    /// 0 for hardware of that kind alone; 1 for a keyboard with a wheel or a mouse with macros, if
+    /// its first part is of that kind; 2 if that is of the other.
+    int rank;
+};
 
-/// 0 for hardware of that kind alone; 1 for a keyboard with a wheel or a mouse with macros, if its
-/// first part is of that kind; 2 if that is of the other.
-int rank(const std::vector<Part>& parts, const std::string& hardware, InputKind kind)
+/// In the order of the foremost parts.
+std::vector<Hardware> one_for_each_hardware(const std::vector<Part>& parts, InputKind kind)
 {
     const InputKind other = kind == InputKind::Keyboard ? InputKind::Pointer : InputKind::Keyboard;
-    const auto is_its = [&](const Part& part) { return part.node.hardware == hardware; };
-    const bool alone = std::ranges::none_of(
-        parts, [&](const Part& part) { return is_its(part) && part.kinds.has(other); });
-    return alone ? 0 : std::ranges::find_if(parts, is_its)->kinds.has(kind) ? 1 : 2;
+    std::map<std::string_view, Hardware> all;
+    std::vector<std::string_view> order;
+    for (const Part& part : parts) {
+        const bool wanted = part.kinds.has(kind);
+        const auto [seen, is_new] = all.try_emplace(part.node.hardware, Hardware{nullptr, 0});
+        Hardware& hardware = seen->second;
+        if (part.kinds.has(other) && hardware.rank == 0)
+            hardware.rank = wanted || !is_new ? 1 : 2;
+        if (!wanted)
+            continue;
+        if (!hardware.foremost)
+            order.push_back(seen->first);
+        if (!hardware.foremost || (part.kinds.touchpad && !hardware.foremost->kinds.touchpad))
+            hardware.foremost = &part;
+    }
+    std::vector<Hardware> ordered;
+    for (const std::string_view path : order)
+        ordered.push_back(all.at(path));
+    return ordered;
 }
 
 } // namespace
@@ -158,11 +166,11 @@ int rank(const std::vector<Part>& parts, const std::string& hardware, InputKind 
 std::vector<InputNode> input_nodes(const Sysroot& root, InputKind kind)
 {
     const std::vector<Part> parts = all_parts(root);
+    auto all = one_for_each_hardware(parts, kind);
+    std::ranges::stable_sort(all, {}, &Hardware::rank);
     std::vector<InputNode> nodes;
-    for (const Part& part : one_for_each_hardware(parts, kind))
-        nodes.push_back(part.node);
-    std::ranges::stable_sort(
-        nodes, {}, [&](const InputNode& node) { return rank(parts, node.hardware, kind); });
+    for (const Hardware& hardware : all)
+        nodes.push_back(hardware.foremost->node);
     return nodes;
 }
 
@@ -172,8 +180,9 @@ std::optional<std::uint16_t> input_bus(const Sysroot& root, const InputNode& nod
     return number ? std::optional(static_cast<std::uint16_t>(*number)) : std::nullopt;
 }
 
-std::optional<std::string> input_maker(const Sysroot& root, const InputNode& node)
+std::optional<std::string> input_maker(const MachineView& machine, const InputNode& node)
 {
+    const Sysroot& root = machine.root;
     const auto bus = input_bus(root, node);
     if (bus == BusI8042)
         return maker_in_ps2_name(root.text(node.folder + "/name").value_or(""));
@@ -184,7 +193,7 @@ std::optional<std::string> input_maker(const Sysroot& root, const InputNode& nod
     if (bus != BusUsb && bus != BusI2c && bus != BusBluetooth)
         return std::nullopt;
     const auto vendor = whole_number(root.text(node.folder + "/id/vendor").value_or(""), 16);
-    return vendor ? usb_vendor(root, static_cast<std::uint16_t>(*vendor)) : std::nullopt;
+    return vendor ? usb_vendor(machine, static_cast<std::uint16_t>(*vendor)) : std::nullopt;
 }
 
 } // namespace ostrelum::linux_platform

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/files/Sysroot.h"
+#include "platform/linux/files/MachineView.h"
 
 #include <cstdint>
 #include <optional>
@@ -43,6 +43,6 @@ std::vector<InputNode> input_nodes(const Sysroot& root, InputKind kind);
 std::optional<std::uint16_t> input_bus(const Sysroot& root, const InputNode& node);
 
 /// Its maker.
-std::optional<std::string> input_maker(const Sysroot& root, const InputNode& node);
+std::optional<std::string> input_maker(const MachineView& machine, const InputNode& node);
 
 } // namespace ostrelum::linux_platform

@@ -139,8 +139,6 @@ std::optional<std::uint64_t> number_of(const std::optional<std::string>& text)
 std::optional<MemoryDevice> published_slot(const UdevRecord& firmware, int number)
 {
     const std::string slot = "MEMORY_DEVICE_" + std::to_string(number) + "_";
-    if (!firmware.mentions(slot))
-        return std::nullopt;
     const auto fact = [&](const char* name) { return firmware.text(slot + name); };
     const auto type = fact("TYPE");
     const auto form = fact("FORM_FACTOR");

@@ -6,6 +6,7 @@
 #include <functional>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 namespace ostrelum::linux_platform {
 namespace {
@@ -71,13 +72,13 @@ private:
 } // namespace
 
 SessionScreens::SessionScreens(const MachineView& machine)
-    : machine_(machine),
+    : machine_(machine), graphics_(machine.root),
       screens_(machine.session ? machine.session().screens : std::vector<ScreenFact>())
 {
     std::stable_partition(screens_.begin(), screens_.end(), std::mem_fn(&ScreenFact::primary));
     const auto place = [&](const auto& is_at) {
-        for (const GraphicsCard& card : graphics_cards(machine_.root)) {
-            for (const Connector& connector : connected(machine_.root, card)) {
+        for (const GraphicsCard& card : graphics_.all()) {
+            for (const Connector& connector : graphics_.connected(card)) {
                 const auto found = std::ranges::find_if(
                     screens_, [&](const ScreenFact& screen) { return is_at(screen, connector); });
                 if (found != screens_.end())
@@ -109,9 +110,9 @@ const ScreenFact* SessionScreens::primary_somewhere() const
 
 std::vector<GraphicsCard> SessionScreens::cards() const
 {
-    std::vector<GraphicsCard> cards = graphics_cards(machine_.root);
+    std::vector<GraphicsCard> cards = graphics_.all();
     std::stable_partition(cards.begin(), cards.end(), [&](const GraphicsCard& card) {
-        const auto connectors = connected(machine_.root, card);
+        const auto connectors = graphics_.connected(card);
         return std::ranges::any_of(connectors, [&](const Connector& connector) {
             return at(connector) == screens_.data() && !screens_.empty();
         });
@@ -121,8 +122,13 @@ std::vector<GraphicsCard> SessionScreens::cards() const
 
 std::vector<Connector> SessionScreens::connected_to(const GraphicsCard& card) const
 {
-    std::vector<Connector> connectors = connected(machine_.root, card);
-    std::ranges::stable_sort(connectors, {}, [&](const Connector& each) { return rank(each); });
+    std::vector<std::pair<std::size_t, Connector>> ranked;
+    for (Connector& each : graphics_.connected(card))
+        ranked.emplace_back(rank(each), std::move(each));
+    std::ranges::stable_sort(ranked, {}, [](const auto& each) { return each.first; });
+    std::vector<Connector> connectors;
+    for (auto& [rank, connector] : ranked)
+        connectors.push_back(std::move(connector));
     return connectors;
 }
 

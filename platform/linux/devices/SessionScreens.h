@@ -23,6 +23,8 @@ public:
     /// window systems have names of their own; else nullptr.
     const ScreenFact* primary_somewhere() const;
 
+    const GraphicsCards& graphics() const { return graphics_; }
+
     /// All cards: that of the primary screen first, then in their own order.
     std::vector<GraphicsCard> cards() const;
 
@@ -35,6 +37,7 @@ private:
     std::size_t rank(const Connector& connector) const;
 
     const MachineView& machine_;
+    GraphicsCards graphics_;
     /// The primary screen first.
     std::vector<ScreenFact> screens_;
     /// Numbers of screens by names of connectors.

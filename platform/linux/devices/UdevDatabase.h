@@ -12,7 +12,8 @@ namespace ostrelum::linux_platform {
 /// subsystem and name. A device without one has no properties.
 inline UdevRecord udev_record(const Sysroot& root, std::string_view device)
 {
-    return UdevRecord(root.read("/run/udev/data/" + std::string(device)).value_or(""));
+    constexpr std::size_t longest = std::size_t{1} << 20;
+    return UdevRecord(root.read("/run/udev/data/" + std::string(device), longest).value_or(""));
 }
 
 } // namespace ostrelum::linux_platform

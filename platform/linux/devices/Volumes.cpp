@@ -130,31 +130,65 @@ void replace_image_root(std::vector<Mount>& mounts)
     mounts.erase(root);
 }
 
-/// For a table without numbers: a network mount at a folder above.
-bool lies_under_network(const Mount& mount, const std::vector<Mount>& mounts)
-{
-    return std::ranges::any_of(mounts, [&](const Mount& other) {
-        return is_network_type(other.type) && other.target != mount.target &&
-               lies_under(mount.target, other.target);
-    });
-}
-
-bool way_leads_over_network(const Mount& mount, const std::vector<Mount>& mounts)
-{
-    if (mount.id == 0)
-        return lies_under_network(mount, mounts);
-    std::set<int> passed;
-    int at = mount.parent;
-    while (at != 0 && passed.insert(at).second) {
-        const auto below = std::ranges::find(mounts, at, &Mount::id);
-        if (below == mounts.end())
-            return false;
-        if (is_network_type(below->type))
-            return true;
-        at = below->parent;
+/// Which mounts the way leads to over a network's. Each mount is looked at once for all that lie on
+/// it.
+class NetworkWays {
+public:
+    explicit NetworkWays(const std::vector<Mount>& mounts)
+    {
+        for (const Mount& mount : mounts) {
+            by_number_.try_emplace(mount.id, &mount);
+            if (is_network_type(mount.type)) {
+                targets_.insert(mount.target);
+                lengths_.insert(mount.target.size());
+            }
+        }
     }
-    return false;
-}
+
+    bool lead_to(const Mount& mount)
+    {
+        return mount.id == 0 ? lies_under_network(mount) : below_is_network(mount);
+    }
+
+private:
+    /// For a table without numbers: a network mount at a folder above.
+    bool lies_under_network(const Mount& mount) const
+    {
+        const std::string_view target = mount.target;
+        return std::ranges::any_of(lengths_, [&](std::size_t length) {
+            return length < target.size() && target[length] == '/' &&
+                   targets_.contains(target.substr(0, length));
+        });
+    }
+
+    /// Mounts that lie on each other in a circle lie on no network's.
+    bool below_is_network(const Mount& mount)
+    {
+        std::vector<int> way;
+        int at = mount.parent;
+        bool over_network = false;
+        while (at != 0) {
+            const auto [answer, is_new] = over_network_.try_emplace(at, false);
+            const auto below = by_number_.find(at);
+            over_network = answer->second;
+            if (!is_new || below == by_number_.end())
+                break;
+            way.push_back(at);
+            over_network = is_network_type(below->second->type);
+            if (over_network)
+                break;
+            at = below->second->parent;
+        }
+        for (const int passed : way)
+            over_network_[passed] = over_network;
+        return over_network;
+    }
+
+    std::map<int, const Mount*> by_number_;
+    std::map<int, bool> over_network_;
+    std::set<std::string_view> targets_;
+    std::set<std::size_t> lengths_;
+};
 
 } // namespace
 
@@ -175,11 +209,12 @@ std::vector<Volume> volumes_of(const std::vector<Mount>& mounts)
         if (!is_new && rank(mount) < rank(group->second))
             group->second = mount;
     }
+    NetworkWays network_ways(mounts);
     std::vector<Volume> volumes;
     for (const auto& [key, mount] : best) {
         const bool network = is_network_type(mount.type);
         if (network || !shows_only_parts(mount))
-            volumes.push_back({mount, network, way_leads_over_network(mount, mounts)});
+            volumes.push_back({mount, network, network_ways.lead_to(mount)});
     }
     std::ranges::sort(volumes, natural_less,
                       [](const Volume& volume) { return std::string_view(volume.mount.target); });

@@ -122,7 +122,7 @@ Descriptor Sysroot::open(const std::string& path) const
 
 std::optional<std::string> Sysroot::text(const std::string& path) const
 {
-    const auto content = read(path);
+    const auto content = read(path, value_limit);
     if (!content)
         return std::nullopt;
     const std::size_t end = content->find_first_of(std::string_view("\n\0", 2));

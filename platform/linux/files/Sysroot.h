@@ -55,7 +55,7 @@ public:
     Descriptor open(const std::string& path) const;
 
     /// The first line of a file, or what stands before its first NUL: trimmed, valid UTF-8, not
-    /// empty.
+    /// empty. Nothing for a file of more than 64 KiB: those that hold one value are far shorter.
     std::optional<std::string> text(const std::string& path) const;
 
     /// The whole number that is the first line of a file.
@@ -77,6 +77,7 @@ private:
     Descriptor checked(Descriptor file) const;
 
     static constexpr std::size_t default_limit = std::size_t{4} << 20;
+    static constexpr std::size_t value_limit = std::size_t{64} << 10;
 
     std::shared_ptr<const Descriptor> root_;
     Resolver resolver_;

@@ -62,6 +62,11 @@ public:
     /// bus such as "0000:01:00.0".
     virtual std::optional<std::uint64_t> graphics_memory(const std::string& slot) = 0;
 
+    /// What systemd's compiled database of hardware has under `key` for a device, which is given by
+    /// the kernel's alias such as "usb:v046DpC31C". The library that reads the database trusts it:
+    /// only the machine's own is read, and never a file that somebody else sent.
+    virtual std::optional<std::string> hardware_name(const std::string& alias, const char* key) = 0;
+
     /// The rules for the password of an account, and when it last logged in, in seconds since 1970,
     /// by the accounts service (AccountsService.h).
     virtual std::optional<PasswordPolicy> password_policy(std::uint64_t uid) = 0;

@@ -52,7 +52,7 @@ std::optional<double> CpuRecord::rated_megahertz() const
     return constant && doubled ? std::optional(*doubled / 2) : std::nullopt;
 }
 
-CpuInfo::CpuInfo(std::string text) : text_(std::move(text))
+CpuInfo::CpuInfo(std::string text) : text_(std::move(text)), whole_(text_)
 {
     for (std::string_view rest = text_; !rest.empty();) {
         const auto end = std::min(rest.find("\n\n"), rest.size());
@@ -66,7 +66,28 @@ CpuInfo::CpuInfo(std::string text) : text_(std::move(text))
 CpuRecord CpuInfo::of(std::uint64_t cpu) const
 {
     const auto record = records_.find(cpu);
-    return record == records_.end() ? CpuRecord(text_) : record->second;
+    return record == records_.end() ? other() : record->second;
+}
+
+std::vector<CpuRecord> CpuInfo::of_all(const std::vector<std::uint64_t>& cpus) const
+{
+    std::vector<CpuRecord> all;
+    bool others = false;
+    for (const std::uint64_t cpu : cpus) {
+        const auto record = records_.find(cpu);
+        if (record != records_.end())
+            all.push_back(record->second);
+        others |= record == records_.end();
+    }
+    // A sandbox may number the processors that it shows anew.
+    if (others && all.empty())
+        all.push_back(other());
+    return all;
+}
+
+const CpuRecord& CpuInfo::other() const
+{
+    return records_.empty() ? whole_ : records_.begin()->second;
 }
 
 std::optional<std::uint64_t> megahertz_in_name(std::string_view name)

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace ostrelum::linux_platform {
 
@@ -36,11 +37,18 @@ public:
     CpuInfo(const CpuInfo&) = delete;
     CpuInfo& operator=(const CpuInfo&) = delete;
 
-    /// The paragraph of a logical processor; all of the text where the processors are not numbered.
+    /// The paragraph of a logical processor; the first one where it has none, and all of the text
+    /// where the processors are not numbered.
     CpuRecord of(std::uint64_t cpu) const;
 
+    /// The paragraphs of logical processors, each once.
+    std::vector<CpuRecord> of_all(const std::vector<std::uint64_t>& cpus) const;
+
 private:
+    const CpuRecord& other() const;
+
     std::string text_;
+    CpuRecord whole_;
     std::map<std::uint64_t, CpuRecord> records_;
 };
 

@@ -24,11 +24,11 @@ std::size_t records_of_known_type(ByteView log, std::size_t record_bytes)
 }
 
 /// The account's name fills 32 bytes at 44, or ends with a NUL.
-bool names(ByteView record, std::string_view account)
+std::string_view name_in(ByteView record)
 {
     const auto* begin = reinterpret_cast<const char*>(record.data()) + 44;
     const std::string_view field(begin, 32);
-    return field.substr(0, field.find('\0')) == account;
+    return field.substr(0, field.find('\0'));
 }
 
 std::int64_t time_of(ByteView record)
@@ -50,17 +50,19 @@ std::size_t utmp_bytes(ByteView log, std::size_t otherwise)
     return wide > narrow ? wide_utmp_bytes : usual_utmp_bytes;
 }
 
-LoginHistory login_history(ByteView log, std::size_t record_bytes, std::string_view account)
+std::map<std::string, LoginHistory, std::less<>> login_histories(ByteView log,
+                                                                 std::size_t record_bytes)
 {
-    LoginHistory history;
+    std::map<std::string, LoginHistory, std::less<>> histories;
     for (; log.size() >= record_bytes; log = log.subspan(record_bytes)) {
         const ByteView record = log.first(record_bytes);
-        if (type_of(record) != user_process || !names(record, account))
+        if (type_of(record) != user_process)
             continue;
+        LoginHistory& history = histories[std::string(name_in(record))];
         ++history.logins;
         history.last = time_of(record);
     }
-    return history;
+    return histories;
 }
 
 std::optional<std::int64_t> last_login(ByteView record)

@@ -4,7 +4,10 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <map>
 #include <optional>
+#include <string>
 #include <string_view>
 
 /// The binary records of logins. A record that the end cuts off is left out.
@@ -26,7 +29,9 @@ inline constexpr std::size_t wide_utmp_bytes = 400;
 /// not follow from the log either.
 std::size_t utmp_bytes(ByteView log, std::size_t otherwise);
 
-LoginHistory login_history(ByteView log, std::size_t record_bytes, std::string_view account);
+/// What a log of records of that width says, by account.
+std::map<std::string, LoginHistory, std::less<>> login_histories(ByteView log,
+                                                                 std::size_t record_bytes);
 
 /// Bytes of a record of the file lastlog, which stand by user number, beside each width of the log.
 constexpr std::size_t lastlog_bytes(std::size_t record_bytes)

@@ -14,10 +14,12 @@ std::optional<std::uint64_t> kilobytes(std::string_view text, std::string_view l
 /// For kernels before 3.14, which do not add it up themselves.
 std::optional<std::uint64_t> free_and_cached(std::string_view text)
 {
-    const auto free = kilobytes(text, "MemFree");
-    if (!free)
-        return std::nullopt;
-    return *free + kilobytes(text, "Buffers").value_or(0) + kilobytes(text, "Cached").value_or(0);
+    auto sum = kilobytes(text, "MemFree");
+    for (const char* label : {"Buffers", "Cached"}) {
+        if (sum)
+            sum = sum_of(*sum, kilobytes(text, label).value_or(0));
+    }
+    return sum;
 }
 
 } // namespace

@@ -4,12 +4,22 @@
 
 namespace ostrelum::linux_platform {
 
+UdevRecord::UdevRecord(std::string_view lines)
+{
+    for (const std::string_view line : lines_of(lines)) {
+        const std::size_t sign = line.find('=');
+        const std::string_view key = trimmed_space(line.substr(0, sign));
+        if (sign != line.npos && key.starts_with("E:"))
+            values_.try_emplace(std::string(key.substr(2)), trimmed_space(line.substr(sign + 1)));
+    }
+}
+
 std::optional<std::string> UdevRecord::text(std::string_view key) const
 {
-    const auto value = value_behind(lines_, "E:" + std::string(key), '=');
-    if (!value)
+    const auto value = values_.find(key);
+    if (value == values_.end())
         return std::nullopt;
-    return text_or_none(key.ends_with("_ENC") ? udev_decoded(*value) : std::string(*value));
+    return text_or_none(key.ends_with("_ENC") ? udev_decoded(value->second) : value->second);
 }
 
 std::string udev_decoded(std::string_view text)

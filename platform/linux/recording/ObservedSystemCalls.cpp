@@ -73,6 +73,14 @@ public:
                         [](std::uint64_t bytes) { return std::to_string(bytes); });
     }
 
+    std::optional<std::string> hardware_name(const std::string& alias, const char* key) override
+    {
+        auto name = calls_->hardware_name(alias, key);
+        if (name)
+            observer_->on_answer("hwdb", alias + " " + key + "=" + *name, "");
+        return name;
+    }
+
     std::optional<PasswordPolicy> password_policy(std::uint64_t uid) override
     {
         return observed("password", std::to_string(uid), calls_->password_policy(uid),

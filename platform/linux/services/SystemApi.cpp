@@ -1,5 +1,6 @@
 #include "platform/linux/services/SystemApi.h"
 
+#include "platform/linux/devices/CpuPackages.h"
 #include "platform/linux/formats/MouseButtons.h"
 #include "platform/linux/services/UserFolders.h"
 #include "platform/linux/text/Text.h"
@@ -7,7 +8,6 @@
 #include "sources/Ascii.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cstdlib>
 #include <filesystem>
 #include <optional>
@@ -39,44 +39,14 @@ std::vector<InputDevice> input_devices(const Sysroot& root)
         const std::string device = folder + "/" + name + "/";
         if (!name.starts_with("input") || made_by_program(root, folder + "/" + name))
             continue;
-        const auto fact = [&](const char* file) { return root.read(device + file).value_or(""); };
+        const auto fact = [&](const char* file) { return root.text(device + file).value_or(""); };
         devices.push_back({fact("capabilities/key"), fact("capabilities/rel"),
                            fact("capabilities/abs"), fact("properties")});
     }
     return devices;
 }
 
-/// Takes a number off the front of the text.
-bool take_number(std::string_view& text, std::uint16_t& number)
-{
-    const auto [rest, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    text.remove_prefix(static_cast<std::size_t>(rest - text.data()));
-    return error == std::errc();
-}
-
 } // namespace
-
-std::uint32_t count_in_list(std::string_view list)
-{
-    while (list.ends_with('\n'))
-        list.remove_suffix(1);
-    std::uint32_t count = 0;
-    for (bool more = true; more;) {
-        std::uint16_t first = 0;
-        if (!take_number(list, first))
-            return 0;
-        std::uint16_t last = first;
-        if (list.starts_with('-')) {
-            list.remove_prefix(1);
-            if (!take_number(list, last) || last < first)
-                return 0;
-        }
-        count += static_cast<std::uint32_t>(last - first) + 1U;
-        more = list.starts_with(',');
-        list.remove_prefix(more ? 1 : 0);
-    }
-    return list.empty() ? count : 0;
-}
 
 LinuxSystemApi::LinuxSystemApi(const std::string& root, Environment environment,
                                std::optional<std::string> user)
@@ -93,8 +63,8 @@ LinuxSystemApi::LinuxSystemApi(std::optional<Sysroot> files, Environment environ
 
 SystemInfo LinuxSystemApi::GetOstrelum()
 {
-    const auto online = files_ ? files_->read("/sys/devices/system/cpu/online") : std::nullopt;
-    std::uint32_t count = count_in_list(online.value_or(""));
+    const auto online = files_ ? files_->text("/sys/devices/system/cpu/online") : std::nullopt;
+    auto count = static_cast<std::uint32_t>(numbers_of_list(online.value_or("")).size());
     // A sandbox may hide the list; the processors of this machine are then asked for directly.
     if (count == 0 && files_ && files_->is_live())
         count = static_cast<std::uint32_t>(std::max(::sysconf(_SC_NPROCESSORS_ONLN), 1L));

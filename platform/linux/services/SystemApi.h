@@ -11,10 +11,6 @@
 
 namespace ostrelum::linux_platform {
 
-/// How many numbers a list of the kernel such as "0-3,6" holds; 0 for a text that is no such list.
-/// Numbers of 65536 and more are none of a processor.
-std::uint32_t count_in_list(std::string_view list);
-
 /// SystemApi on Linux. What concerns the hardware is read under `root`: "/" or the folder of a
 /// recorded machine.
 class LinuxSystemApi : public SystemApi {

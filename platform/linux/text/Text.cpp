@@ -63,6 +63,11 @@ std::optional<std::uint64_t> whole_number(std::string_view text, int base)
     return number;
 }
 
+std::optional<std::uint64_t> sum_of(std::uint64_t a, std::uint64_t b)
+{
+    return a <= UINT64_MAX - b ? std::optional(a + b) : std::nullopt;
+}
+
 std::optional<std::string> text_or_none(std::string_view raw)
 {
     const std::string line = made_one_line(made_valid_utf8(raw));

@@ -26,6 +26,9 @@ std::optional<std::string_view> value_behind(std::string_view text, std::string_
 /// The number that the whole text is, without sign; nothing for other text and above 64 bits.
 std::optional<std::uint64_t> whole_number(std::string_view text, int base = 10);
 
+/// The sum of two numbers; nothing above 64 bits.
+std::optional<std::uint64_t> sum_of(std::uint64_t a, std::uint64_t b);
+
 /// The text valid in UTF-8, its control characters turned into blanks, and trimmed; nothing if that
 /// leaves none.
 std::optional<std::string> text_or_none(std::string_view raw);

@@ -118,7 +118,9 @@ TEST(Processes, KernelThreadsAreToldByTheirFlags)
 TEST(CpuTexts, ListsClocksAndNames)
 {
     EXPECT_EQ(numbers_of_list("0-2,5"), (std::vector<std::uint64_t>{0, 1, 2, 5}));
-    for (const char* none : {"", "3-1", "0-99999999", "0-65535,0-65535", "x", "1,,2"})
+    EXPECT_EQ(numbers_of_list("0-8191").size(), 8192U);
+    for (const char* none : {"", "3-1", "0-", "0,", "-1", "0 1", "0-8192", "0-4294967295",
+                             "0-3,3-4", "0-8191,0-8191", "x", "1,,2"})
         EXPECT_TRUE(numbers_of_list(none).empty()) << none;
     EXPECT_EQ(megahertz_in_name("Intel(R) Core(TM) i5 CPU M 560 @ 2.67GHz"), 2670U);
     for (const char* none : {"AMD Ryzen", "x @ GHz", "GHz @ 2", "x @ 1e9GHz", "x @ -1GHz"})
@@ -128,6 +130,8 @@ TEST(CpuTexts, ListsClocksAndNames)
                           "processor\t: 2\nbogomips: 1600\nflags: constant_tsc\n\n");
     EXPECT_EQ(cpuinfo.of(1).megahertz(), 900);
     EXPECT_EQ(cpuinfo.of(7).megahertz(), 800.5) << "the first where there is no such number";
+    EXPECT_EQ(cpuinfo.of_all({0, 1, 7}).size(), 2U);
+    EXPECT_EQ(cpuinfo.of_all({7, 8}).size(), 1U) << "and that once";
     EXPECT_FALSE(cpuinfo.of(0).rated_megahertz()) << "the counter's clock changes";
     EXPECT_FALSE(cpuinfo.of(1).rated_megahertz());
     EXPECT_EQ(cpuinfo.of(2).rated_megahertz(), 800);

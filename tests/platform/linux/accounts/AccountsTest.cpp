@@ -33,12 +33,13 @@ TEST(Logins, AreCountedByAccountInBothWidths)
         EXPECT_EQ(utmp_bytes(std::span(log).first(size - 1), other), other) << "cut";
         std::ranges::copy(login(size, 7, long_name, 300), std::back_inserter(log));
         const auto last = static_cast<std::int64_t>((8000 / size) * size);
-        EXPECT_EQ(login_history(log, size, "ana").logins, 8000 / size) << "and not their ends";
-        EXPECT_EQ(login_history(log, size, "ana").last, last);
-        EXPECT_EQ(login_history(log, size, long_name).last, 300) << "a name that fills its field";
-        EXPECT_EQ(login_history(log, size, "an").last, std::nullopt);
+        const auto histories = login_histories(log, size);
+        EXPECT_EQ(histories.at("ana").logins, 8000 / size) << "and not their ends";
+        EXPECT_EQ(histories.at("ana").last, last);
+        EXPECT_EQ(histories.at(long_name).last, 300) << "a name that fills its field";
+        EXPECT_EQ(histories.size(), 2U);
         log.pop_back();
-        EXPECT_EQ(login_history(log, size, long_name).logins, 0U) << "a record that is cut off";
+        EXPECT_FALSE(login_histories(log, size).contains(long_name)) << "a record that is cut off";
     }
     EXPECT_EQ(utmp_bytes(Bytes(4800, 0xFF), wide_utmp_bytes), wide_utmp_bytes);
 }
@@ -71,13 +72,13 @@ TEST(Accounts, ReadTheLinesThatAreWhole)
 
 TEST(Accounts, AdministerByMembershipOrPrimaryGroup)
 {
-    const std::string groups =
-        "sudo:x:27:ana, eva\nwheel:x:10:\nusers:x:100:joe\nsudoers:x:28:joe\n";
+    const Administrators administrators(
+        "sudo:x:27:ana, eva\nwheel:x:10:\nusers:x:100:joe\nsudoers:x:28:joe\n");
     for (const Account& account :
          {Account{"ana", 1000, 1000, ""}, {"eva", 1001, 1001, ""}, {"kim", 1004, 10, ""}})
-        EXPECT_TRUE(administers(groups, account)) << account.name;
+        EXPECT_TRUE(administrators.contains(account)) << account.name;
     for (const Account& account : {Account{"an", 1002, 1002, ""}, {"joe", 1003, 100, ""}})
-        EXPECT_FALSE(administers(groups, account)) << account.name;
+        EXPECT_FALSE(administrators.contains(account)) << account.name;
 }
 
 TEST(PasswordPolicies, FollowTheAges)

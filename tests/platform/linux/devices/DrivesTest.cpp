@@ -51,6 +51,29 @@ TEST(Drives, SeveralWaysToADriveOfNvmeAreThatDrive)
               Rows{"Fast 990|SCSI|1"});
 }
 
+/// As only a stranger's recording can have them.
+TEST(Drives, OnesThatLieOnEachOtherAreLookedAtOnce)
+{
+    const MadeSysroot root;
+    std::string mounts;
+    for (int each = 0; each < 40; ++each) {
+        const std::string number = std::to_string(each);
+        const std::string name = "dm-" + number;
+        add_block(root, "virtual/block/" + name, "253:" + number, "9000");
+        for (const int step : {0, 1, 2, 39})
+            root.link("sys/devices/virtual/block/" + name + "/slaves/dm-" +
+                          std::to_string((each + step) % 40),
+                      "..");
+        mounts += std::to_string(each + 2) + " 1 253:" + number + " / /" + name +
+                  " rw - ext4 /dev/" + name + " rw\n";
+    }
+    add_removable(root, "sdb", "8:16", "6000");
+    root.file("proc/self/mountinfo", mounts);
+    EXPECT_EQ(root.rows("Select Name from Win32_LogicalDisk where DriveType = 3").size(), 40U);
+    root.link("sys/devices/virtual/block/dm-7/slaves/sdb", "..");
+    EXPECT_EQ(root.rows("Select Name from Win32_LogicalDisk where DriveType = 2").size(), 40U);
+}
+
 TEST(Drives, WhatNobodyCanTellOfAVolumeThatIsThereIsAnEmptyText)
 {
     const MadeSysroot root;

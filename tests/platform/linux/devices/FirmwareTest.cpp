@@ -54,6 +54,23 @@ TEST(Placeholder, IsTextThatNobodyFilledIn)
         EXPECT_EQ(meaningful_serial(serial), serial);
 }
 
+TEST(LinuxManagementService, GivesNoSumThatDoesNotFitAndNoZoneADayAway)
+{
+    const MadeSysroot machine;
+    const std::string most = " 18446744073709551615 kB\n";
+    machine.file("proc/meminfo", "MemTotal:" + most + "MemFree:" + most + "Buffers: 1 kB\n" +
+                                     "SwapTotal: 1 kB\nSwapFree: 1 kB\n");
+    machine.file(".facts/btime", "/ 1700000000\n");
+    const std::string query = "Select FreeVirtualMemory, InstallDate, TotalVirtualMemorySize from "
+                              "Win32_OperatingSystem";
+    for (const auto& [minutes, zone] :
+         pairs("60=231320.000000+060|-180=191320.000000-180|2147483647=221320.000000+000|"
+               "-2147483648=221320.000000+000|1440=221320.000000+000")) {
+        machine.file(".facts/zone", "1700000000 " + minutes + "\n");
+        EXPECT_THAT(machine.rows(query), ElementsAre("0|20231114" + zone + "|0")) << minutes;
+    }
+}
+
 TEST(LinuxManagementService, RefusesAFolderThatIsNotThereAndClassesThatAreNot)
 {
     const TemporaryFolder machine;

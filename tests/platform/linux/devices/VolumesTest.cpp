@@ -20,6 +20,11 @@ TEST(VolumeRule, ListsEachVolumeOnce)
          "20 1 0:30 / / ro - overlay composefs ro\n21 20 8:3 / /sysroot ro - ext4 /dev/sda3 ro\n",
          "/ "},
         {"a mount that is its own parent", "5 5 8:1 / / rw - ext4 /dev/sda1 rw\n", "/ "},
+        {"mounts that lie on each other, and one on a network's by way of another",
+         "20 22 8:1 / /a rw - ext4 /dev/sda rw\n22 20 8:2 / /b rw - ext4 /dev/sdb rw\n"
+         "23 1 0:9 / /n rw - nfs4 h:/ rw\n24 23 8:3 / /n/c rw - ext4 /dev/sdc rw\n"
+         "25 24 8:4 / /n/c/d rw - ext4 /dev/sdd rw\n26 24 8:5 / /n/c/e rw - ext4 /dev/sde rw\n",
+         "/a /b net:/n far:/n/c far:/n/c/d far:/n/c/e "},
         {"what programs mount of other machines",
          "20 1 8:1 / / rw - ext4 /dev/sda1 rw\n23 20 0:61 / /home/u/s rw - fuse.sshfs u@h: rw\n",
          "/ net:/home/u/s "},

@@ -41,17 +41,6 @@ TEST(SystemApi, CountsTheButtonsOfPointers)
         EXPECT_EQ(mouse_buttons(devices), buttons) << (devices.empty() ? "" : devices.back().key);
 }
 
-TEST(SystemApi, CountsAKernelList)
-{
-    const std::pair<std::string_view, std::uint32_t> cases[] = {
-        {"0\n", 1}, {"0-1\n", 2}, {"0-3,6,8-11\n", 9}, {"0-65535", 65536}, {"", 0},
-        {"\n", 0},  {"0-", 0},    {"3-1", 0},          {"0,", 0},          {"0-65536", 0},
-        {"0 1", 0}, {"-1", 0},    {"0-4294967295", 0},
-    };
-    for (const auto& [list, count] : cases)
-        EXPECT_EQ(count_in_list(list), count) << list;
-}
-
 TEST(SystemApi, FindsVariablesInAnyCase)
 {
     const passwd* const account = ::getpwuid(::getuid());
