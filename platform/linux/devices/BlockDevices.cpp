@@ -75,6 +75,14 @@ std::string MountedDevices::device_of(const Mount& mount)
 
 std::string MountedDevices::of_number(const std::string& number)
 {
+    const auto [answer, is_new] = answered_.try_emplace(number);
+    if (is_new)
+        answer->second = found_by_number(number);
+    return answer->second;
+}
+
+std::string MountedDevices::found_by_number(const std::string& number)
+{
     if (const auto path = root_.link("/sys/dev/block/" + number))
         return last_part(*path);
     if (!by_number_) {

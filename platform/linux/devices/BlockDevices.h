@@ -31,10 +31,13 @@ public:
 private:
     using Names = std::map<std::string, std::string>;
     std::string of_number(const std::string& number);
+    std::string found_by_number(const std::string& number);
     std::string of_source(const std::string& source);
     std::string of_mapped(const std::string& mapped);
 
     const Sysroot& root_;
+    /// Those that were asked for.
+    Names answered_;
     std::optional<Names> by_number_;
     std::optional<Names> by_mapped_name_;
 };
