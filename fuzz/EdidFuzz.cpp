@@ -1,9 +1,8 @@
+#include "fuzz/Target.h"
 #include "platform/linux/formats/Edid.h"
 #include "platform/linux/recording/MaskedBytes.h"
 
 #include "tests/platform/linux/MadeEdid.h"
-
-#include <cstdlib>
 
 namespace {
 
@@ -31,17 +30,17 @@ void check(const std::string& bytes)
 
 /// Any bytes as a monitor's data, as they are and as blocks whose sums are right: no mode is
 /// without size or speed, the limits are in order, and masking changes none of them.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     constexpr std::size_t block = 128;
-    const std::string bytes(data, data + size);
+    std::string bytes(data, data + size);
     check(bytes);
+    if (size >= block)
+        bytes.replace(0, 8, "\0\xFF\xFF\xFF\xFF\xFF\xFF\0", 8);
     std::string right;
     for (std::size_t at = 0; at + block <= size; at += block)
         right += ostrelum::linux_platform::summed(bytes.substr(at, block));
     if (!right.empty())
-        check(right.replace(0, 8, "\0\xFF\xFF\xFF\xFF\xFF\xFF\0", 8));
+        check(right);
     return 0;
 }

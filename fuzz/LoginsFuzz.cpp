@@ -1,6 +1,6 @@
+#include "fuzz/Target.h"
 #include "platform/linux/formats/LoginRecords.h"
 
-#include <cstdlib>
 #include <string_view>
 
 namespace {
@@ -36,8 +36,6 @@ void check_history(ByteView log, std::size_t record_bytes)
 
 /// Any bytes as the log of logins, as a record of the last one and as a list of failures: no more
 /// logins and failures than there are records, and the first record's user has logged in.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     constexpr std::size_t neither = 0;

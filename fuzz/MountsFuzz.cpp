@@ -1,15 +1,10 @@
+#include "fuzz/Target.h"
 #include "platform/linux/devices/Volumes.h"
 #include "platform/linux/text/NaturalOrder.h"
 #include "sources/Utf8.h"
 
-#include <algorithm>
-#include <cstdint>
-#include <cstdlib>
-
 /// Any bytes as a mount table: its volumes are mounts of it, each place once and in order, and the
 /// ways over network mounts end.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     using namespace ostrelum;

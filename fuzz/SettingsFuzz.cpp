@@ -1,13 +1,8 @@
+#include "fuzz/Target.h"
 #include "platform/linux/formats/SettingsText.h"
-
-#include <algorithm>
-#include <cstdint>
-#include <cstdlib>
 
 /// Any bytes as a settings file: reading ends, and a value written into them can be read back
 /// and costs no line.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     using namespace ostrelum;
@@ -23,5 +18,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             std::abort();
     }
     find_setting(text, name);
+    if (const auto split = split_setting_name(text))
+        require(std::string(split->key) + "\\" + std::string(split->name) == text);
     return 0;
 }

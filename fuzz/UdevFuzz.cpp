@@ -1,14 +1,9 @@
-#include "fuzz/Cleanness.h"
+#include "fuzz/Target.h"
 #include "platform/linux/devices/MemoryDevices.h"
 #include "platform/linux/formats/UdevRecord.h"
 
-#include <cstdint>
-#include <cstdlib>
-
 /// Any bytes as udev's record of a device: its texts are clean, and it has no more memory
 /// modules than a table can have.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     using namespace ostrelum;
