@@ -95,6 +95,12 @@ int run_classes(Host&, const Options&, const Arguments& arguments)
     return done;
 }
 
+/// A command line that would be right on another system.
+class NotHere : public Failure {
+public:
+    using Failure::Failure;
+};
+
 struct Command {
     std::string_view name;
     int (*run)(Host&, const Options&, const Arguments&);
@@ -113,7 +119,7 @@ int run(Host& host, const Options& options)
     if (command == std::end(commands))
         return wrong_usage;
     if (!host.knows_recordings() && (options.sysroot || command->run == run_record))
-        throw Failure("machines can neither be recorded nor shown from a recording here");
+        throw NotHere("machines can neither be recorded nor shown from a recording on this system");
     return command->run(host, options, arguments);
 }
 
@@ -125,6 +131,9 @@ int run_console(Host& host, const std::vector<std::string>& arguments)
     try {
         if (const auto options = read_options(arguments))
             code = run(host, *options);
+    } catch (const NotHere& reason) {
+        std::cerr << "ostrelum-console: " << reason.what() << '\n';
+        return wrong_usage;
     } catch (const std::bad_alloc&) {
         std::cerr << "ostrelum-console: there is not enough memory\n";
         return failed;

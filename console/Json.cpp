@@ -17,6 +17,12 @@ Json value_of(const Value& value)
         return static_cast<std::int64_t>(value.number());
     if (value.is_real())
         return value.number();
+    if (const auto* items = value.items()) {
+        Json array = Json::array();
+        for (const Value& item : *items)
+            array.push_back(value_of(item));
+        return array;
+    }
     return value.text();
 }
 

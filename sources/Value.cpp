@@ -42,7 +42,7 @@ std::string Value::text() const
         return shortest(*real);
     if (const auto* text = std::get_if<std::string>(&held_))
         return *text;
-    throw Failure("null read as text");
+    throw Failure(is_null() ? "null read as text" : "a list read as text");
 }
 
 double Value::number() const
@@ -58,7 +58,7 @@ double Value::number() const
             return *real;
         throw Failure("text read as a number");
     }
-    throw Failure("null read as a number");
+    throw Failure(is_null() ? "null read as a number" : "a list read as a number");
 }
 
 std::int32_t Value::as_int32() const

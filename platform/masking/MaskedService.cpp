@@ -37,8 +37,11 @@ void MaskedService::learn(const ClassSchema& schema)
     try {
         for (const Instance& instance :
              service_->ExecQuery("Select " + marked + " from " + std::string(schema.name))) {
-            for (const auto& [name, value] : instance.properties())
-                note(value, find_named(schema.properties, name)->identity);
+            for (const auto& [name, value] : instance.properties()) {
+                // A service may add keys that nobody asked for.
+                if (const PropertySchema* known = find_named(schema.properties, name))
+                    note(value, known->identity);
+            }
         }
     } catch (const Failure&) {
         // A class that cannot be asked shows nothing either.
@@ -67,8 +70,10 @@ void MaskedService::note(const Value& value, Identity identity)
 
 Value MaskedService::masked(const Value& value, Identity identity)
 {
-    if (value.is_null() || value.text().empty())
+    if (value.is_null() || (value.is_text() && value.text().empty()))
         return value;
+    if (value.items())
+        return std::string(hidden_text);
     const auto hidden_in = [&](Writer writer) {
         return value.is_text() ? Value(known_.hidden_in(value.text(), writer, others_)) : value;
     };
@@ -83,6 +88,12 @@ Value MaskedService::masked(const Value& value, Identity identity)
     return {};
 }
 
+/// What nobody has looked at may tell anything: only its numbers and truths are shown.
+Value MaskedService::masked_unknown(const Value& value)
+{
+    return value.is_text() || value.items() ? masked(value, Identity::Value) : value;
+}
+
 ResultSet MaskedService::ExecQuery(std::string_view wql)
 {
     const ResultSet answers = service_->ExecQuery(wql);
@@ -91,8 +102,11 @@ ResultSet MaskedService::ExecQuery(std::string_view wql)
     ResultSet result;
     for (const Instance& instance : answers) {
         std::vector<Instance::Property> taken;
-        for (const auto& [name, value] : instance.properties())
-            taken.emplace_back(name, masked(value, find_named(properties, name)->identity));
+        for (const auto& [name, value] : instance.properties()) {
+            const PropertySchema* known = find_named(properties, name);
+            taken.emplace_back(name,
+                               known ? masked(value, known->identity) : masked_unknown(value));
+        }
         result.emplace_back(std::move(taken));
     }
     return result;

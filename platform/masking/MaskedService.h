@@ -11,8 +11,9 @@
 namespace ostrelum::inline masking {
 
 /// Passes queries on to another management service, and puts pseudonyms in place of what the schema
-/// marks as identifying somebody, also where other texts mention it. Conditions are tested on the
-/// true values. Null and empty text stay so.
+/// marks as identifying somebody, also where other texts mention it, and in place of texts and
+/// lists that the schema does not know. Conditions are tested on the true values. Null and empty
+/// text stay so.
 class MaskedService : public ManagementService {
 public:
     /// `own_account` gets the first pseudonym of all accounts. `known` is what is known of the
@@ -27,6 +28,7 @@ private:
     void learn(const ClassSchema& schema);
     void note(const Value& value, Identity identity);
     Value masked(const Value& value, Identity identity);
+    Value masked_unknown(const Value& value);
 
     std::unique_ptr<ManagementService> service_;
     KnownIdentities known_;

@@ -43,6 +43,12 @@ bool is_numbering(std::string_view text)
     return true;
 }
 
+/// "C:", as Windows calls every machine's first drive.
+bool is_drive_letter(std::string_view path)
+{
+    return path.size() == 2 && path[1] == ':';
+}
+
 } // namespace
 
 bool is_common_folder(std::string_view name)
@@ -84,7 +90,8 @@ std::string Pseudonyms::of(const std::string& name)
 std::string Pseudonyms::of_path(std::string_view path)
 {
     constexpr std::string_view devices = "/dev/";
-    if (path.starts_with(devices) && is_kernel_device(path.substr(devices.size())))
+    if (is_drive_letter(path) ||
+        (path.starts_with(devices) && is_kernel_device(path.substr(devices.size()))))
         return std::string(path);
     std::string result;
     for (bool more = !path.empty(); more;) {

@@ -40,7 +40,8 @@ TEST(CapitalText, WorksOnCharacters)
 TEST(LetterCase, AgreesWithTheSystemsTablesOnAllItsAlphabets)
 {
     const std::string before = std::setlocale(LC_CTYPE, nullptr);
-    ASSERT_NE(std::setlocale(LC_CTYPE, "C.UTF-8"), nullptr);
+    if (!std::setlocale(LC_CTYPE, "C.UTF-8"))
+        GTEST_SKIP() << "the C library of this system has no tables of Unicode";
     const std::pair<char32_t, char32_t> alphabets[] = {
         {0, 0x3E1},       {0x3F0, 0x587},   {0x1C80, 0x1C88}, {0x1D79, 0x1D8E}, {0x1E00, 0x218F},
         {0x2C60, 0x2C7F}, {0xA640, 0xA7F6}, {0xAB53, 0xAB53}, {0xFF21, 0xFF5A}};
