@@ -1,6 +1,7 @@
 #include "console/windows/WindowsHost.h"
 
 #include "platform/masking/MaskedService.h"
+#include "platform/masking/MaskedShell.h"
 #include "platform/windows/WindowsSystem.h"
 #include "platform/windows/services/Shell.h"
 #include "platform/windows/services/WmiService.h"
@@ -75,7 +76,10 @@ public:
 
     std::unique_ptr<Shell> shell_over(std::unique_ptr<Shell> stored) override
     {
-        return std::make_unique<ShellOver>(make_shell("WScript.Shell"), std::move(stored));
+        auto shell = std::make_unique<ShellOver>(make_shell("WScript.Shell"), std::move(stored));
+        if (!options_.mask)
+            return shell;
+        return std::make_unique<MaskedShell>(std::move(shell), KnownIdentities());
     }
 
 private:

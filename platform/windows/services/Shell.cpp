@@ -39,18 +39,43 @@ void put(OwnedVariant& variant, std::uint32_t number)
     variant->lVal = static_cast<LONG>(number);
 }
 
-} // namespace
-
-RegValue WindowsShell::RegRead(const std::string& name)
+RegValue stored_value(IDispatch& shell, const std::string& name)
 {
     OwnedVariant key(name);
     OwnedVariant value;
-    invoke(*shell_.Get(), "RegRead", {*key}, value);
+    invoke(shell, "RegRead", {*key}, value);
     if (value->vt == VT_BSTR)
         return text_of(value->bstrVal);
     if (value->vt == VT_I4)
         return static_cast<std::uint32_t>(value->lVal);
     throw Failure("neither a text nor a number: " + name);
+}
+
+bool is_board_name(const std::string& name)
+{
+    return same_ascii_letters(name,
+                              "HKEY_CURRENT_USER\\Software\\Install\\Ostrelum\\Mainboard\\Full");
+}
+
+/// Maker and name of the main board as the system took them from the firmware at its start.
+std::string board_name(IDispatch& shell)
+{
+    const std::string firmware = "HKEY_LOCAL_MACHINE\\HARDWARE\\DESCRIPTION\\System\\BIOS\\";
+    const RegValue board = stored_value(shell, firmware + "BaseBoardProduct");
+    const RegValue maker = stored_value(shell, firmware + "BaseBoardManufacturer");
+    return std::get<std::string>(maker) + " " + std::get<std::string>(board);
+}
+
+} // namespace
+
+RegValue WindowsShell::RegRead(const std::string& name)
+try {
+    return stored_value(*shell_.Get(), name);
+} catch (const Failure&) {
+    // Few machines have the value that somebody may have written there.
+    if (!is_board_name(name))
+        throw;
+    return board_name(*shell_.Get());
 }
 
 void WindowsShell::RegWrite(const std::string& name, const RegValue& value, const std::string& type)

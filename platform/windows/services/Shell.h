@@ -12,6 +12,7 @@ class WindowsShell : public Shell {
 public:
     explicit WindowsShell(ComPtr<IDispatch> shell) : shell_(std::move(shell)) {}
 
+    /// The name of the main board is what the firmware says, where nobody has written another one.
     /// Throws Failure also for a value of another type than text and 32-bit number.
     RegValue RegRead(const std::string& name) override;
     void RegWrite(const std::string& name, const RegValue& value, const std::string& type) override;
