@@ -27,8 +27,9 @@ function(ostrelum_harden target)
     endif()
 endfunction()
 
-# Each processor and each compiler has some of them.
+# Each processor and each compiler has some of them. Clang takes one that it has no use for with a warning.
 function(ostrelum_flags_where_known target)
+    set(CMAKE_REQUIRED_FLAGS -Werror)
     foreach(flag ${ARGN})
         string(MAKE_C_IDENTIFIER "OSTRELUM_HAS${flag}" known)
         check_cxx_compiler_flag(${flag} ${known})

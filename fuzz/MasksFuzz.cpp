@@ -40,14 +40,24 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const std::string place : places)
         add_file(machine, place, text);
     add_file(machine, "/run/faillock/" + std::string(planted), text);
-    machine.answers["env"]["UserName=" + std::string(planted)] = "";
+    const std::string name(planted);
+    machine.answers = {{"env", {{"UserName=" + name, ""}, {"LANG=es_ES.UTF-8", ""}}},
+                       {"statvfs", {{"/home/" + name, "1 2 3 4"}}},
+                       {"passwd", {{name + ":x:1000:1000::/home/" + name + ":/bin/sh", ""}}},
+                       {"uname", {{"Linux " + name + " 6.1.0 x86_64 GNU/Linux", ""}}},
+                       {"btime", {{"/", "5"}}},
+                       {"zone", {{"5", "60"}}}};
     if (kernel_says_it(text))
         machine.places.erase("/proc/self/mountinfo");
     Pseudonyms given;
     const auto known = identities_in(machine, {std::string(planted)});
     require(known.hidden_in(planted, Writer::Person, given) == hidden_text);
     const Recording masked = masked_recording(machine, {std::string(planted)});
-    require(masked.answers.at("env").begin()->first == "UserName=(hidden)");
+    for (const auto& [list, answers] : masked.answers) {
+        for (const auto& [key, value] : answers)
+            require(key.find(planted) == std::string::npos);
+    }
+    require(masked.answers.size() == machine.answers.size());
     for (const auto& [path, place] : masked.places)
         require((path + place.content).find(planted) == std::string::npos);
     return 0;
