@@ -9,6 +9,10 @@ target_compile_options(ostrelum_rules INTERFACE
     -Wno-missing-field-initializers
     # GCC 12 finds overlaps in "literal" + string where there are none (GCC bug 105651).
     $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
+if(MINGW)
+    # No library of the compiler's has to lie beside a program.
+    target_link_options(ostrelum_rules INTERFACE -static)
+endif()
 if(OSTRELUM_SANITIZE)
     target_compile_options(ostrelum_rules INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)

@@ -95,11 +95,12 @@ need_packages() {
     rm -f "$log"
 }
 
-# build PRESET FOLDER [TARGET...]: configures where that has not been done, then builds what has changed.
+# build PRESET FOLDER [TARGET...]: configures where that has not been done as the preset is now, then builds what has
+# changed.
 build() {
     local preset=$1 folder=$2
     shift 2
-    { [ -f "$folder/build.ninja" ] || cmake --preset "$preset" >/dev/null; } && ninja -C "$folder" "$@" && return
+    { [ "$folder/build.ninja" -nt CMakePresets.json ] || cmake --preset "$preset" >/dev/null; } && ninja -C "$folder" "$@" && return
     full_disk . && fail "The build of $preset failed: the disk is full."
     [ -w . ] || fail "The build of $preset failed: this user may not write into $PWD."
     fail "The build of $preset failed."

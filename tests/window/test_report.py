@@ -3,7 +3,7 @@
 import time
 import unittest
 
-from desktop import Desktop, wait_for
+from desktop import CAPTION, Desktop, wait_for
 
 
 class ReportTest(unittest.TestCase):
@@ -17,6 +17,9 @@ class ReportTest(unittest.TestCase):
         return found[0]
 
     def type_path(self, desktop, path):
+        def focused():
+            return desktop.call("xdotool", "getwindowfocus", "getwindowname").strip()
+        self.assertTrue(wait_for(lambda: focused() not in ("", CAPTION)), "no dialog for saving came up")
         time.sleep(1)
         desktop.call("xdotool", "key", "ctrl+a")
         desktop.call("xdotool", "type", str(path))

@@ -88,6 +88,12 @@ class ConsoleTest(unittest.TestCase):
                     self.assertIsInstance(value, kinds[kind], f"{name}.{own}")
                     self.assertFalse(isinstance(value, int) and value < 0, f"{name}.{own}")
 
+    def test_nothing_has_to_lie_beside_the_program(self):
+        headers = subprocess.run(["x86_64-w64-mingw32-objdump", "-p", CONSOLE], capture_output=True, check=True, text=True)
+        imported = {name.lower() for name in re.findall(r"DLL Name: (\S+)\.dll", headers.stdout)}
+        self.assertIn("kernel32", imported)
+        self.assertLessEqual(imported, {"advapi32", "kernel32", "msvcrt", "ole32", "oleaut32", "shell32", "user32"})
+
     def test_pages_in_three_languages(self):
         processor = self.answers["Win32_Processor"][0]["Name"].strip()
         for language, (title, unknown) in LANGUAGES.items():
