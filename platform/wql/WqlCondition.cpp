@@ -20,11 +20,14 @@ Value typed_literal(const Value& literal, CimType type)
     }
 }
 
+/// By their bytes, so that characters beyond ASCII come behind it: whether a char has a sign
+/// differs between processors.
 std::partial_ordering compare_texts(std::string_view a, std::string_view b)
 {
+    const auto rank = [](char c) { return static_cast<unsigned char>(lower_ascii(c)); };
     return std::lexicographical_compare_three_way(
         a.begin(), a.end(), b.begin(), b.end(),
-        [](char x, char y) { return lower_ascii(x) <=> lower_ascii(y); });
+        [&](char x, char y) { return rank(x) <=> rank(y); });
 }
 
 std::partial_ordering compare_values(const Value& value, const Value& literal)
