@@ -15,17 +15,16 @@ using namespace console;
 
 namespace {
 
-Options machine_options()
+/// Asked anew each time, as the window asks.
+std::unique_ptr<HostedMachine> opened_machine()
 {
-    Options options;
-    if (const char* root = std::getenv("OSTRELUM_BENCH_ROOT"))
-        options.sysroot = root;
-    return options;
+    const char* root = std::getenv("OSTRELUM_BENCH_ROOT");
+    return machine_with(linux_platform::Sysroot(root ? root : "/"), {});
 }
 
 void OpenMachinePage(benchmark::State& state)
 {
-    const auto machine = LinuxHost().open(machine_options());
+    const auto machine = opened_machine();
     ConsoleProgram program(*machine, "English");
     const int section = static_cast<int>(state.range(0));
     // From another page each time: a page may keep what it has while it stays open.
@@ -39,7 +38,7 @@ BENCHMARK(OpenMachinePage)->DenseRange(1, 13)->Unit(benchmark::kMicrosecond);
 /// One tick of the live refresh, on the pages that have it.
 void RefreshMachinePage(benchmark::State& state)
 {
-    const auto machine = LinuxHost().open(machine_options());
+    const auto machine = opened_machine();
     ConsoleProgram program(*machine, "English");
     LMenu_MouseDown(static_cast<int>(state.range(0)), left_button, 0, 0, 0);
     for (auto _ : state)
@@ -49,7 +48,7 @@ BENCHMARK(RefreshMachinePage)->Arg(2)->Arg(4)->Arg(6)->Arg(13)->Unit(benchmark::
 
 void CollectMachineReport(benchmark::State& state)
 {
-    const auto machine = LinuxHost().open(machine_options());
+    const auto machine = opened_machine();
     ConsoleProgram program(*machine, "English");
     for (auto _ : state)
         benchmark::DoNotOptimize(program.report("text").size());

@@ -99,7 +99,8 @@ std::unique_ptr<HostedMachine> machine_with(const Sysroot& files, const Options&
 
 std::unique_ptr<HostedMachine> LinuxHost::open(const Options& options)
 {
-    return machine_with(Sysroot(options.sysroot.value_or("/")), options);
+    // Nothing shows a figure twice, so none can be seen to change.
+    return machine_with(Sysroot(options.sysroot.value_or("/")).at_one_moment(), options);
 }
 
 void LinuxHost::record(const Options& options, const std::string& folder)

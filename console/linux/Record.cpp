@@ -64,7 +64,7 @@ void record_machine(const Options& options, const std::string& folder)
 {
     check_unused(folder);
     check_room(options.sysroot.value_or("/"));
-    const Sysroot files(options.sysroot.value_or("/"));
+    const Sysroot files = Sysroot(options.sysroot.value_or("/")).at_one_moment();
     const auto recorder = std::make_shared<Recorder>(files);
     // What is hidden is so in the recording: the machine itself is asked as it is.
     Options open = options;

@@ -91,7 +91,7 @@ TEST(LivePages, StandOpenForHoursWithoutGrowing)
     GTEST_SKIP() << "the sanitizer keeps what was given back";
 #endif
     const auto machine =
-        LinuxHost().open({.sysroot = OSTRELUM_TESTS_DIR "/machines/notebook", .user = "alma"});
+        machine_with(Sysroot(OSTRELUM_TESTS_DIR "/machines/notebook"), {.user = "alma"});
     ConsoleProgram program(*machine, "English");
     const auto round = [&](int ticks) {
         for (const int page : live_pages) {

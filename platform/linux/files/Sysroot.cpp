@@ -58,6 +58,16 @@ Sysroot::Sysroot(const Sysroot& machine, std::shared_ptr<AccessObserver> observe
     : Sysroot(machine)
 {
     observer_ = std::move(observer);
+    // It has yet to see what others have asked for.
+    if (seen_)
+        seen_ = std::make_shared<SeenFiles>();
+}
+
+Sysroot Sysroot::at_one_moment() const
+{
+    Sysroot machine(*this);
+    machine.seen_ = std::make_shared<SeenFiles>();
+    return machine;
 }
 
 std::optional<Sysroot> Sysroot::find(const std::string& path)
@@ -82,20 +92,39 @@ Descriptor Sysroot::find_place(const std::string& path, LastLink last) const
     return checked(resolver_(root_->number(), path, last));
 }
 
+template <class Answer, class Ask>
+Answer Sysroot::once(SeenFiles::Kept<Answer> SeenFiles::*kind, const std::string& path,
+                     Ask ask) const
+{
+    if (const Answer* answer = seen_ ? ((*seen_).*kind).find(path) : nullptr)
+        return *answer;
+    Answer answer = ask();
+    if (seen_)
+        seen_->keep((*seen_).*kind, path, answer);
+    return answer;
+}
+
 bool Sysroot::exists(const std::string& path) const
 {
-    if (observer_)
-        observer_->on_exists(path);
-    return static_cast<bool>(find_place(path, LastLink::Follow));
+    return once(&SeenFiles::places, path, [&] {
+        if (observer_)
+            observer_->on_exists(path);
+        return static_cast<bool>(find_place(path, LastLink::Follow));
+    });
 }
 
 std::optional<std::string> Sysroot::read(const std::string& path, std::size_t limit) const
 {
+    if (const auto* seen = seen_ ? seen_->contents.find(path) : nullptr)
+        return *seen && (*seen)->size() > limit ? std::nullopt : *seen;
     std::optional<Descriptor> file;
     if (live_ && is_kernel_path(path))
         file = open_kernel_file(root_->number(), path);
     file = file ? checked(std::move(*file)) : open(path);
     auto content = *file ? read_to_end(*file, limit) : std::nullopt;
+    // What is too long for this question may not be so for the next.
+    if (seen_ && (content || !*file))
+        seen_->keep(seen_->contents, path, content);
     if (observer_)
         observer_->on_read(path, content);
     return content;
@@ -137,6 +166,11 @@ std::optional<std::uint64_t> Sysroot::number(const std::string& path) const
 
 std::vector<std::string> Sysroot::list(const std::string& path) const
 {
+    return once(&SeenFiles::folders, path, [&] { return list_anew(path); });
+}
+
+std::vector<std::string> Sysroot::list_anew(const std::string& path) const
+{
     const Descriptor place = find_place(path, LastLink::Follow);
     Descriptor opened;
     if (place)
@@ -158,10 +192,12 @@ std::vector<std::string> Sysroot::list(const std::string& path) const
 
 std::optional<std::string> Sysroot::link(const std::string& path) const
 {
-    if (observer_)
-        observer_->on_link(path);
-    const Descriptor place = find_place(path, LastLink::Keep);
-    return place ? link_text(place) : std::nullopt;
+    return once(&SeenFiles::links, path, [&] {
+        if (observer_)
+            observer_->on_link(path);
+        const Descriptor place = find_place(path, LastLink::Keep);
+        return place ? link_text(place) : std::nullopt;
+    });
 }
 
 void Sysroot::report_answer(const std::string& list, const std::string& key,

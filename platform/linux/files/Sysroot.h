@@ -3,6 +3,7 @@
 #include "platform/linux/files/AccessObserver.h"
 #include "platform/linux/files/Descriptor.h"
 #include "platform/linux/files/Resolve.h"
+#include "platform/linux/files/SeenFiles.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -28,6 +29,10 @@ public:
 
     /// The same machine; the observer is called for each access from here on.
     Sysroot(const Sysroot& machine, std::shared_ptr<AccessObserver> observer);
+
+    /// The same machine at one moment: what it and its copies are asked again they answer as they
+    /// did the first time, and their observer is not called again.
+    Sysroot at_one_moment() const;
 
     /// The root of that path; nothing if it is no folder.
     static std::optional<Sysroot> find(const std::string& path);
@@ -73,6 +78,9 @@ public:
     const std::shared_ptr<AccessObserver>& observer() const { return observer_; }
 
 private:
+    template <class Answer, class Ask>
+    Answer once(SeenFiles::Kept<Answer> SeenFiles::*kind, const std::string& path, Ask ask) const;
+    std::vector<std::string> list_anew(const std::string& path) const;
     Descriptor find_place(const std::string& path, LastLink last) const;
     Descriptor checked(Descriptor file) const;
 
@@ -84,6 +92,8 @@ private:
     bool live_ = false;
     std::shared_ptr<int> shortage_ = std::make_shared<int>(0);
     std::shared_ptr<AccessObserver> observer_;
+    /// None if each question is asked anew.
+    std::shared_ptr<SeenFiles> seen_;
 };
 
 } // namespace ostrelum::linux_platform

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <thread>
+#include <tuple>
 
 namespace ostrelum::linux_platform {
 namespace {
@@ -99,6 +100,25 @@ TEST(Sysroot, ReadsToTheEndUpToALimit)
     EXPECT_EQ(root.read("/long"), content);
     EXPECT_EQ(root.read("/long", 100'000), content);
     EXPECT_EQ(root.read("/long", 99'999), Text());
+}
+
+TEST(Sysroot, AnswersAsAtOneMoment)
+{
+    const TemporaryFolder folder;
+    folder.file("value", "old");
+    std::filesystem::create_symlink("value", folder / "link");
+    const Sysroot machine = Sysroot(folder / "").at_one_moment();
+    const auto answers = [](const Sysroot& root) {
+        return std::tuple(root.read("/value", 2), root.read("/value"), root.link("/link"),
+                          root.exists("/new"), root.read("/new"), root.list("/"));
+    };
+    const auto then = answers(machine);
+    folder.file("value", "changed");
+    folder.file("new");
+    std::filesystem::remove(folder / "link");
+    EXPECT_EQ(answers(machine), then);
+    EXPECT_EQ(answers(Sysroot(machine, nullptr)),
+              std::tuple(Text(), "changed", Text(), true, "", std::vector{"new"s, "value"s}));
 }
 
 TEST(Sysroot, GivesOneLine)
