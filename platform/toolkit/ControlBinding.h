@@ -18,6 +18,8 @@ public:
 
     /// Shows what the control says.
     virtual void sync() = 0;
+    /// The next sync() shows all of it anew, as on another screen.
+    virtual void forget() = 0;
     /// The window closes: nothing may raise an event by itself any more, as a timer does.
     virtual void stop() {}
 };
@@ -38,6 +40,7 @@ public:
         apply();
         shown_ = control_;
     }
+    void forget() final { shown_.reset(); }
 
 protected:
     /// Shows each field that differs: see changed().
