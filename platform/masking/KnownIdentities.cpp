@@ -121,7 +121,10 @@ std::size_t KnownIdentities::length_at(std::string_view lower, std::size_t at, W
             continue;
         ++words;
         const std::string_view candidate = rest.substr(0, end);
-        if (all_.contains(candidate) && (writer == Writer::Person || is_unmistakable(candidate)))
+        const auto next = all_.lower_bound(candidate);
+        if (next == all_.end() || !next->starts_with(candidate))
+            break;
+        if (*next == candidate && (writer == Writer::Person || is_unmistakable(candidate)))
             length = end;
     }
     return length;

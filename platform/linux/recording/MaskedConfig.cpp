@@ -114,10 +114,11 @@ std::string masked_workgroup(const std::string& content, MachinePseudonyms& give
 /// A time that is none stays so: it counts for more than that of a file before.
 std::string masked_boot_menu(const std::string& content, MachinePseudonyms&)
 {
+    const std::string none = "GRUB_TIMEOUT=-1\n";
     const auto seconds = assigned(content, "GRUB_TIMEOUT");
     if (!seconds)
-        return "";
-    return "GRUB_TIMEOUT=" + (whole_number(*seconds) ? *seconds : "-1") + "\n";
+        return assigned(none + content, "GRUB_TIMEOUT") ? "" : none;
+    return whole_number(*seconds) ? "GRUB_TIMEOUT=" + *seconds + "\n" : none;
 }
 
 std::string masked_locale(const std::string& content, MachinePseudonyms&)

@@ -7,8 +7,9 @@ namespace ostrelum::linux_platform {
 void Recorder::keep(const std::string& place, PlaceKind kind, const std::string& content,
                     const std::string& asked)
 {
-    // The root itself, to which links may lead: it is there anyway.
-    if (place.empty())
+    // The root itself, to which links may lead, is there anyway. What was answered has its own
+    // place in a recording, where a recorded machine has the answers that it was made of.
+    if (place.empty() || place == "/.facts" || place.starts_with("/.facts/"))
         return;
     const auto [known, is_new] = recording_.places.try_emplace(place, Place{kind, content, asked});
     if (!is_new && known->second.kind < kind)

@@ -50,6 +50,8 @@ TEST(Masked, LeavesOfEachTextWhatIdentifiesNobody)
         {masked_groups, "larch:x:9:alma\nsudo:$6$hash:27:owl, alma\nwheel\nadmin:x:owl:\n",
          "sudo:x:27:(hidden)\nwheel:x::\nadmin:x::\n"},
         {masked_boot_menu, "GRUB_TIMEOUT=alma\n", "GRUB_TIMEOUT=-1\n"},
+        {masked_boot_menu, "GRUB_TIMEOUT=5\nGRUB_TIMEOUT='\x01'\n", "GRUB_TIMEOUT=-1\n"},
+        {masked_boot_menu, "GRUB_TIMEOUT_STYLE=5\n", ""},
         {masked_locale, "# alma\nLANG=sr_RS.alma@latin\n", "LANG=sr_RS@latin\n"},
         {masked_locale, "LANG=C.UTF-8\n", "LANG=C\n"},
         {masked_locale, "LANG=alma\n", "LANG=(hidden)\n"},

@@ -13,6 +13,7 @@ TEST(Recorder, KeepsLinksAsLinks)
     folder.file("machine/devices/bus/disk/model", "SSD\n");
     folder.file("machine/devices/bus/maker", "ACME\n");
     folder.file("machine/unread", "secret");
+    folder.file("machine/.facts/id", "uid=1000 of the machine");
     std::filesystem::create_symlink("/", folder / "machine/root");
     std::filesystem::create_symlink("..", folder / "machine/devices/root");
     std::filesystem::create_directory(folder / "machine/class");
@@ -28,6 +29,9 @@ TEST(Recorder, KeepsLinksAsLinks)
         EXPECT_TRUE(machine.exists(root));
     }
     EXPECT_EQ(machine.list("/root/class").size(), 2U);
+    // The answers of the recording stand where others stand on a recorded machine.
+    EXPECT_EQ(machine.list("/root").size(), 5U);
+    machine.report_answer("id", "uid=0", "");
     write_recording(recorder->recording(), folder / "recording");
     const Sysroot recording(folder / "recording");
     EXPECT_EQ(recording.link("/class/sda"), "../devices/bus/disk");
@@ -36,7 +40,8 @@ TEST(Recorder, KeepsLinksAsLinks)
     EXPECT_TRUE(recording.exists("/class/out"));
     EXPECT_EQ(recording.link("/root"), "/");
     EXPECT_EQ(recording.link("/devices/root"), "..");
-    EXPECT_FALSE(recording.exists("/unread"));
+    EXPECT_EQ(recording.text("/unread"), std::nullopt);
+    EXPECT_EQ(recording.read("/.facts/id"), "uid=0\n");
 }
 
 } // namespace
