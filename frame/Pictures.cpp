@@ -27,10 +27,10 @@ Picture art_picture(std::string_view name)
     if (found != read.end())
         return found->second;
     const std::string file(name);
-    Bitmap bitmap = art_bitmap(file);
-    Picture picture = bitmap.width == 0
-                          ? Picture()
-                          : Picture(std::move(bitmap), [file] { return art_bitmap(file + "@2x"); });
+    Picture picture;
+    if (art_pixels(file).width != 0)
+        picture = Picture([file] { return art_bitmap(file); },
+                          [file] { return art_bitmap(file + "@2x"); });
     read.emplace(name, picture);
     return picture;
 }

@@ -38,10 +38,9 @@ void Tint(PictureBox& pic)
     if (pic.Stored.empty())
         return;
     const TintColour colour{.red = BaseR, .green = BaseG, .blue = BaseB, .shine = Shine};
-    pic.Surface =
-        pic.Stored.redrawn(tinted(pic.Stored.bitmap(), colour), [stored = pic.Stored, colour] {
-            return tinted(stored.doubled(), colour);
-        });
+    const Picture stored = pic.Stored;
+    pic.Surface = stored.redrawn([=] { return tinted(stored.bitmap(), colour); },
+                                 [=] { return tinted(stored.doubled(), colour); });
 }
 
 void tint_skin()

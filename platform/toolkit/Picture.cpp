@@ -13,31 +13,52 @@ std::uint64_t next_number()
 
 } // namespace
 
-Picture::Picture(Bitmap bitmap, Maker at_double)
-    : id_(next_number()), version_(id_),
-      content_(std::make_shared<Content>(Content{std::move(bitmap), std::move(at_double), {}}))
+Picture::Picture(Content content)
+    : id_(next_number()), version_(id_), content_(std::make_shared<Content>(std::move(content)))
 {
+}
+
+Picture::Picture(Bitmap bitmap, Maker at_double)
+    : Picture(Content{{std::move(bitmap), nullptr}, {{}, std::move(at_double)}})
+{
+}
+
+Picture::Picture(Maker pixels, Maker at_double)
+    : Picture(Content{{{}, std::move(pixels)}, {{}, std::move(at_double)}})
+{
+}
+
+const Bitmap& Picture::Drawing::pixels()
+{
+    if (const Maker maker = std::exchange(make, nullptr))
+        made = maker();
+    return made;
 }
 
 const Bitmap& Picture::bitmap() const
 {
     static const Bitmap none;
-    return content_ ? content_->pixels : none;
+    return content_ ? content_->plain.pixels() : none;
 }
 
 const Bitmap& Picture::doubled() const
 {
     static const Bitmap none;
-    if (!content_)
-        return none;
-    if (const Maker make = std::exchange(content_->at_double, nullptr))
-        content_->doubled = make();
-    return content_->doubled;
+    return content_ ? content_->doubled.pixels() : none;
 }
 
 Picture Picture::redrawn(Bitmap bitmap, Maker at_double) const
 {
-    Picture drawn(std::move(bitmap), std::move(at_double));
+    return of_this_origin(Picture(std::move(bitmap), std::move(at_double)));
+}
+
+Picture Picture::redrawn(Maker pixels, Maker at_double) const
+{
+    return of_this_origin(Picture(std::move(pixels), std::move(at_double)));
+}
+
+Picture Picture::of_this_origin(Picture drawn) const
+{
     drawn.id_ = id_;
     return drawn;
 }

@@ -40,7 +40,7 @@ struct Bitmap {
 /// pixels are never compared.
 class Picture {
 public:
-    /// Makes the pixels of the picture drawn at double size.
+    /// Makes pixels of the picture.
     using Maker = std::function<Bitmap()>;
 
     /// No picture.
@@ -48,6 +48,8 @@ public:
     /// `at_double` gives twice the width and twice the height, for screens with a scale factor
     /// above 1; without it there is no such variant.
     explicit Picture(Bitmap bitmap, Maker at_double = nullptr);
+    /// One whose own pixels are made when they are first asked for, too.
+    Picture(Maker pixels, Maker at_double);
 
     bool empty() const { return content_ == nullptr; }
     /// The pixels; an empty bitmap for no picture.
@@ -57,6 +59,7 @@ public:
     const Bitmap& doubled() const;
     /// A new picture of the same origin, drawn anew.
     Picture redrawn(Bitmap bitmap, Maker at_double = nullptr) const;
+    Picture redrawn(Maker pixels, Maker at_double) const;
     /// Number of the origin, the same for all drawings that come from it; 0 for no picture.
     std::uint64_t id() const { return id_; }
     /// Number of the drawing, different for each one of the process.
@@ -68,12 +71,18 @@ public:
     }
 
 private:
-    struct Content {
-        Bitmap pixels;
-        /// Empty once it has made `doubled`.
-        Maker at_double;
-        Bitmap doubled;
+    /// Pixels, and what has yet to make them.
+    struct Drawing {
+        const Bitmap& pixels();
+
+        Bitmap made;
+        Maker make;
     };
+    struct Content {
+        Drawing plain, doubled;
+    };
+    explicit Picture(Content content);
+    Picture of_this_origin(Picture drawn) const;
 
     std::uint64_t id_ = 0;
     std::uint64_t version_ = 0;
