@@ -32,7 +32,8 @@ std::optional<LRESULT> FormWindow::answer(int control, const Message& message)
                                         : look_.cursors.screen));
         return TRUE;
     case WM_CAPTURECHANGED:
-        if (!releasing_)
+        // It comes, too, when the window that has the mouse takes it once more.
+        if (!releasing_ && reinterpret_cast<HWND>(message.second) != window(control))
             mouse_.let_go();
         return std::nullopt;
     // The wheel changes a control that has the focus alone: the mouse may only rest over it.

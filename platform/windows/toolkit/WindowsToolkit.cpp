@@ -165,11 +165,10 @@ void WindowsToolkit::popup(Form& form, PopupMenu& menu, std::optional<Point> at,
 void WindowsToolkit::set_screen_cursor(MouseCursor cursor)
 {
     cursors_.screen = cursor;
-    // The system asks only when the mouse moves.
-    if (cursor != MouseCursor::Default) {
-        SetCursor(cursors_.get(cursor));
+    SetCursor(cursors_.get(cursor));
+    if (cursor != MouseCursor::Default)
         return;
-    }
+    // The system asks for a control's own only when the mouse moves.
     POINT mouse{};
     GetCursorPos(&mouse);
     const HWND under = WindowFromPoint(mouse);
