@@ -1,7 +1,7 @@
 # Sourced by ./run and ./test: which Debian packages a job needs, and installing those that are missing.
 
 # What building and starting the program takes; docs/dependencies.md says why.
-run_packages="g++ cmake ninja-build pkg-config python3 python3-pil qt6-base-dev libxcb-xinput-dev libsystemd-dev nlohmann-json3-dev fonts-liberation"
+run_packages="g++ cmake ninja-build pkg-config python3 python3-pil qt6-base-dev libxcb-xinput-dev libsystemd-dev libudev-dev nlohmann-json3-dev fonts-liberation"
 # What testing takes besides.
 test_packages="libgtest-dev libgmock-dev clang-format librsvg2-bin xvfb openbox picom hsetroot xdotool imagemagick
     x11-utils xclip at-spi2-core gir1.2-atspi-2.0 python3-gi libglib2.0-bin dbus strace"

@@ -1,9 +1,10 @@
 #include "platform/linux/accounts/AccountsService.h"
 
+#include "platform/linux/accounts/BusLibrary.h"
+
 #include <chrono>
 #include <memory>
 #include <string>
-#include <systemd/sd-bus.h>
 #include <unistd.h>
 
 namespace ostrelum::linux_platform {
@@ -14,8 +15,8 @@ constexpr const char* service_name = "org.freedesktop.Accounts";
 constexpr const char* user_interface = "org.freedesktop.Accounts.User";
 
 struct Release {
-    void operator()(sd_bus* bus) const { sd_bus_close_unref(bus); }
-    void operator()(sd_bus_message* message) const { sd_bus_message_unref(message); }
+    void operator()(sd_bus* bus) const { bus_library()->close_unref(bus); }
+    void operator()(sd_bus_message* message) const { bus_library()->message_unref(message); }
 };
 using Bus = std::unique_ptr<sd_bus, Release>;
 using Message = std::unique_ptr<sd_bus_message, Release>;
@@ -39,12 +40,12 @@ private:
 /// Completes the handshake with the bus. A call would do it too, but waits 25 seconds for that.
 bool becomes_ready(sd_bus* bus, const Deadline& deadline)
 {
-    while (sd_bus_is_ready(bus) <= 0) {
-        const int done = sd_bus_process(bus, nullptr);
+    while (bus_library()->is_ready(bus) <= 0) {
+        const int done = bus_library()->process(bus, nullptr);
         if (done < 0)
             return false;
         const std::uint64_t left = deadline.left();
-        if (left == 0 || (done == 0 && sd_bus_wait(bus, left) < 0))
+        if (left == 0 || (done == 0 && bus_library()->wait(bus, left) < 0))
             return false;
     }
     return true;
@@ -56,17 +57,18 @@ public:
     explicit UserObject(std::uint64_t uid)
     {
         sd_bus* bus = nullptr;
-        if (access(bus_socket, F_OK) != 0 || sd_bus_open_system(&bus) < 0)
+        if (access(bus_socket, F_OK) != 0 || !bus_library() || bus_library()->open_system(&bus) < 0)
             return;
         bus_.reset(bus);
         if (!becomes_ready(bus, deadline_) || !limit_call())
             return;
         sd_bus_message* raw = nullptr;
-        sd_bus_call_method(bus, service_name, "/org/freedesktop/Accounts", service_name,
-                           "FindUserById", nullptr, &raw, "x", static_cast<std::int64_t>(uid));
+        bus_library()->call_method(bus, service_name, "/org/freedesktop/Accounts", service_name,
+                                   "FindUserById", nullptr, &raw, "x",
+                                   static_cast<std::int64_t>(uid));
         const Message answer(raw);
         const char* path = nullptr;
-        if (answer && sd_bus_message_read(answer.get(), "o", &path) > 0)
+        if (answer && bus_library()->message_read(answer.get(), "o", &path) > 0)
             path_ = path;
     }
 
@@ -75,8 +77,8 @@ public:
     {
         sd_bus_message* raw = nullptr;
         if (!path_.empty() && limit_call())
-            sd_bus_call_method(bus_.get(), service_name, path_.c_str(), user_interface, method,
-                               nullptr, &raw, "");
+            bus_library()->call_method(bus_.get(), service_name, path_.c_str(), user_interface,
+                                       method, nullptr, &raw, "");
         return Message(raw);
     }
 
@@ -84,8 +86,9 @@ public:
     {
         std::int64_t number = 0;
         if (path_.empty() || !limit_call() ||
-            sd_bus_get_property_trivial(bus_.get(), service_name, path_.c_str(), user_interface,
-                                        property, nullptr, 'x', &number) < 0)
+            bus_library()->get_property_trivial(bus_.get(), service_name, path_.c_str(),
+                                                user_interface, property, nullptr, 'x',
+                                                &number) < 0)
             return std::nullopt;
         return number;
     }
@@ -95,7 +98,7 @@ private:
     bool limit_call() const
     {
         const std::uint64_t left = deadline_.left();
-        return left != 0 && sd_bus_set_method_call_timeout(bus_.get(), left) >= 0;
+        return left != 0 && bus_library()->set_method_call_timeout(bus_.get(), left) >= 0;
     }
 
     Deadline deadline_;
@@ -124,8 +127,8 @@ std::optional<PasswordPolicy> password_policy(std::uint64_t uid)
 {
     const Message answer = UserObject(uid).call("GetPasswordExpirationPolicy");
     std::int64_t expiry = 0, last_change = 0, shortest = 0, longest = 0, warning = 0, inactive = 0;
-    if (!answer || sd_bus_message_read(answer.get(), "xxxxxx", &expiry, &last_change, &shortest,
-                                       &longest, &warning, &inactive) <= 0)
+    if (!answer || bus_library()->message_read(answer.get(), "xxxxxx", &expiry, &last_change,
+                                               &shortest, &longest, &warning, &inactive) <= 0)
         return std::nullopt;
     return policy_of_ages(last_change, shortest, longest, today());
 }

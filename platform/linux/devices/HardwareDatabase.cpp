@@ -1,24 +1,20 @@
 #include "platform/linux/devices/HardwareDatabase.h"
 
 namespace ostrelum::linux_platform {
-namespace {
 
-sd_hwdb* opened()
+HardwareDatabase::HardwareDatabase()
+    : udev_(udev_new(), udev_unref),
+      database_(udev_ ? udev_hwdb_new(udev_.get()) : nullptr, udev_hwdb_unref)
 {
-    sd_hwdb* database = nullptr;
-    return sd_hwdb_new(&database) >= 0 ? database : nullptr;
 }
-
-} // namespace
-
-HardwareDatabase::HardwareDatabase() : database_(opened(), sd_hwdb_unref) {}
 
 std::optional<std::string> HardwareDatabase::text(const std::string& alias, const char* key) const
 {
-    const char* value = nullptr;
-    if (!database_ || sd_hwdb_get(database_.get(), alias.c_str(), key, &value) < 0)
+    if (!database_)
         return std::nullopt;
-    return value;
+    udev_list_entry* all = udev_hwdb_get_properties_list_entry(database_.get(), alias.c_str(), 0);
+    const char* value = udev_list_entry_get_value(udev_list_entry_get_by_name(all, key));
+    return value ? std::optional<std::string>(value) : std::nullopt;
 }
 
 } // namespace ostrelum::linux_platform

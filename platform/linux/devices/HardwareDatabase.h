@@ -1,9 +1,9 @@
 #pragma once
 
+#include <libudev.h>
 #include <memory>
 #include <optional>
 #include <string>
-#include <systemd/sd-hwdb.h>
 
 namespace ostrelum::linux_platform {
 
@@ -17,7 +17,8 @@ public:
     std::optional<std::string> text(const std::string& alias, const char* key) const;
 
 private:
-    std::unique_ptr<sd_hwdb, sd_hwdb* (*)(sd_hwdb*)> database_;
+    std::unique_ptr<udev, udev* (*)(udev*)> udev_;
+    std::unique_ptr<udev_hwdb, udev_hwdb* (*)(udev_hwdb*)> database_;
 };
 
 } // namespace ostrelum::linux_platform

@@ -1,7 +1,6 @@
 #include "platform/linux/devices/NvidiaMemory.h"
 
-#include <dlfcn.h>
-#include <memory>
+#include "platform/linux/files/SharedLibrary.h"
 
 namespace ostrelum::linux_platform {
 namespace {
@@ -13,26 +12,16 @@ struct Memory {
 };
 constexpr int success = 0;
 
-using Library = std::unique_ptr<void, int (*)(void*)>;
-
-template <class Function>
-Function* function(const Library& library, const char* name)
-{
-    return reinterpret_cast<Function*>(::dlsym(library.get(), name));
-}
-
 } // namespace
 
 std::optional<std::uint64_t> nvidia_memory(const std::string& slot)
 {
-    const Library library(::dlopen("libnvidia-ml.so.1", RTLD_NOW | RTLD_LOCAL), ::dlclose);
-    if (!library)
-        return std::nullopt;
-    const auto start = function<int()>(library, "nvmlInit_v2");
+    const SharedLibrary library("libnvidia-ml.so.1");
+    const auto start = library.function<int()>("nvmlInit_v2");
     const auto find =
-        function<int(const char*, Device*)>(library, "nvmlDeviceGetHandleByPciBusId_v2");
-    const auto memory_of = function<int(Device, Memory*)>(library, "nvmlDeviceGetMemoryInfo");
-    const auto end = function<int()>(library, "nvmlShutdown");
+        library.function<int(const char*, Device*)>("nvmlDeviceGetHandleByPciBusId_v2");
+    const auto memory_of = library.function<int(Device, Memory*)>("nvmlDeviceGetMemoryInfo");
+    const auto end = library.function<int()>("nvmlShutdown");
     if (!start || !find || !memory_of || !end || start() != success)
         return std::nullopt;
     Device device = nullptr;
