@@ -7,6 +7,8 @@
 #include "frame/SettingRows.h"
 #include "report/Report.h"
 
+#include <utility>
+
 namespace ostrelum::console {
 
 using namespace memory_platform;
@@ -29,7 +31,7 @@ ConsoleProgram::ConsoleProgram(HostedMachine& machine, const std::string& langua
     platform.create_object = [&](const std::string&) {
         return machine.shell_over(std::make_unique<MemoryShell>(store_));
     };
-    load_program();
+    load_without_page();
 }
 
 ConsoleProgram::~ConsoleProgram()
@@ -38,9 +40,31 @@ ConsoleProgram::~ConsoleProgram()
     platform = {};
 }
 
+/// Opens a page as the first one. False if it leaves a row as the page before did, which is then
+/// seen on it.
+bool ConsoleProgram::open_alone(int section)
+{
+    const std::string left("\x7F");
+    for (int row = 1; row <= F1.LT.count; ++row)
+        F1.LT(row).Caption = F1.L(row).Caption = left;
+    LMenu_MouseDown(section, left_button, 0, 0, 0);
+    for (int row = 1; row <= F1.LT.count; ++row) {
+        if (F1.LT(row).Caption == left || F1.L(row).Caption == left)
+            return false;
+    }
+    return true;
+}
+
 std::string ConsoleProgram::page(int section)
 {
-    LMenu_MouseDown(section, left_button, 0, 0, 0);
+    bool is_open = false;
+    if (std::exchange(is_fresh_, false)) {
+        is_open = open_alone(section);
+        if (!is_open)
+            load_program();
+    }
+    if (!is_open)
+        LMenu_MouseDown(section, left_button, 0, 0, 0);
     F1.raise("CopyAll", {.kind = EventKind::Click});
     return with_lf(clipboard_.text.value_or(""));
 }

@@ -34,6 +34,10 @@ public:
     void save(const std::string& path, const std::string& document);
 
 private:
+    bool open_alone(int section);
+
+    /// No page has been open.
+    bool is_fresh_ = true;
     memory_platform::MemoryToolkit toolkit_;
     memory_platform::MemoryClipboard clipboard_;
     memory_platform::MemorySaveDialog save_dialog_;

@@ -73,7 +73,7 @@ void start_fade_in()
     F1.TLoad.Enabled = true;
 }
 
-void Form_Load()
+void prepare_form()
 {
     attempt([] { WmiService = platform.get_object("WINMGMTS:\\\\.\\root\\cimv2"); });
     attempt([] { ShellObject = platform.create_object("WScript.Shell"); });
@@ -88,6 +88,11 @@ void Form_Load()
     colour_the_skin();
     F1.Ico.store(F6->Sec1.Stored);
     TraduPrincipal();
+}
+
+void Form_Load()
+{
+    prepare_form();
     LMenu_MouseDown(1, left_button, 0, 0, 0);
     if (TransEnabled)
         start_fade_in();
@@ -147,6 +152,12 @@ void load_program()
 {
     put_to_first_state();
     F1.raise("Form", {.kind = EventKind::Load});
+}
+
+void load_without_page()
+{
+    put_to_first_state();
+    prepare_form();
 }
 
 void start_program()
