@@ -78,8 +78,13 @@ struct Disk {
     {
         if (!mounted() || volume.network || volume.behind_network)
             return std::nullopt;
-        return machine.system_calls->space(volume.mount.target);
+        if (!known_space)
+            known_space = machine.system_calls->space(volume.mount.target);
+        return *known_space;
     }
+
+    /// Asked for once: size and free space speak of one moment.
+    mutable std::optional<std::optional<VolumeSpace>> known_space = std::nullopt;
 };
 
 Value caption(const Disk& disk)

@@ -103,7 +103,7 @@ Value large_system_cache(const System&)
 
 Value number_of_processes(const System& system)
 {
-    return value_of(process_count(system.root()));
+    return value_of(process_count(system.root(), system.machine().processes));
 }
 
 Value architecture(const System& system)

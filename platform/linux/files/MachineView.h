@@ -4,10 +4,12 @@
 #include "platform/linux/files/SystemCalls.h"
 #include "platform/system/Screens.h"
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace ostrelum::linux_platform {
 
@@ -19,6 +21,14 @@ struct IdentityRules {
     std::optional<std::string> (*volume)(std::string_view identity, std::string_view type);
 };
 
+/// A process that was there when they were last counted.
+struct SeenProcess {
+    std::uint64_t number = 0;
+    bool kernel_thread = false;
+    /// It was that twice in a row. One that was so once may have been about to become a program.
+    bool for_good = false;
+};
+
 /// The machine that the classes describe: this one or a recorded one.
 struct MachineView {
     Sysroot root;
@@ -26,6 +36,9 @@ struct MachineView {
     /// Empty without a desktop session.
     SessionFactsSource session;
     IdentityRules identities;
+    /// By number, so that the next count asks about new ones alone. The kernel gives a number anew
+    /// when all others have been given out.
+    mutable std::vector<SeenProcess> processes = {};
 };
 
 } // namespace ostrelum::linux_platform

@@ -5,8 +5,9 @@
 
 namespace ostrelum::linux_platform {
 
-std::optional<std::string> read_to_end(const Descriptor& file, std::size_t limit)
+std::optional<std::string> read_to_end(const Descriptor& file, std::size_t limit, FileEnd end)
 {
+    constexpr ssize_t page = 4096;
     std::string content;
     std::array<char, 16384> block;
     for (;;) {
@@ -22,6 +23,8 @@ std::optional<std::string> read_to_end(const Descriptor& file, std::size_t limit
             errno = EFBIG;
             return std::nullopt;
         }
+        if (end == FileEnd::LessThanAPage && count < page)
+            return content;
     }
 }
 

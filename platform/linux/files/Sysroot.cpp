@@ -121,7 +121,8 @@ std::optional<std::string> Sysroot::read(const std::string& path, std::size_t li
     if (live_ && is_kernel_path(path))
         file = open_kernel_file(root_->number(), path);
     file = file ? checked(std::move(*file)) : open(path);
-    auto content = *file ? read_to_end(*file, limit) : std::nullopt;
+    const FileEnd end = path.starts_with("/proc/") ? FileEnd::Nothing : FileEnd::LessThanAPage;
+    auto content = *file ? read_to_end(*file, limit, end) : std::nullopt;
     // What is too long for this question may not be so for the next.
     if (seen_ && (content || !*file))
         seen_->keep(seen_->contents, path, content);

@@ -2,6 +2,7 @@
 
 #include "platform/linux/text/Text.h"
 
+#include <algorithm>
 #include <string>
 
 namespace ostrelum::linux_platform {
@@ -28,21 +29,32 @@ std::optional<bool> is_kernel_thread(std::string_view stat)
     return flags ? std::optional((*flags & kernel_thread) != 0) : std::nullopt;
 }
 
-std::optional<std::uint32_t> process_count(const Sysroot& root)
+std::optional<std::uint32_t> process_count(const Sysroot& root, std::vector<SeenProcess>& seen)
 {
-    std::uint32_t count = 0;
-    bool sees_all = false;
-    for (const std::string& name : root.list("/proc")) {
-        if (!whole_number(name))
-            continue;
+    std::vector<SeenProcess> there;
+    const auto look_at = [&](std::uint64_t number, const std::string& name) {
+        const auto before = std::ranges::lower_bound(seen, number, {}, &SeenProcess::number);
+        const bool known = before != seen.end() && before->number == number;
+        if (known && before->for_good) {
+            there.push_back(*before);
+            return;
+        }
         // A process that has ended since the listing has no line any more.
         const auto stat = root.read("/proc/" + name + "/stat", 4096);
-        if (stat && is_kernel_thread(*stat) == false)
-            ++count;
-        // A user who may not see the first process sees only his own processes.
-        sees_all |= stat && name == "1";
+        const auto kernels = stat ? is_kernel_thread(*stat) : std::nullopt;
+        if (kernels)
+            there.push_back({number, *kernels, !*kernels || known});
+    };
+    for (const std::string& name : root.list("/proc")) {
+        if (const auto number = whole_number(name))
+            look_at(*number, name);
     }
-    return sees_all ? std::optional(count) : std::nullopt;
+    std::ranges::sort(there, {}, &SeenProcess::number);
+    seen = std::move(there);
+    // A user who may not see the first process sees only his own processes.
+    if (seen.empty() || seen.front().number != 1)
+        return std::nullopt;
+    return static_cast<std::uint32_t>(std::ranges::count(seen, false, &SeenProcess::kernel_thread));
 }
 
 } // namespace ostrelum::linux_platform

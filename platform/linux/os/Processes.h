@@ -1,10 +1,11 @@
 #pragma once
 
-#include "platform/linux/files/Sysroot.h"
+#include "platform/linux/files/MachineView.h"
 
 #include <cstdint>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 namespace ostrelum::linux_platform {
 
@@ -13,7 +14,8 @@ namespace ostrelum::linux_platform {
 std::optional<bool> is_kernel_thread(std::string_view stat);
 
 /// How many processes run, the kernel's own threads left out. Nothing where others' processes are
-/// hidden.
-std::optional<std::uint32_t> process_count(const Sysroot& root);
+/// hidden. Those that `seen` has from the last count are not asked again; it becomes those of this
+/// one.
+std::optional<std::uint32_t> process_count(const Sysroot& root, std::vector<SeenProcess>& seen);
 
 } // namespace ostrelum::linux_platform

@@ -11,11 +11,14 @@
 #include "platform/linux/os/KernelRelease.h"
 #include "platform/linux/os/Processes.h"
 #include "tests/Split.h"
+#include "tests/platform/linux/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
 namespace ostrelum::linux_platform {
 namespace {
+
+using namespace std::string_literals;
 
 TEST(KernelVersion, SurvivesTheCutOfThePages)
 {
@@ -113,6 +116,25 @@ TEST(Processes, KernelThreadsAreToldByTheirFlags)
     EXPECT_EQ(is_kernel_thread("9 (a) b (c)) S 1 9 9 0 -1 4194560 0"), false);
     for (const char* none : {"", "1 (x", "1 (x) S 0 0", "1 (x) S 0 0 0 0 -1 none 0"})
         EXPECT_EQ(is_kernel_thread(none), std::nullopt) << none;
+}
+
+/// A thread of the kernel may be about to become a program when it is first seen.
+TEST(Processes, AreAskedUntilTheirKindIsCertain)
+{
+    const TemporaryFolder folder;
+    const Sysroot root(folder / "");
+    std::vector<SeenProcess> seen;
+    const auto count = [&](const char* number, const char* flags) {
+        folder.file("proc/"s + number + "/stat", number + " (x) S 1 1 1 0 -1 "s + flags + " 0\n");
+        return process_count(root, seen);
+    };
+    EXPECT_EQ(count("30", "2129984"), std::nullopt);
+    EXPECT_EQ(count("1", "4194560"), 1U);
+    EXPECT_EQ(count("2", "2129984"), 1U);
+    EXPECT_EQ(count("2", "4194560"), 2U);
+    EXPECT_EQ(count("30", "4194560"), 2U);
+    std::filesystem::remove_all(folder / "proc/2");
+    EXPECT_EQ(count("40", "4194560"), 2U);
 }
 
 TEST(CpuTexts, ListsClocksAndNames)
