@@ -58,12 +58,13 @@ void place_left_column(Designer& put)
                       .Font = tahoma(9.75),
                       .ForeColor = white,
                       .MousePointer = MouseCursor::Hand,
-                      .TabStop = true});
+                      .TabStop = true,
+                      .Role = LabelRole::Tab});
     ROW(BM, .Left = 0, .Top = 49, .Width = 170, .Height = 35, .Stored = art_picture("BM"),
         .MousePointer = MouseCursor::Hand);
     put.inside(F1.BM);
     ROW(LMenu2, .Left = 20, .Top = 9, .Font = tahoma(9.75), .ForeColor = white,
-        .MousePointer = MouseCursor::Hand);
+        .MousePointer = MouseCursor::Hand, .Silent = true);
     ROW(PesBMenu, .Left = 163, .Top = 11, .Width = 7, .Height = 13, .Transparent = true,
         .Stored = art_picture("PesBMenu"));
     put.on_the_form();
@@ -81,7 +82,8 @@ void place_page(Designer& put)
     ROWS(L, Label{.Left = 208,
                   .Top = 139 + 25 * (i - 1),
                   .Font = {.Name = "Segoe UI", .Size = 9.75, .Italic = true},
-                  .ForeColor = value_grey});
+                  .ForeColor = value_grey,
+                  .Continues = "LT"});
     ROW(Line1, .X1 = 208, .Y1 = 40, .X2 = 488, .Y2 = 40, .BorderColor = line_grey,
         .Visible = false);
     ROW(Line2, .X1 = 208, .Y1 = 48, .X2 = 488, .Y2 = 48, .BorderColor = line_grey,
@@ -128,16 +130,19 @@ void place_about_panel(Designer& put)
     ROW(Logo, .Left = 0, .Top = 0, .Width = 295, .Height = 72, .Stored = art_picture("Logo"),
         .AccessibleName = "Dervalin Ostrelum");
     ROW(LTInfo1, .Left = 0, .Top = 88, .Font = tahoma(8.25, true), .ForeColor = title_grey);
-    ROW(LInfo1, .Left = 0, .Top = 88, .Font = tahoma(8.25), .ForeColor = title_grey);
+    ROW(LInfo1, .Left = 0, .Top = 88, .Font = tahoma(8.25), .ForeColor = title_grey,
+        .Continues = "LTInfo1");
     ROW(LTInfo2, .Left = 0, .Top = 112, .Font = tahoma(8.25, true), .ForeColor = title_grey);
-    ROW(LInfo2, .Left = 0, .Top = 112, .Font = tahoma(8.25), .ForeColor = title_grey);
+    ROW(LInfo2, .Left = 0, .Top = 112, .Font = tahoma(8.25), .ForeColor = title_grey,
+        .Continues = "LTInfo2");
     ROW(LTInfo3, .Left = 0, .Top = 136, .Font = tahoma(8.25, true), .ForeColor = title_grey);
-    ROW(LInfo3, .Left = 0, .Top = 136, .Font = tahoma(8.25), .ForeColor = title_grey);
+    ROW(LInfo3, .Left = 0, .Top = 136, .Font = tahoma(8.25), .ForeColor = title_grey,
+        .Continues = "LTInfo3");
     ROW(LineI, .X1 = 0, .Y1 = 168, .X2 = 280, .Y2 = 168, .BorderColor = line_grey);
     ROW(LTra, .Left = 0, .Top = 184, .Font = tahoma(8.25, true), .ForeColor = title_grey);
     ROW(LTra1, .Left = 0, .Top = 216, .Font = tahoma(8.25), .ForeColor = title_grey);
     ROW(LTra2, .Left = 0, .Top = 216, .Font = tahoma(8.25), .ForeColor = title_grey,
-        .MousePointer = MouseCursor::Hand, .TabStop = true);
+        .MousePointer = MouseCursor::Hand, .TabStop = true, .Role = LabelRole::Link);
     put.on_the_form();
 }
 

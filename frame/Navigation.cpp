@@ -36,6 +36,8 @@ void collect(int index)
     F1.BM.Top = first_row_top + row_height * (index - 1);
     F1.LMenu2.Caption = Trad[page.title];
     F1.BM.Visible = true;
+    for (int n = 1; n <= section_count; ++n)
+        F1.LMenu(n).Chosen = n == index;
     page.collect();
 }
 

@@ -16,9 +16,11 @@ namespace {
 
 bool has_content(const QWidget& widget);
 
-/// Lines, and pictures without a name that hold nothing.
+/// Lines, pictures without a name that hold nothing, and labels that another one reads.
 bool is_decoration(const QWidget& widget)
 {
+    if (const auto* label = dynamic_cast<const LabelWidget*>(&widget))
+        return label->reading().isEmpty();
     if (dynamic_cast<const LineWidget*>(&widget) || dynamic_cast<const FocusFrame*>(&widget))
         return true;
     return dynamic_cast<const PictureWidget*>(&widget) && widget.accessibleName().isEmpty() &&
@@ -73,6 +75,16 @@ protected:
     WidgetType& pressable_;
 };
 
+QAccessible::Role role_of(LabelRole role)
+{
+    switch (role) {
+    case LabelRole::Tab: return QAccessible::PageTab;
+    case LabelRole::Link: return QAccessible::Link;
+    case LabelRole::Button: break;
+    }
+    return QAccessible::Button;
+}
+
 class LabelInterface : public PressableInterface<LabelWidget> {
 public:
     explicit LabelInterface(LabelWidget& label) : PressableInterface(label, QAccessible::StaticText)
@@ -80,7 +92,19 @@ public:
     }
     QString text(QAccessible::Text kind) const override
     {
-        return kind == QAccessible::Name ? pressable_.text() : PressableInterface::text(kind);
+        return kind == QAccessible::Name ? pressable_.reading() : PressableInterface::text(kind);
+    }
+    QAccessible::Role role() const override
+    {
+        return can_press() ? role_of(pressable_.label->Role) : PressableInterface::role();
+    }
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = PressableInterface::state();
+        const bool tab = pressable_.label->Role == LabelRole::Tab;
+        state.selectable = tab;
+        state.selected = tab && pressable_.label->Chosen;
+        return state;
     }
 };
 

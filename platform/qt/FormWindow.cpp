@@ -6,7 +6,9 @@
 #include "platform/qt/Keys.h"
 #include "platform/qt/MouseEventFilter.h"
 #include "platform/qt/Text.h"
+#include "platform/toolkit/Reading.h"
 
+#include <QAccessible>
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QIcon>
@@ -78,6 +80,23 @@ void FormWindow::sync()
     if (focus != focused())
         set_focus(focus);
     keyboard_.show_focus();
+    if (QAccessible::isActive())
+        tell_readers();
+}
+
+/// Readers are told when a text has changed, also one that they read with another.
+void FormWindow::tell_readers()
+{
+    readings_.resize(controls_.size());
+    for (int place = 0; place < static_cast<int>(controls_.size()); ++place) {
+        std::string& told = readings_[static_cast<std::size_t>(place)];
+        std::string reading = reading_of(form_, place);
+        if (widget(place) && reading != told) {
+            QAccessibleEvent event(widget(place), QAccessible::NameChanged);
+            QAccessible::updateAccessibility(&event);
+        }
+        told = std::move(reading);
+    }
 }
 
 void FormWindow::sync_frame()

@@ -48,6 +48,7 @@ private:
     void make_widgets();
     void place_in(const QRect& screen);
     void sync_frame();
+    void tell_readers();
 
     const Form& form_;
     WindowEvents events_;
@@ -59,6 +60,8 @@ private:
     FocusFrame focus_frame_;
     /// What the frame shows.
     std::optional<FormFrame> shown_;
+    /// What a screen reader was last told of each control.
+    std::vector<std::string> readings_;
 };
 
 } // namespace ostrelum::qt_platform

@@ -4,6 +4,7 @@
 #include "platform/qt/Fonts.h"
 #include "platform/qt/MouseEventFilter.h"
 #include "platform/qt/Text.h"
+#include "platform/toolkit/Reading.h"
 
 namespace ostrelum::qt_platform {
 namespace {
@@ -30,6 +31,8 @@ QtLabelBinding::QtLabelBinding(Label& label, int place, QWidget& parent,
     widget_->setTextInteractionFlags(Qt::NoTextInteraction);
     widget_->setIndent(0);
     widget_->press = [this] { context_.mouse.press(place_, left_button); };
+    widget_->reading = [this] { return qt_text(reading_of(events_.form(), place_)); };
+    widget_->label = &label;
 }
 
 void QtLabelBinding::apply()

@@ -14,6 +14,9 @@ public:
     using QLabel::QLabel;
     /// Presses it as the left mouse button would.
     std::function<void()> press;
+    /// What a screen reader is told; empty for what it passes over.
+    std::function<QString()> reading;
+    const Label* label = nullptr;
 };
 
 class QtLabelBinding : public BindingOf<Label> {

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -33,6 +34,9 @@ struct FontSpec {
 
 enum class MouseCursor { Default, Arrow, Hourglass, Hand };
 enum class Align { Left, Right, Centre };
+/// What a screen reader calls a label that the keyboard reaches: something to press, one of several
+/// pages, or an address to open.
+enum class LabelRole { Button, Tab, Link };
 
 struct Label {
     std::string Caption;
@@ -51,6 +55,14 @@ struct Label {
     bool Visible = true;
     /// The keyboard reaches it; Enter or Space acts as a press of the left button.
     bool TabStop = false;
+    LabelRole Role = LabelRole::Button;
+    /// Of tabs: the one whose page is open.
+    bool Chosen = false;
+    /// Name of the label of the same index from which this one goes on: a screen reader reads both
+    /// as one text.
+    std::string_view Continues;
+    /// A screen reader passes it over, since another control says the same.
+    bool Silent = false;
     bool operator==(const Label&) const = default;
 };
 

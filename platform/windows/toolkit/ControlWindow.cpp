@@ -19,13 +19,22 @@ HWND make_child(int control, const FormHost& host, const wchar_t* kind, DWORD st
                            GetModuleHandleW(nullptr), nullptr);
 }
 
+/// Later controls lie over earlier ones. Those of one array lie side by side, where it does not
+/// matter: the first is the topmost, since screen readers read from the top down.
+HWND window_above(int control, const FormHost& host)
+{
+    const ControlEntry& entry = entry_at(host.form(), control);
+    return entry.index > 1 ? host.window(control - 1) : HWND_TOP;
+}
+
 } // namespace
 
 ControlWindow::ControlWindow(int control, FormHost& host, const wchar_t* kind, DWORD style)
     : control_number_(control), host_(host), window_(make_child(control, host, kind, style))
 {
     SetWindowSubclass(handle(), receive, own_subclass, reinterpret_cast<DWORD_PTR>(this));
-    SetWindowPos(handle(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    SetWindowPos(handle(), window_above(control, host), 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
 ControlWindow::~ControlWindow()

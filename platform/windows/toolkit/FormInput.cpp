@@ -1,3 +1,4 @@
+#include "platform/windows/toolkit/Accessible.h"
 #include "platform/windows/toolkit/FormWindow.h"
 #include "platform/windows/toolkit/Keys.h"
 
@@ -50,6 +51,10 @@ std::optional<LRESULT> FormWindow::answer(int control, const Message& message)
     case WM_CTLCOLORSTATIC:
         return colours_under(reinterpret_cast<HWND>(message.second),
                              reinterpret_cast<HDC>(message.first));
+    case WM_GETOBJECT:
+    case what_is_spoken:
+    case press_control:
+        return control == form_itself ? std::nullopt : answer_reader(control, message);
     default: return answer_mouse(control, message);
     }
 }

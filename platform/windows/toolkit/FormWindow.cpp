@@ -126,6 +126,7 @@ void FormWindow::sync()
     if (focus != focus_)
         set_focus(focus);
     keyboard_.show_focus();
+    tell_readers();
 }
 
 void FormWindow::sync_frame()

@@ -86,6 +86,8 @@ private:
     std::optional<LRESULT> let_go(int control, int button, const Message& message);
     std::optional<LRESULT> answer_key(int control, const Message& message);
     std::optional<LRESULT> answer_child(const Message& message);
+    std::optional<LRESULT> answer_reader(int control, const Message& message);
+    void tell_readers();
     std::optional<LRESULT> colours_under(HWND child, HDC dc) const;
     void focus_came(int control);
 
@@ -103,6 +105,8 @@ private:
     FocusFrame focus_frame_;
     OwnedIcon icons_[2];
     std::optional<FormFrame> shown_;
+    /// What a screen reader was last told of each control.
+    std::vector<std::string> readings_;
     std::optional<MenuRequest> menu_;
     int focus_ = form_itself;
     bool releasing_ = false;

@@ -9,7 +9,7 @@ namespace ostrelum::windows_platform {
 namespace {
 
 /// Posted to a list once its choice has settled: the system may tell of one choice twice.
-constexpr UINT choice_settled = WM_APP;
+constexpr UINT choice_settled = WM_USER + 0x400;
 
 Area area_of(const auto& control)
 {

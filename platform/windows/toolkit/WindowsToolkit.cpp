@@ -3,6 +3,8 @@
 #include "platform/windows/services/Wide.h"
 #include "platform/windows/toolkit/Screens.h"
 
+#include <algorithm>
+
 #include <commctrl.h>
 
 namespace ostrelum::windows_platform {
@@ -139,9 +141,19 @@ void WindowsToolkit::Refresh(Form& form)
 void WindowsToolkit::DoEvents()
 {
     dispatcher_.sync_all();
+    std::vector<std::pair<HWND, WPARAM>> ticked;
     MSG message;
-    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+        if (message.message == WM_TIMER) {
+            // It was not pending at first. Its next tick comes as well, and this might go on for
+            // ever.
+            const std::pair timer(message.hwnd, message.wParam);
+            if (std::ranges::find(ticked, timer) != ticked.end())
+                break;
+            ticked.push_back(timer);
+        }
         dispatch(message);
+    }
 }
 
 void WindowsToolkit::popup(Form& form, PopupMenu& menu, std::optional<Point> at,

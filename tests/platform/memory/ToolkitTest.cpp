@@ -1,5 +1,6 @@
 #include "platform/memory/MemoryToolkit.h"
 #include "platform/toolkit/Menus.h"
+#include "platform/toolkit/Reading.h"
 #include "tests/platform/toolkit/conformance/Conformance.h"
 
 #include <algorithm>
@@ -103,6 +104,11 @@ public:
     }
     int opacity(const Form& form) const override { return toolkit_.opacity(form); }
     Look look(const Form& form, int control) const override;
+    Spoken spoken(const Form& form, int control) const override
+    {
+        auto* const* label = std::get_if<Label*>(&entry_at(form, control).control);
+        return {reading_of(form, control), label && (*label)->Chosen};
+    }
     int focused(const Form& form) const override { return toolkit_.window_of(form)->focused(); }
     int marked(const Form& form) const override { return toolkit_.window_of(form)->marked(); }
     std::vector<MenuEntry> menu() const override;

@@ -1,6 +1,7 @@
 #include "tests/platform/qt/SampleWindow.h"
 #include "tests/platform/qt/WidgetLook.h"
 
+#include <QAccessible>
 #include <QElapsedTimer>
 #include <QMenu>
 #include <QScrollBar>
@@ -105,6 +106,7 @@ public:
         return qRound(window(form).windowOpacity() * 255);
     }
     Look look(const Form& form, int control) const override;
+    Spoken spoken(const Form& form, int control) const override;
     int focused(const Form& form) const override
     {
         return control_of(form, window(form).focusWidget());
@@ -158,6 +160,16 @@ Look QtDriver::look(const Form& form, int control) const
     if (widget.testAttribute(Qt::WA_SetCursor))
         look.cursor = ours(cursors, widget.cursor().shape());
     return look;
+}
+
+/// What is not among its holder's children is passed over.
+Spoken QtDriver::spoken(const Form& form, int control) const
+{
+    QAccessibleInterface* read =
+        QAccessible::queryAccessibleInterface(window(form).widget(control));
+    if (read->parent()->indexOfChild(read) < 0)
+        return {};
+    return {read->text(QAccessible::Name).toStdString(), read->state().selected != 0};
 }
 
 /// The control in the frame of the focus.

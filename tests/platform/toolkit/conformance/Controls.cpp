@@ -48,6 +48,30 @@ TEST_P(Conformance, EveryKindOfControlShowsItsData)
     EXPECT_EQ(calls, Calls{}) << "what the program sets raises nothing";
 }
 
+TEST_P(Conformance, AScreenReaderReadsEachTextOnceAndWhichTabIsOpen)
+{
+    const auto spoken = [&](const auto& control) { return driver->spoken(form, place(control)); };
+    form.Free.Continues = "Silent";
+    form.Free.Caption = ": not";
+    form.Menu(1).Caption = "";
+    form.Menu(2).Role = form.Menu(3).Role = LabelRole::Tab;
+    form.Menu(2).Chosen = true;
+    form.Column.AccessibleName = "Pages";
+    toolkit.Refresh(form);
+    EXPECT_EQ(spoken(form.Silent), (Spoken{"Quiet: not"}));
+    EXPECT_EQ(spoken(form.Free), Spoken{}) << "its text was read before";
+    EXPECT_EQ(spoken(form.Menu(1)), Spoken{});
+    EXPECT_EQ(spoken(form.Menu(2)), (Spoken{"Entry", true}));
+    EXPECT_EQ(spoken(form.Menu(3)), (Spoken{"Entry"}));
+    EXPECT_EQ(spoken(form.Column), (Spoken{"Pages"}));
+    EXPECT_EQ(spoken(form.Tick), (Spoken{"Tick"}));
+    form.Menu(3).Silent = true;
+    form.Silent.Caption = "";
+    toolkit.Refresh(form);
+    EXPECT_EQ(spoken(form.Menu(3)), Spoken{});
+    EXPECT_EQ(spoken(form.Free), (Spoken{": not"})) << "there is nothing to go on from";
+}
+
 TEST_P(Conformance, ALabelThatSizesItselfIsAsLargeAsItsText)
 {
     const FontSpec font{.Name = "Arial", .Size = 9};

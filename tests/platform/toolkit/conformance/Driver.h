@@ -31,6 +31,17 @@ struct Look {
     bool operator==(const Look&) const = default;
 };
 
+/// What a screen reader is told of a control; no name for what it passes over.
+struct Spoken {
+    std::string name;
+    bool chosen = false;
+    bool operator==(const Spoken&) const = default;
+    friend std::ostream& operator<<(std::ostream& out, const Spoken& spoken)
+    {
+        return out << spoken.name << (spoken.chosen ? " (chosen)" : "");
+    }
+};
+
 /// An entry of a menu on the screen.
 struct MenuEntry {
     std::string caption;
@@ -67,6 +78,7 @@ public:
     /// 0 to 255.
     virtual int opacity(const Form& form) const = 0;
     virtual Look look(const Form& form, int control) const = 0;
+    virtual Spoken spoken(const Form& form, int control) const = 0;
     /// The control that has the focus, and the one that is seen to have it.
     virtual int focused(const Form& form) const = 0;
     virtual int marked(const Form& form) const = 0;

@@ -1,8 +1,10 @@
 #include "tests/platform/windows/toolkit/ScreenLook.h"
 
+#include "platform/windows/services/Com.h"
 #include "platform/windows/services/Wide.h"
 
 #include <commctrl.h>
+#include <oleacc.h>
 
 namespace ostrelum::windows_platform {
 namespace {
@@ -74,6 +76,27 @@ void look_at_list(HWND window, Look& look)
 }
 
 } // namespace
+
+Spoken spoken_of(HWND window)
+{
+    ComPtr<IAccessible> read;
+    if (FAILED(AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT),
+                                          __uuidof(IAccessible),
+                                          reinterpret_cast<void**>(read.GetAddressOf()))))
+        return {"no accessible object"};
+    VARIANT self{};
+    self.vt = VT_I4;
+    self.lVal = CHILDID_SELF;
+    OwnedVariant state;
+    read->get_accState(self, &state);
+    if (state->lVal & STATE_SYSTEM_INVISIBLE)
+        return {};
+    BSTR name = nullptr;
+    read->get_accName(self, &name);
+    const Spoken spoken{name ? narrow(name) : "", (state->lVal & STATE_SYSTEM_SELECTED) != 0};
+    SysFreeString(name);
+    return spoken;
+}
 
 std::string text_of(HWND window)
 {

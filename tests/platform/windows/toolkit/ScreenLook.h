@@ -10,6 +10,9 @@ namespace ostrelum::windows_platform {
 /// What a control's window shows that it tells itself: text, colour, font, style, values.
 conformance::Look look_of(HWND window);
 
+/// What the system's accessibility tells of a window.
+conformance::Spoken spoken_of(HWND window);
+
 /// The entries of a menu.
 std::vector<conformance::MenuEntry> entries_of(HMENU menu);
 

@@ -2,7 +2,6 @@
 
 #include "platform/windows/services/Wide.h"
 #include "tests/platform/toolkit/conformance/Conformance.h"
-#include "tests/platform/windows/toolkit/ScreenLook.h"
 
 #include <algorithm>
 

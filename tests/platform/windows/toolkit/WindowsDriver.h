@@ -3,6 +3,7 @@
 #include "platform/windows/toolkit/WindowsToolkit.h"
 #include "tests/platform/toolkit/conformance/Driver.h"
 #include "tests/platform/windows/toolkit/EventFiber.h"
+#include "tests/platform/windows/toolkit/ScreenLook.h"
 
 namespace ostrelum::windows_platform {
 
@@ -25,6 +26,10 @@ public:
     Point size(const Form& form) const override;
     int opacity(const Form& form) const override;
     conformance::Look look(const Form& form, int control) const override;
+    conformance::Spoken spoken(const Form& form, int control) const override
+    {
+        return spoken_of(window(form).window(control));
+    }
     int focused(const Form& form) const override { return window(form).focused(); }
     int marked(const Form& form) const override { return window(form).marked(); }
     std::vector<conformance::MenuEntry> menu() const override;

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "platform/toolkit/Form.h"
+
+/// What a screen reader is told of a form's controls.
+namespace ostrelum::inline toolkit {
+
+/// The name of a control; empty for what a reader passes over: decoration, labels without text, and
+/// those that another one reads.
+std::string reading_of(const Form& form, int control);
+
+} // namespace ostrelum::inline toolkit
