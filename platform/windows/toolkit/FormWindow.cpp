@@ -144,10 +144,17 @@ void FormWindow::sync_frame()
 void FormWindow::place_client(const FormFrame& frame)
 {
     const SIZE client{scale_.to_screen(frame.ClientWidth), scale_.to_screen(frame.ClientHeight)};
-    const SIZE whole = size_with_frame(
-        client, style_, static_cast<DWORD>(GetWindowLongW(handle(), GWL_EXSTYLE)), scale_);
-    SetWindowPos(handle(), nullptr, 0, 0, whole.cx, whole.cy,
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    SIZE whole = size_with_frame(client, style_,
+                                 static_cast<DWORD>(GetWindowLongW(handle(), GWL_EXSTYLE)), scale_);
+    // The frame may turn out wider than the system has told, as while the screen's scale changes.
+    for (int tries = 0; tries < 2; ++tries) {
+        SetWindowPos(handle(), nullptr, 0, 0, whole.cx, whole.cy,
+                     SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+        RECT made{};
+        GetClientRect(handle(), &made);
+        whole.cx += client.cx - made.right;
+        whole.cy += client.cy - made.bottom;
+    }
 }
 
 void FormWindow::set_icons(const FormFrame& frame)
