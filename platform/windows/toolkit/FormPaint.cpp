@@ -12,6 +12,15 @@ RECT screen_place_of(HWND window)
     return place;
 }
 
+/// The user has the system write in colours that he can read, whatever ground a program has.
+bool in_high_contrast()
+{
+    HIGHCONTRASTW about{};
+    about.cbSize = sizeof about;
+    return SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof about, &about, 0) &&
+           (about.dwFlags & HCF_HIGHCONTRASTON) != 0;
+}
+
 } // namespace
 
 void FormWindow::paint()
@@ -65,11 +74,13 @@ void FormWindow::draw_anew(int control)
     RedrawWindow(holder, &place, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN | RDW_NOERASE);
 }
 
-/// Buttons and boxes to tick stand on the ground of what holds them.
+/// Buttons and boxes to tick stand on the ground of what holds them. In high contrast their letters
+/// are light, so they keep the ground that goes with those.
 std::optional<LRESULT> FormWindow::colours_under(HWND child, HDC dc) const
 {
     const int control = GetDlgCtrlID(child) - 1;
-    if (control < 0 || control >= static_cast<int>(controls_.size()) || window(control) != child)
+    if (control < 0 || control >= static_cast<int>(controls_.size()) || window(control) != child ||
+        in_high_contrast())
         return std::nullopt;
     const int holder = entry_at(form_, control).container;
     Colour ground = form_.BackColor;
