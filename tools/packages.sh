@@ -7,7 +7,7 @@ test_packages="libgtest-dev libgmock-dev clang-format librsvg2-bin xvfb openbox 
     x11-utils xclip at-spi2-core gir1.2-atspi-2.0 python3-gi libglib2.0-bin dbus strace"
 # What building for Windows takes, and trying that here.
 windows_packages="g++ cmake ninja-build python3 python3-pil nlohmann-json3-dev g++-mingw-w64-x86-64-posix googletest wine64 fonts-wine
-    xvfb xauth openbox"
+    xvfb xauth openbox picom hsetroot xdotool xclip fonts-liberation"
 # What the long tests take besides: a fuzzer, and a second opinion about memory.
 long_packages="clang-14 libclang-rt-14-dev valgrind"
 # What looking for mistakes without running takes besides.
