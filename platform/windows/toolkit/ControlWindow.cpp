@@ -29,6 +29,21 @@ HWND window_above(int control, const FormHost& host)
 
 } // namespace
 
+bool moves_value(Key key)
+{
+    switch (key) {
+    case Key::Up:
+    case Key::Down:
+    case Key::Left:
+    case Key::Right:
+    case Key::Home:
+    case Key::End:
+    case Key::PageUp:
+    case Key::PageDown: return true;
+    default: return false;
+    }
+}
+
 ControlWindow::ControlWindow(int control, FormHost& host, const wchar_t* kind, DWORD style)
     : control_number_(control), host_(host), window_(make_child(control, host, kind, style))
 {

@@ -88,6 +88,15 @@ private:
     OwnedWindow window_;
 };
 
+/// What a control covers of what holds it.
+inline Area place_in_holder(const auto& control)
+{
+    return {control.Left, control.Top, control.Width, control.Height};
+}
+
+/// Whether a key moves the value of a slider or a list.
+bool moves_value(Key key);
+
 /// A control of a form's window.
 struct ControlParts {
     /// Nothing for a menu and its entries.

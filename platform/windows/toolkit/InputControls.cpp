@@ -11,11 +11,6 @@ namespace {
 /// Posted to a list once its choice has settled: the system may tell of one choice twice.
 constexpr UINT choice_settled = WM_USER + 0x400;
 
-Area area_of(const auto& control)
-{
-    return {control.Left, control.Top, control.Width, control.Height};
-}
-
 } // namespace
 
 ButtonWindow::ButtonWindow(CommandButton& button, int control, FormHost& host, WindowEvents& events)
@@ -27,7 +22,7 @@ ButtonWindow::ButtonWindow(CommandButton& button, int control, FormHost& host, W
 void ButtonWindow::apply()
 {
     if (moved())
-        set_place(area_of(control_));
+        set_place(place_in_holder(control_));
     if (changed(&CommandButton::Caption))
         set_text(without_mnemonics(control_.Caption));
     if (changed(&CommandButton::Font))
@@ -56,7 +51,7 @@ TickWindow::TickWindow(CheckBox& box, int control, FormHost& host, WindowEvents&
 void TickWindow::apply()
 {
     if (moved())
-        set_place(area_of(control_));
+        set_place(place_in_holder(control_));
     if (changed(&CheckBox::Caption))
         set_text(without_mnemonics(control_.Caption));
     if (changed(&CheckBox::Font))
@@ -103,7 +98,7 @@ void ListWindow::apply()
 /// The window's height is that of the list when it is open; the box takes that of its text.
 void ListWindow::place_list()
 {
-    const Area area = area_of(control_);
+    const Area area = place_in_holder(control_);
     set_place({area.left, area.top, area.width,
                area.height * (2 + static_cast<int>(control_.List.size()))});
     RECT box{};
@@ -118,17 +113,7 @@ bool ListWindow::wants(Key key) const
 {
     if (SendMessageW(handle(), CB_GETDROPPEDSTATE, 0, 0) != 0)
         return key != Key::Tab;
-    switch (key) {
-    case Key::Up:
-    case Key::Down:
-    case Key::Left:
-    case Key::Right:
-    case Key::Home:
-    case Key::End:
-    case Key::PageUp:
-    case Key::PageDown: return true;
-    default: return false;
-    }
+    return moves_value(key);
 }
 
 void ListWindow::told(int code)

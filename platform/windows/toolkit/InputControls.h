@@ -19,7 +19,7 @@ private:
 class SliderWindow : public ScrollBarBinding, public ControlWindow {
 public:
     SliderWindow(ScrollBar& bar, int control, FormHost& host, WindowEvents& events);
-    bool wants(Key key) const override;
+    bool wants(Key key) const override { return moves_value(key); }
     /// A request of the scroll bar, such as SB_LINELEFT.
     void told(int code) override;
 

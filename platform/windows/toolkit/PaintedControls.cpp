@@ -40,11 +40,6 @@ RECT client_of(HWND window)
     return client;
 }
 
-Area area_of(const auto& control)
-{
-    return {control.Left, control.Top, control.Width, control.Height};
-}
-
 } // namespace
 
 LabelWindow::LabelWindow(Label& label, int control, FormHost& host, WindowEvents& events)
@@ -83,7 +78,7 @@ void LabelWindow::place_text()
                  &Label::Font))
         return;
     const Scale scale = host_.scale();
-    Area area = area_of(control_);
+    Area area = place_in_holder(control_);
     lean_ = 0;
     if (sizes_itself(control_)) {
         const int lean =
@@ -117,7 +112,7 @@ PictureWindow::PictureWindow(PictureBox& box, int control, FormHost& host, Windo
 void PictureWindow::apply()
 {
     if (moved())
-        set_place(area_of(control_));
+        set_place(place_in_holder(control_));
     if (changed(&PictureBox::Surface))
         picture_.set(control_.Surface, host_.scale());
     if (changed(&PictureBox::ToolTipText))
@@ -152,7 +147,7 @@ LineWindow::LineWindow(Line& line, int control, FormHost& host, WindowEvents& ev
 void LineWindow::apply()
 {
     if (changed(&Line::X1, &Line::Y1, &Line::X2, &Line::Y2))
-        set_place(toolkit::area_of(control_));
+        set_place(area_of(control_));
     if (changed(&Line::Visible))
         set_visible(control_.Visible);
     host_.draw_anew(place_);

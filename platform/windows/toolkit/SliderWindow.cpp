@@ -41,21 +41,6 @@ void SliderWindow::apply()
         set_visible(control_.Visible);
 }
 
-bool SliderWindow::wants(Key key) const
-{
-    switch (key) {
-    case Key::Up:
-    case Key::Down:
-    case Key::Left:
-    case Key::Right:
-    case Key::Home:
-    case Key::End:
-    case Key::PageUp:
-    case Key::PageDown: return true;
-    default: return false;
-    }
-}
-
 void SliderWindow::told(int code)
 {
     switch (code) {
