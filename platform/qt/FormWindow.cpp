@@ -14,6 +14,8 @@
 #include <QIcon>
 #include <QScreen>
 
+#include <algorithm>
+
 namespace ostrelum::qt_platform {
 namespace {
 
@@ -125,12 +127,14 @@ void FormWindow::bring_up()
     activateWindow();
 }
 
-/// In the middle, its frame included.
+/// In the middle, its frame included; on a screen that is too small the top left corner is to be
+/// seen, with the frame's buttons and the options.
 void FormWindow::place_in(const QRect& screen)
 {
     const QMargins frame = frame_margins(*windowHandle());
     QRect whole = geometry().marginsAdded(frame);
     whole.moveCenter(screen.center());
+    whole.moveTo(std::max(whole.left(), screen.left()), std::max(whole.top(), screen.top()));
     setGeometry(whole.marginsRemoved(frame));
 }
 
@@ -173,6 +177,16 @@ void FormWindow::closeEvent(QCloseEvent* event)
 {
     event->ignore();
     asked_to_close_();
+}
+
+/// Where the desktop leaves the frame to the toolkit, that has a button for it whatever the flags
+/// say. Some desktops end a program whose window says that it fills the screen and does not.
+void FormWindow::changeEvent(QEvent* event)
+{
+    const Qt::WindowStates filling = Qt::WindowMaximized | Qt::WindowFullScreen;
+    if (event->type() == QEvent::WindowStateChange && (windowState() & filling))
+        setWindowState(windowState() & ~filling);
+    QWidget::changeEvent(event);
 }
 
 void FormWindow::keyPressEvent(QKeyEvent* event)

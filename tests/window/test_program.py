@@ -50,6 +50,15 @@ class ProgramTest(WindowTest):
             self.assertAlmostEqual(left - before + (width + before + after) / 2, desktop.size[0] / 2, delta=1)
             self.assertAlmostEqual(top - above + (height + above + below) / 2, desktop.size[1] / 2, delta=1)
 
+    def test_a_small_screen_shows_the_top_left_of_the_window_with_its_frame(self):
+        with Desktop(size=(640, 400)) as desktop:
+            desktop.start_program()
+            window = desktop.window()
+            left, top, _, _ = desktop.place(window)
+            told = desktop.call("xprop", "-id", window, "-notype", "_NET_FRAME_EXTENTS").split("=")[1].split(",")
+            before, _, above, _ = map(int, told)
+            self.assertEqual((left - before, top - above), (0, 0))
+
     def test_mouse_opens_pages_and_copies_them(self):
         with Desktop() as desktop:
             desktop.start_program()

@@ -22,6 +22,13 @@ TEST_F(PaintTest, TheWindowHasItsSizeForGood)
     EXPECT_EQ(window().minimumSize(), window().maximumSize());
     EXPECT_FALSE(window().windowFlags() & Qt::WindowMinimizeButtonHint);
     EXPECT_FALSE(window().windowFlags() & Qt::WindowMaximizeButtonHint);
+    // A toolkit's own frame has a button that does this all the same.
+    for (const auto state : {Qt::WindowMaximized, Qt::WindowFullScreen}) {
+        window().setWindowState(state);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(window().windowState() & state, Qt::WindowNoState);
+        EXPECT_EQ(window().size(), QSize(300, 200));
+    }
 }
 
 /// The word by which the toolkit's own translations tell their direction.
