@@ -9,6 +9,12 @@ target_compile_options(ostrelum_rules INTERFACE
     -Wno-missing-field-initializers
     # GCC 12 finds overlaps in "literal" + string where there are none (GCC bug 105651).
     $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
+if(NOT WIN32)
+    # What nobody calls, of the C++ library above all, is left out of a program: there is less to be read at its start.
+    target_compile_options(ostrelum_rules INTERFACE
+        $<$<CONFIG:Release>:-ffunction-sections$<SEMICOLON>-fdata-sections>)
+    target_link_options(ostrelum_rules INTERFACE $<$<CONFIG:Release>:LINKER:--gc-sections>)
+endif()
 if(MINGW)
     # No library of the compiler's has to lie beside a program.
     target_link_options(ostrelum_rules INTERFACE -static)

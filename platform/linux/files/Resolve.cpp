@@ -16,13 +16,19 @@ namespace {
 
 constexpr int place_flags = O_PATH | O_CLOEXEC;
 
-Descriptor open_in_root(int root, const std::string& path, int flags)
+constexpr int kernel_file_flags = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+
+Descriptor open_in(int folder, const char* path, int flags, std::uint64_t resolve)
 {
     open_how how = {};
     how.flags = static_cast<unsigned>(flags);
-    how.resolve = RESOLVE_IN_ROOT | RESOLVE_NO_MAGICLINKS;
-    return Descriptor(
-        static_cast<int>(::syscall(SYS_openat2, root, path.c_str(), &how, sizeof how)));
+    how.resolve = resolve | RESOLVE_NO_MAGICLINKS;
+    return Descriptor(static_cast<int>(::syscall(SYS_openat2, folder, path, &how, sizeof how)));
+}
+
+Descriptor open_in_root(int root, const std::string& path, int flags)
+{
+    return open_in(root, path.c_str(), flags, RESOLVE_IN_ROOT);
 }
 
 /// The kernel declined to answer the last call, which is no failure to find the file. It does so
@@ -71,12 +77,25 @@ Descriptor resolve_by_hand(int root, const std::string& path, LastLink last)
     return trail.empty() ? Descriptor(::openat(root, ".", place_flags)) : std::move(trail.back());
 }
 
-std::optional<Descriptor> open_kernel_file(int root, const std::string& path)
+std::optional<Descriptor> KernelFiles::open(int root, const std::string& path) const
 {
-    Descriptor file = open_in_root(root, path, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    const bool below = folder_ && path.size() > path_.size() && path[path_.size()] == '/' &&
+                       path.starts_with(path_);
+    // A device that has come back has another folder at its place.
+    if (Descriptor file =
+            below ? open_in(folder_.number(), path.c_str() + path_.size() + 1, kernel_file_flags, 0)
+                  : Descriptor())
+        return file;
+    Descriptor file = open_in_root(root, path, kernel_file_flags);
     if (!file && is_refused())
         return std::nullopt;
     return file;
+}
+
+void KernelFiles::keep(const std::string& path, Descriptor folder)
+{
+    path_ = path;
+    folder_ = std::move(folder);
 }
 
 std::optional<std::string> link_text(const Descriptor& place)

@@ -19,10 +19,23 @@ Descriptor resolve_in_root(int root, const std::string& path, LastLink last);
 /// and for the moments in which the kernel puts off its answer.
 Descriptor resolve_by_hand(int root, const std::string& path, LastLink last);
 
-/// Opens for reading what the kernel provides under /proc and /sys of the running system. There are
-/// no device nodes, pipes and sockets among it, so that looking first at what a place is would only
-/// double the calls: a page opens hundreds. Nothing if the kernel does not help.
-std::optional<Descriptor> open_kernel_file(int root, const std::string& path);
+/// Opens what the kernel provides under /proc and /sys of the running system. A page asks for
+/// hundreds of files there, mostly for many of one folder: the one that was listed last stays open,
+/// which saves the way to it.
+class KernelFiles {
+public:
+    /// Opens for reading. There are no device nodes, pipes and sockets among these files, so that
+    /// looking first at what a place is would only double the calls. Nothing if the kernel does not
+    /// help.
+    std::optional<Descriptor> open(int root, const std::string& path) const;
+
+    /// A folder that has been listed.
+    void keep(const std::string& path, Descriptor folder);
+
+private:
+    std::string path_;
+    Descriptor folder_;
+};
 
 /// The text of the symbolic link that a place is; nothing for any other file.
 std::optional<std::string> link_text(const Descriptor& place);

@@ -40,7 +40,7 @@ bool is_live_root(const Descriptor& root)
 
 bool is_kernel_path(const std::string& path)
 {
-    return path.starts_with("/proc/") || path.starts_with("/sys/");
+    return path == "/proc" || path.starts_with("/proc/") || path.starts_with("/sys/");
 }
 
 } // namespace
@@ -119,7 +119,7 @@ std::optional<std::string> Sysroot::read(const std::string& path, std::size_t li
         return *seen && (*seen)->size() > limit ? std::nullopt : *seen;
     std::optional<Descriptor> file;
     if (live_ && is_kernel_path(path))
-        file = open_kernel_file(root_->number(), path);
+        file = kernel_files_->open(root_->number(), path);
     file = file ? checked(std::move(*file)) : open(path);
     const FileEnd end = path.starts_with("/proc/") ? FileEnd::Nothing : FileEnd::LessThanAPage;
     auto content = *file ? read_to_end(*file, limit, end) : std::nullopt;
@@ -167,12 +167,16 @@ std::optional<std::uint64_t> Sysroot::number(const std::string& path) const
 
 std::vector<std::string> Sysroot::list(const std::string& path) const
 {
-    return once(&SeenFiles::folders, path, [&] { return list_anew(path); });
+    return once(&SeenFiles::folders, path, [&] {
+        std::vector<std::string> names = list_unsorted(path);
+        std::ranges::sort(names, natural_less);
+        return names;
+    });
 }
 
-std::vector<std::string> Sysroot::list_anew(const std::string& path) const
+std::vector<std::string> Sysroot::list_unsorted(const std::string& path) const
 {
-    const Descriptor place = find_place(path, LastLink::Follow);
+    Descriptor place = find_place(path, LastLink::Follow);
     Descriptor opened;
     if (place)
         opened =
@@ -185,7 +189,8 @@ std::vector<std::string> Sysroot::list_anew(const std::string& path) const
         if (name != "." && name != "..")
             names.emplace_back(name);
     }
-    std::ranges::sort(names, natural_less);
+    if (live_ && place && is_kernel_path(path))
+        kernel_files_->keep(path, std::move(place));
     if (observer_)
         observer_->on_list(path, names);
     return names;

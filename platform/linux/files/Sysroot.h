@@ -68,6 +68,8 @@ public:
 
     /// The names in a folder, sorted so that "input10" comes after "input2".
     std::vector<std::string> list(const std::string& path) const;
+    /// The same in no order, for whoever needs none of thousands.
+    std::vector<std::string> list_unsorted(const std::string& path) const;
 
     /// The text of a symbolic link.
     std::optional<std::string> link(const std::string& path) const;
@@ -80,7 +82,6 @@ public:
 private:
     template <class Answer, class Ask>
     Answer once(SeenFiles::Kept<Answer> SeenFiles::*kind, const std::string& path, Ask ask) const;
-    std::vector<std::string> list_anew(const std::string& path) const;
     Descriptor find_place(const std::string& path, LastLink last) const;
     Descriptor checked(Descriptor file) const;
 
@@ -90,6 +91,7 @@ private:
     std::shared_ptr<const Descriptor> root_;
     Resolver resolver_;
     bool live_ = false;
+    std::shared_ptr<KernelFiles> kernel_files_ = std::make_shared<KernelFiles>();
     std::shared_ptr<int> shortage_ = std::make_shared<int>(0);
     std::shared_ptr<AccessObserver> observer_;
     /// None if each question is asked anew.

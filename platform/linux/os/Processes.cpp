@@ -45,7 +45,7 @@ std::optional<std::uint32_t> process_count(const Sysroot& root, std::vector<Seen
         if (kernels)
             there.push_back({number, *kernels, !*kernels || known});
     };
-    for (const std::string& name : root.list("/proc")) {
+    for (const std::string& name : root.list_unsorted("/proc")) {
         if (const auto number = whole_number(name))
             look_at(*number, name);
     }

@@ -1,26 +1,32 @@
 #include "platform/linux/text/NaturalOrder.h"
 
-#include <algorithm>
 #include <string>
 
 namespace ostrelum::linux_platform {
 namespace {
 
-constexpr std::string_view digits = "0123456789";
+bool is_digit(char c)
+{
+    return c >= '0' && c <= '9';
+}
 
 /// Takes the digits off the front, without leading zeros.
 std::string_view take_number(std::string_view& text)
 {
-    const std::size_t end = std::min(text.find_first_not_of(digits), text.size());
-    std::string_view number = text.substr(0, end);
-    number.remove_prefix(std::min(number.find_first_not_of('0'), number.size()));
+    std::size_t zeros = 0;
+    while (zeros < text.size() && text[zeros] == '0')
+        ++zeros;
+    std::size_t end = zeros;
+    while (end < text.size() && is_digit(text[end]))
+        ++end;
+    const std::string_view number = text.substr(zeros, end - zeros);
     text.remove_prefix(end);
     return number;
 }
 
 bool starts_with_digit(std::string_view text)
 {
-    return !text.empty() && digits.find(text.front()) != std::string_view::npos;
+    return !text.empty() && is_digit(text.front());
 }
 
 } // namespace

@@ -87,8 +87,15 @@ TEST_P(SysrootTest, ReadsTheLiveMachine)
 {
     const Sysroot live("/", GetParam());
     EXPECT_TRUE(live.is_live());
-    // Of no size until it is read, and behind a link that the kernel makes up.
-    EXPECT_NE(live.read("/proc/self/status").value_or("").find("test_platform"), std::string::npos);
+    // Of no size until it is read, and behind a link that the kernel makes up; in a folder that was
+    // listed, and that another one was listed after.
+    for (const char* listed : {"/proc", "/proc/self", "/proc/self/fd", "/proc/self/status"}) {
+        live.list(listed);
+        const std::string status = live.read("/proc/self/status").value_or("");
+        EXPECT_NE(status.find("test_platform"), std::string::npos) << listed;
+        EXPECT_EQ(live.read("/proc/self/none"), Text()) << listed;
+        EXPECT_EQ(live.read("/proc/selfless"), Text()) << listed;
+    }
 }
 
 TEST(Sysroot, ReadsToTheEndUpToALimit)
