@@ -71,7 +71,8 @@ void LabelWindow::apply_text()
         set_text(control_.Caption);
 }
 
-/// A slanted letter may lean out of the text on the left, where the window would cut it.
+/// A slanted letter may lean out of the text on the left, where the window would cut it, and a
+/// smoothed one reach past the end that the system tells.
 void LabelWindow::place_text()
 {
     if (!changed(&Label::Left, &Label::Top, &Label::Width, &Label::Height, &Label::Caption,
@@ -79,13 +80,15 @@ void LabelWindow::place_text()
         return;
     const Scale scale = host_.scale();
     Area area = place_in_holder(control_);
-    lean_ = 0;
+    lean_ = reach_ = 0;
     if (sizes_itself(control_)) {
         const int lean =
             scale.room_on_form(measure(wide(control_.Caption), host_.font(control_.Font)).left);
         lean_ = scale.to_screen(lean);
+        const int behind = control_.Caption.empty() ? 0 : reach;
+        reach_ = scale.to_screen(behind);
         area.left -= lean;
-        area.width += lean;
+        area.width += lean + behind;
     }
     set_place(area);
 }
@@ -96,6 +99,7 @@ void LabelWindow::draw(HDC dc) const
         return;
     RECT place = client_of(handle());
     place.left += lean_;
+    place.right -= reach_;
     const Selected font(dc, host_.font(shown()->Font));
     SetBkMode(dc, TRANSPARENT);
     SetTextColor(dc, shown()->ForeColor);

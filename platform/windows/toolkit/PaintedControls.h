@@ -12,6 +12,9 @@ public:
     void draw(HDC dc) const override;
     bool is_opaque() const override { return false; }
 
+    /// Pixels behind the text of a label that sizes itself, which its letters may take.
+    static constexpr int reach = 2;
+
 private:
     void apply() override;
     void apply_text();
@@ -19,6 +22,8 @@ private:
 
     /// The screen's pixels by which the first letter leans out of the label.
     int lean_ = 0;
+    /// The same for what is behind its text.
+    int reach_ = 0;
 };
 
 class PictureWindow : public BindingOf<PictureBox>, public PaintedWindow {

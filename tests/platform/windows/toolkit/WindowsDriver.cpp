@@ -1,6 +1,7 @@
 #include "tests/platform/windows/toolkit/WindowsDriver.h"
 
 #include "platform/windows/services/Wide.h"
+#include "platform/windows/toolkit/PaintedControls.h"
 #include "tests/platform/toolkit/conformance/Conformance.h"
 
 #include <algorithm>
@@ -219,6 +220,9 @@ Look WindowsDriver::look(const Form& form, int control) const
     RECT place{};
     GetWindowRect(child, &place);
     MapWindowPoints(nullptr, GetParent(child), reinterpret_cast<POINT*>(&place), 2);
+    auto* const* label = std::get_if<Label*>(&entry_at(form, control).control);
+    if (label && sizes_itself(**label) && !(*label)->Caption.empty())
+        place.right -= shown.scale().to_screen(LabelWindow::reach);
     look.area = {place.left, place.top, width_of(place), height_of(place)};
     const int holder = entry_at(form, control).container;
     const MouseCursor cursor = shown.cursor_over(control);
