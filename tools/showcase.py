@@ -39,22 +39,29 @@ class Window:
 
     def __init__(self, machine, settings, scale):
         self.scale = scale
-        self.desktop = Desktop(compositor=False, ground=GROUND, size=SCREEN)
+        self.desktop = self._make_desktop()
         try:
             self._open(machine, settings)
         except BaseException:
             self.close()
             raise
 
-    def _open(self, machine, settings):
+    def _make_desktop(self):
+        return Desktop(compositor=False, ground=GROUND, size=SCREEN)
+
+    def _start(self, machine, settings):
         desktop = self.desktop
         fonts = desktop.home / "fonts.conf"
         fonts.write_text(FONTS, encoding="utf-8")
         desktop.environment.update(QT_SCALE_FACTOR=str(self.scale), FONTCONFIG_FILE=str(fonts))
         desktop.write_settings("".join(f"{name} = {value}\n" for name, value in settings.items()))
+        desktop.start(PROGRAM, "--sysroot", str(ROOT / "tests" / "machines" / machine), "--user", USERS[machine])
+
+    def _open(self, machine, settings):
+        desktop = self.desktop
         desktop.call("xdotool", "mousemove", "0", "0")
         self.screen = Screen(desktop.frame_buffer)
-        desktop.start(PROGRAM, "--sysroot", str(ROOT / "tests" / "machines" / machine), "--user", USERS[machine])
+        self._start(machine, settings)
         self.window = desktop.window()
         self.place = self._framed_place()
         self.page = self.screen.settled(self.place, still=0.6)
@@ -155,11 +162,11 @@ def states_with_media(window):
     yield "page 12 with media", window.open_page(12)
 
 
-def pictures(machine, states, settings, scale):
+def pictures(machine, states, settings, scale, make_window=Window):
     """Takes a showcase through some states; name and rows of each. Raises TimeoutError, with the state's
     predecessor, when one does not come."""
     last = "start"
-    window = Window(machine, settings, scale)
+    window = make_window(machine, settings, scale)
     try:
         for name, rows in states(window):
             last = name

@@ -65,11 +65,16 @@ class Window:
 
 
 class WineDesktop(Desktop):
-    """Places of the mouse are the screen's: Wine draws some frames itself, as part of the window."""
+    """Places of the mouse are the screen's: Wine draws some frames itself, as part of the window. `fonts` is the text of a
+    file for fontconfig."""
 
-    def __init__(self, **options):
+    def __init__(self, fonts=None, **options):
         super().__init__(**options)
         self.screen = Screen(self.frame_buffer)
+        if fonts:
+            # Wine looks for fonts when its server starts.
+            self.environment["FONTCONFIG_FILE"] = str(self.home / "fonts.conf")
+            (self.home / "fonts.conf").write_text(fonts, encoding="utf-8")
         try:
             self._copy_prefix()
         except BaseException:
