@@ -95,7 +95,8 @@ void ListWindow::apply()
         set_visible(control_.Visible);
 }
 
-/// The window's height is that of the list when it is open; the box takes that of its text.
+/// The window's height is that of the list when it is open. The box itself is as high as the system
+/// makes it for the font, and lies in the middle of its place.
 void ListWindow::place_list()
 {
     const Area area = place_in_holder(control_);
@@ -103,10 +104,11 @@ void ListWindow::place_list()
                area.height * (2 + static_cast<int>(control_.List.size()))});
     RECT box{};
     GetWindowRect(handle(), &box);
-    const LRESULT text = SendMessageW(handle(), CB_GETITEMHEIGHT, static_cast<WPARAM>(-1), 0);
-    const LRESULT frame = height_of(box) - text;
-    SendMessageW(handle(), CB_SETITEMHEIGHT, static_cast<WPARAM>(-1),
-                 host_.scale().to_screen(area.height) - frame);
+    const int spare = host_.scale().to_screen(area.height) - height_of(box);
+    POINT at{box.left, box.top};
+    ScreenToClient(GetParent(handle()), &at);
+    SetWindowPos(handle(), nullptr, at.x, at.y + spare / 2, 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 bool ListWindow::wants(Key key) const
