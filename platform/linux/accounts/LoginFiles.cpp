@@ -20,7 +20,7 @@ const LoginFiles::Log& LoginFiles::known(Log& log) const
     const auto bytes = machine_.root.read(log.path, longest_log);
     const auto kind = kernel_architecture(machine_);
     log.there = bytes.has_value();
-    log.record_bytes = utmp_bytes(bytes_of(bytes.value_or("")),
+    log.record_bytes = utmp_bytes(bytes ? bytes_of(*bytes) : ByteView(),
                                   kind == "aarch64" ? wide_utmp_bytes : usual_utmp_bytes);
     if (bytes)
         log.histories = login_histories(bytes_of(*bytes), log.record_bytes);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -9,7 +10,8 @@
 namespace ostrelum::linux_platform {
 
 /// What the files of a machine held when they were first asked for. It takes up a bounded amount of
-/// memory: beyond that nothing more is kept, and the machine is asked again.
+/// memory: beyond that nothing more is kept, and long files are not, and the machine is asked
+/// again.
 class SeenFiles {
 public:
     using Text = std::optional<std::string>;
@@ -39,13 +41,14 @@ public:
     void keep(Kept<Answer>& kept, const std::string& path, const Answer& answer)
     {
         const std::size_t size = entry_size + path.size() + size_of(answer);
-        if (size <= left_ && kept.answers_.try_emplace(path, answer).second)
+        if (size <= std::min(left_, longest) && kept.answers_.try_emplace(path, answer).second)
             left_ -= size;
     }
 
 private:
     /// About what an answer takes besides its bytes.
     static constexpr std::size_t entry_size = 128;
+    static constexpr std::size_t longest = std::size_t{1} << 20;
 
     static std::size_t size_of(bool) { return 0; }
     static std::size_t size_of(const Text& text) { return text ? text->size() : 0; }
