@@ -25,6 +25,32 @@ if(OSTRELUM_SANITIZE)
     target_link_options(ostrelum_rules INTERFACE -fsanitize=address,undefined)
 endif()
 
+if(OSTRELUM_WHOLE AND NOT CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    set(OSTRELUM_WHOLE OFF)
+endif()
+if(OSTRELUM_WHOLE)
+    # Each object twice, ready to be linked by itself and as part of a whole: compiling it again would take minutes.
+    target_compile_options(ostrelum_rules INTERFACE -flto -ffat-lto-objects)
+    target_link_options(ostrelum_rules INTERFACE $<IF:$<BOOL:$<TARGET_PROPERTY:OSTRELUM_AS_WHOLE>>,-flto=auto,-fno-lto>)
+    add_custom_target(odr)
+endif()
+
+# ostrelum_link_whole(PROGRAM...): each program once more, linked as a whole where that is asked for.
+function(ostrelum_link_whole)
+    if(NOT OSTRELUM_WHOLE)
+        return()
+    endif()
+    foreach(program ${ARGN})
+        get_target_property(sources ${program} SOURCES)
+        get_target_property(libraries ${program} LINK_LIBRARIES)
+        add_executable(whole-${program} EXCLUDE_FROM_ALL ${sources})
+        target_link_libraries(whole-${program} PRIVATE ${libraries})
+        target_link_options(whole-${program} PRIVATE -Werror=odr -Werror=lto-type-mismatch)
+        set_target_properties(whole-${program} PROPERTIES OSTRELUM_AS_WHOLE ON)
+        add_dependencies(odr whole-${program})
+    endforeach()
+endfunction()
+
 include(Hardening)
 ostrelum_harden(ostrelum_rules)
 
