@@ -46,7 +46,9 @@ std::optional<std::uint32_t> process_count(const Sysroot& root, std::vector<Seen
             there.push_back({number, *kernels, !*kernels || known});
     };
     for (const std::string& name : root.list_unsorted("/proc")) {
-        if (const auto number = whole_number(name))
+        // The kernel writes no zeros in front, so that each number is there once.
+        const auto number = whole_number(name);
+        if (number && name.front() != '0')
             look_at(*number, name);
     }
     std::ranges::sort(there, {}, &SeenProcess::number);
