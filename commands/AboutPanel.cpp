@@ -71,6 +71,8 @@ void Informacion_Click()
     F1.LTra2.Caption = Trad[Text::Website];
     F1.BAceptar.Caption = Trad[Text::Accept];
     F1.BAceptar.Visible = F1.PicInformacion.Visible = true;
+    // Not to the link, which stands before it: Enter is to accept.
+    platform.toolkit->SetFocus(F1, &F1.BAceptar);
 }
 
 void LTra2_MouseDown(int button, int, int, int)

@@ -12,7 +12,7 @@ std::vector<HandlerTable> main_form_handlers()
     return {lifecycle_handlers,       navigation_handlers,  page_menu_handlers,
             language_handlers,        cross_fade_handlers,  copy_handlers,
             customise_panel_handlers, about_panel_handlers, live_refresh_handlers,
-            report_command_handlers};
+            report_command_handlers,  shortcut_handlers};
 }
 
 } // namespace ostrelum::inline frame

@@ -14,5 +14,6 @@ extern const HandlerTable lifecycle_handlers;
 extern const HandlerTable navigation_handlers;
 extern const HandlerTable page_menu_handlers;
 extern const HandlerTable language_handlers;
+extern const HandlerTable shortcut_handlers;
 
 } // namespace ostrelum::inline frame

@@ -78,7 +78,9 @@ void place_page(Designer& put)
     ROWS(LT, Label{.Left = 208,
                    .Top = 139 + 25 * (i - 1),
                    .Font = {.Name = "Segoe UI", .Size = 9.75, .Bold = true},
-                   .ForeColor = title_grey});
+                   .ForeColor = title_grey,
+                   .TabStop = true,
+                   .Role = LabelRole::Row});
     ROWS(L, Label{.Left = 208,
                   .Top = 139 + 25 * (i - 1),
                   .Font = {.Name = "Segoe UI", .Size = 9.75, .Italic = true},
@@ -162,7 +164,7 @@ void place_menus(Designer& put)
     ROW(Informacion, );
     ROW(VisitWeb, );
     ROW(SepOps2, .Caption = "-");
-    ROW(Quit, );
+    ROW(Quit, .Shortcut = "Ctrl+Q");
     put.on_the_form();
     ROW(MenuCopy, );
     put.inside(F1.MenuCopy);

@@ -50,8 +50,8 @@ void S_MouseDown(int index, int button, int shift, int x, int y)
 
 void LOpc_MouseUp(int button, int, int, int)
 {
-    if (button == left_button && !F1.PanelOpen)
-        platform.toolkit->popup(F1, F1.MenuOps, Point{25, 14}, &F1.Quit);
+    if (button == left_button)
+        show_options();
 }
 
 void MenuLogo_MouseUp(int button, int shift, int x, int y)
@@ -75,7 +75,7 @@ void S_MouseMove(int index, int, int, int x, int y)
 
 void LMenu2_Click()
 {
-    LMenu_MouseDown(F1.Seccion, left_button, 0, 0, 0);
+    collect_anew();
 }
 
 void BM_Click()
@@ -119,7 +119,19 @@ void LMenu_MouseDown(int index, int button, int, int, int)
     platform.toolkit->set_screen_cursor(MouseCursor::Default);
     F1.Labelmi.Caption = Trad[Text::Done];
     platform.toolkit->Refresh(F1);
+    platform.toolkit->announce(F1, F1.Titulo.Caption + ". " + F1.Labelmi.Caption);
     start_cross_fade();
+}
+
+void collect_anew()
+{
+    LMenu_MouseDown(F1.Seccion, left_button, 0, 0, 0);
+}
+
+void show_options()
+{
+    if (!F1.PanelOpen)
+        platform.toolkit->popup(F1, F1.MenuOps, Point{25, 14}, &F1.Quit);
 }
 
 void open_panel(std::uint8_t panel)

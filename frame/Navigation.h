@@ -8,6 +8,12 @@ namespace ostrelum::inline frame {
 /// it do nothing. An index outside 1 to 13 collects nothing, but ends as any opening does.
 void LMenu_MouseDown(int index, int button, int shift, int x, int y);
 
+/// Collects the open section anew.
+void collect_anew();
+
+/// Brings up the menu of the options, but not over an open panel.
+void show_options();
+
 /// Lays a panel, CustomisePanel or AboutPanel, over the page: nothing refreshes it any more, the
 /// navigation is locked, the page emptied, and its picture crosses over to the panel's.
 void open_panel(std::uint8_t panel);

@@ -21,6 +21,9 @@ bool can_copy(int row)
 
 void pop_up()
 {
+    // The keys copy the row that is chosen, or the page.
+    (F1.Copy.Enabled ? F1.Copy : F1.CopyAll).Shortcut = "Ctrl+C";
+    (F1.Copy.Enabled ? F1.CopyAll : F1.Copy).Shortcut.clear();
     platform.toolkit->popup(F1, F1.MenuCopy, std::nullopt, nullptr);
 }
 
@@ -39,7 +42,10 @@ void TapaBorde_MouseDown(int button, int shift, int x, int y)
 
 void LT_MouseDown(int index, int button, int, int, int)
 {
-    if (button != right_button || panel_on_show())
+    if (panel_on_show())
+        return;
+    platform.toolkit->SetFocus(F1, &F1.LT(index));
+    if (button != right_button)
         return;
     F1.Copy.Enabled = can_copy(index);
     F1.CopyRow = static_cast<std::uint8_t>(index);

@@ -40,6 +40,7 @@ void use_other_fonts()
 
 void write_captions()
 {
+    F2.AccessibleName = Trad[Text::MakeAndSaveReport];
     F2.Desc1.ForeColor = rgb(0, 51, 153);
     F2.Desc1.Caption = Trad[Text::MakeAndSaveReport];
     F2.Desc2.Caption = Trad[Text::ReportWait];
@@ -78,6 +79,8 @@ void StartReport()
     collect();
     platform.toolkit->DoEvents();
     F2.BSave.Enabled = F2.BClose.Enabled = true;
+    platform.toolkit->SetFocus(F2, &F2.BSave);
+    platform.toolkit->announce(F2, F2.LStatus.Caption);
     F2.BlendLevel = 0;
     F2.TAlphaB.Enabled = true;
 }

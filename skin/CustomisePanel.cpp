@@ -88,6 +88,7 @@ void Personalizar_Click()
     show_transparency();
     F1.PicPersonalizar.Visible = F1.BAceptar.Visible = true;
     F1.PanelReady = true;
+    platform.toolkit->SetFocus(F1, &F1.LangList);
 }
 
 void Scroll1_Scroll()

@@ -93,6 +93,12 @@ void MemoryToolkit::popup(Form& form, PopupMenu& popped, std::optional<Point> at
     popups.push_back(*menu);
 }
 
+void MemoryToolkit::SetFocus(Form& form, const void* control)
+{
+    if (const auto window = window_of(form))
+        window->wish_focus(place_of(form, form.entry_of(control)));
+}
+
 void MemoryToolkit::choose(const MenuItem* entry)
 {
     const auto up = std::exchange(menu, std::nullopt);

@@ -25,6 +25,8 @@ public:
     void Refresh(Form& form) override;
     void DoEvents() override;
     void popup(Form& form, PopupMenu& menu, std::optional<Point> at, const MenuItem* bold) override;
+    void SetFocus(Form& form, const void* control) override;
+    void announce(Form&, const std::string& text) override { announced.push_back(text); }
     void set_screen_cursor(MouseCursor cursor) override { cursors.push_back(cursor); }
     std::int32_t GetWindowLongA(const Form& form, int index) override;
     void SetWindowLongA(Form& form, int index, std::int32_t value) override;
@@ -78,6 +80,8 @@ public:
     std::optional<Popup> menu;
     /// The cursors of the whole screen, one after the other.
     std::vector<MouseCursor> cursors;
+    /// What a screen reader was to say, one after the other.
+    std::vector<std::string> announced;
     /// The alpha values that a form was given, one after the other.
     std::map<const Form*, std::vector<int>> alphas;
 

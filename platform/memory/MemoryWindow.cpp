@@ -17,7 +17,7 @@ MemoryControl& MemoryWindow::control(int place) const
 void MemoryWindow::sync()
 {
     frame_ = frame_of(form_);
-    focused_ = focus_after_change(form_, focused_);
+    focused_ = keyboard_.focus_after_change();
     for (const auto& each : controls_)
         each->binding().sync();
     keyboard_.show_focus();

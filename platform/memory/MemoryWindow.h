@@ -28,6 +28,8 @@ public:
     void take_input(bool takes) { takes_input_ = takes; }
     bool takes_input() const { return takes_input_; }
 
+    /// The program wishes a control to have the focus.
+    void wish_focus(int control) { keyboard_.wish_focus(control); }
     /// A menu comes up, which takes the mouse.
     void let_go_of_mouse() { mouse_.let_go(); }
     void button_down(Point at, int button, int shift = 0);

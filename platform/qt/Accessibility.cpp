@@ -1,5 +1,6 @@
 #include "platform/qt/Accessibility.h"
 
+#include "platform/qt/Announcement.h"
 #include "platform/qt/FocusFrame.h"
 #include "platform/qt/FormWindow.h"
 #include "platform/qt/LabelBinding.h"
@@ -21,7 +22,8 @@ bool is_decoration(const QWidget& widget)
 {
     if (const auto* label = dynamic_cast<const LabelWidget*>(&widget))
         return label->reading().isEmpty();
-    if (dynamic_cast<const LineWidget*>(&widget) || dynamic_cast<const FocusFrame*>(&widget))
+    if (dynamic_cast<const LineWidget*>(&widget) || dynamic_cast<const FocusFrame*>(&widget) ||
+        dynamic_cast<const Announcement*>(&widget))
         return true;
     return dynamic_cast<const PictureWidget*>(&widget) && widget.accessibleName().isEmpty() &&
            widget.focusPolicy() == Qt::NoFocus && !has_content(widget);
@@ -70,7 +72,7 @@ public:
     }
 
 protected:
-    bool can_press() const { return pressable_.focusPolicy() != Qt::NoFocus; }
+    virtual bool can_press() const { return pressable_.focusPolicy() != Qt::NoFocus; }
 
     WidgetType& pressable_;
 };
@@ -80,6 +82,7 @@ QAccessible::Role role_of(LabelRole role)
     switch (role) {
     case LabelRole::Tab: return QAccessible::PageTab;
     case LabelRole::Link: return QAccessible::Link;
+    case LabelRole::Row:
     case LabelRole::Button: break;
     }
     return QAccessible::Button;
@@ -106,6 +109,12 @@ public:
         state.selected = tab && pressable_.label->Chosen;
         return state;
     }
+
+protected:
+    bool can_press() const override
+    {
+        return PressableInterface::can_press() && pressable_.label->Role != LabelRole::Row;
+    }
 };
 
 /// A window or a picture box: its children are those that a reader has something of.
@@ -125,6 +134,23 @@ public:
     }
 };
 
+class WindowInterface : public HolderInterface<QAccessibleWidget> {
+public:
+    explicit WindowInterface(FormWindow& window)
+        : HolderInterface(&window, window.windowType() == Qt::Dialog ? QAccessible::Dialog
+                                                                     : QAccessible::Window),
+          window_(window)
+    {
+    }
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Name ? window_.reading() : HolderInterface::text(kind);
+    }
+
+private:
+    const FormWindow& window_;
+};
+
 QAccessibleInterface* interface_of(const QString&, QObject* object)
 {
     if (auto* label = dynamic_cast<LabelWidget*>(object))
@@ -135,7 +161,9 @@ QAccessibleInterface* interface_of(const QString&, QObject* object)
             *picture, holder ? QAccessible::Grouping : QAccessible::Graphic);
     }
     if (auto* window = dynamic_cast<FormWindow*>(object))
-        return new HolderInterface<QAccessibleWidget>(window, QAccessible::Window);
+        return new WindowInterface(*window);
+    if (auto* announcement = dynamic_cast<Announcement*>(object))
+        return new QAccessibleWidget(announcement, QAccessible::Notification);
     return nullptr;
 }
 

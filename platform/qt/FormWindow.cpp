@@ -74,7 +74,7 @@ QWidget* FormWindow::widget(int place) const
 void FormWindow::sync()
 {
     sync_frame();
-    const int focus = focus_after_change(form_, focused());
+    const int focus = keyboard_.focus_after_change();
     for (const ControlWidget& control : controls_) {
         if (control.binding)
             control.binding->sync();
@@ -99,6 +99,16 @@ void FormWindow::tell_readers()
         }
         told = std::move(reading);
     }
+}
+
+void FormWindow::announce(const std::string& text)
+{
+    announcement_.say(qt_text(text));
+}
+
+QString FormWindow::reading() const
+{
+    return qt_text(reading_of(form_, form_itself));
 }
 
 void FormWindow::sync_frame()
@@ -209,10 +219,17 @@ bool FormWindow::focusNextPrevChild(bool next)
 }
 
 /// Sees the events of the window and of all its widgets, before they get them.
-bool FormWindow::eventFilter(QObject*, QEvent* event)
+bool FormWindow::eventFilter(QObject* object, QEvent* event)
 {
     if (event->type() == QEvent::MouseButtonPress)
         keyboard_.set_in_use(false);
+    if (event->type() == QEvent::KeyPress && object != this) {
+        // A list would look for an entry with the letter.
+        const auto& key = static_cast<QKeyEvent&>(*event);
+        const int shift = number_of(key.modifiers());
+        return KeyboardInput::is_shortcut(key_of(key), shift) &&
+               keyboard_.key(key_of(key), shift, key.isAutoRepeat());
+    }
     return false;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/qt/Announcement.h"
 #include "platform/qt/ControlWidget.h"
 #include "platform/qt/FocusFrame.h"
 #include "platform/toolkit/FormFrame.h"
@@ -21,6 +22,12 @@ public:
                std::function<void()> asked_to_close);
 
     WindowEvents& events() { return events_; }
+    /// The program wishes a control to have the focus.
+    void wish_focus(int control) { keyboard_.wish_focus(control); }
+    /// Lets a screen reader say a text.
+    void announce(const std::string& text);
+    /// What a screen reader calls the window.
+    QString reading() const;
     /// A menu comes up, which takes the mouse.
     void let_go_of_mouse() { mouse_.let_go(); }
     /// The widget of the control at a place of the form; nullptr for what has none.
@@ -59,6 +66,7 @@ private:
     std::function<void()> asked_to_close_;
     std::vector<ControlWidget> controls_;
     FocusFrame focus_frame_;
+    Announcement announcement_{*this};
     /// What the frame shows.
     std::optional<FormFrame> shown_;
     /// What a screen reader was last told of each control.

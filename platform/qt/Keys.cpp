@@ -7,6 +7,8 @@ Key key_of(const QKeyEvent& event)
     switch (event.key()) {
     case Qt::Key_Up: return Key::Up;
     case Qt::Key_Down: return Key::Down;
+    case Qt::Key_Left: return Key::Left;
+    case Qt::Key_Right: return Key::Right;
     case Qt::Key_Home: return Key::Home;
     case Qt::Key_End: return Key::End;
     case Qt::Key_Return:
@@ -14,7 +16,10 @@ Key key_of(const QKeyEvent& event)
     case Qt::Key_Space: return Key::Space;
     case Qt::Key_Escape: return Key::Escape;
     case Qt::Key_Menu: return Key::Menu;
+    case Qt::Key_F5: return Key::F5;
     case Qt::Key_F10: return Key::F10;
+    case Qt::Key_C: return Key::C;
+    case Qt::Key_Q: return Key::Q;
     default: return Key::Other;
     }
 }

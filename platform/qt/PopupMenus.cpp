@@ -12,7 +12,9 @@ QAction* add_entry(QMenu& shown, const MenuItem& item)
 {
     if (is_separator(item))
         return shown.addSeparator();
-    QAction* action = shown.addAction(qt_text(item.Caption));
+    // What stands behind a tabulator is written as a shortcut; the window hears the keys.
+    const QString shortcut = item.Shortcut.empty() ? QString() : u'\t' + qt_text(item.Shortcut);
+    QAction* action = shown.addAction(qt_text(item.Caption) + shortcut);
     action->setEnabled(item.Enabled);
     return action;
 }

@@ -168,6 +168,18 @@ void QtToolkit::popup(Form& form, PopupMenu& menu, std::optional<Point> at, cons
     pop_up(*window, menu, place, bold);
 }
 
+void QtToolkit::SetFocus(Form& form, const void* control)
+{
+    if (FormWindow* window = window_of(form))
+        window->wish_focus(place_of(form, form.entry_of(control)));
+}
+
+void QtToolkit::announce(Form& form, const std::string& text)
+{
+    if (FormWindow* window = window_of(form))
+        window->announce(text);
+}
+
 void QtToolkit::set_screen_cursor(MouseCursor cursor)
 {
     cursors_.set_screen(cursor);

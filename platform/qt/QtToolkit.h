@@ -23,6 +23,8 @@ public:
     void Refresh(Form& form) override;
     void DoEvents() override;
     void popup(Form& form, PopupMenu& menu, std::optional<Point> at, const MenuItem* bold) override;
+    void SetFocus(Form& form, const void* control) override;
+    void announce(Form& form, const std::string& text) override;
     void set_screen_cursor(MouseCursor cursor) override;
     std::int32_t GetWindowLongA(const Form& form, int index) override;
     void SetWindowLongA(Form& form, int index, std::int32_t value) override;

@@ -34,9 +34,9 @@ struct FontSpec {
 
 enum class MouseCursor { Default, Arrow, Hourglass, Hand };
 enum class Align { Left, Right, Centre };
-/// What a screen reader calls a label that the keyboard reaches: something to press, one of several
-/// pages, or an address to open.
-enum class LabelRole { Button, Tab, Link };
+/// What a label is that the keyboard reaches: something to press, one of several pages, an address
+/// to open, or a line of a page to read and copy.
+enum class LabelRole { Button, Tab, Link, Row };
 
 struct Label {
     std::string Caption;
@@ -53,7 +53,8 @@ struct Label {
     std::string ToolTipText;
     MouseCursor MousePointer = MouseCursor::Default;
     bool Visible = true;
-    /// The keyboard reaches it; Enter or Space acts as a press of the left button.
+    /// The keyboard reaches it, a row only with a text; Enter or Space acts as a press of the left
+    /// button.
     bool TabStop = false;
     LabelRole Role = LabelRole::Button;
     /// Of tabs: the one whose page is open.
@@ -175,6 +176,8 @@ struct MenuItem {
     /// "-" is a separator.
     std::string Caption;
     bool Enabled = true;
+    /// The keys that do the same, as they stand beside the entry. The form itself hears them.
+    std::string Shortcut;
     bool operator==(const MenuItem&) const = default;
 };
 

@@ -15,6 +15,8 @@ struct Caller {
     {
         call(event.index, event.button, event.shift, event.x, event.y);
     }
+    void operator()(Handler::Keys call) const { call(event.key, event.shift); }
+    void operator()(Handler::IndexedKeys call) const { call(event.index, event.key, event.shift); }
     void operator()(Handler::Cancelling call) const
     {
         bool unasked = false;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/toolkit/Keys.h"
+
 #include <array>
 #include <span>
 #include <string_view>
@@ -19,6 +21,7 @@ enum class EventKind {
     Change,
     Scroll,
     Timer,
+    KeyDown,
 };
 
 /// Numbers of the mouse buttons as events give them.
@@ -37,6 +40,7 @@ struct Event {
     /// Pixels inside the control.
     int x = 0;
     int y = 0;
+    Key key = Key::Other;
     /// Of an Unload: set to keep the window.
     bool* cancel = nullptr;
 };
@@ -49,8 +53,10 @@ struct Handler {
     using Indexed = void (*)(int index);
     using Mouse = void (*)(int button, int shift, int x, int y);
     using IndexedMouse = void (*)(int index, int button, int shift, int x, int y);
+    using Keys = void (*)(Key key, int shift);
+    using IndexedKeys = void (*)(int index, Key key, int shift);
     using Cancelling = void (*)(bool& cancel);
-    using Call = std::variant<Plain, Indexed, Mouse, IndexedMouse, Cancelling>;
+    using Call = std::variant<Plain, Indexed, Mouse, IndexedMouse, Keys, IndexedKeys, Cancelling>;
 
     std::string_view control;
     EventKind kind;
@@ -68,7 +74,7 @@ struct Handler {
 private:
     static consteval EventKind kind_of(std::string_view word)
     {
-        constexpr std::array<std::pair<std::string_view, EventKind>, 10> words{{
+        constexpr std::array<std::pair<std::string_view, EventKind>, 11> words{{
             {"Initialize", EventKind::Initialize},
             {"Load", EventKind::Load},
             {"Unload", EventKind::Unload},
@@ -79,6 +85,7 @@ private:
             {"Change", EventKind::Change},
             {"Scroll", EventKind::Scroll},
             {"Timer", EventKind::Timer},
+            {"KeyDown", EventKind::KeyDown},
         }};
         for (const auto& [text, kind] : words) {
             if (text == word)

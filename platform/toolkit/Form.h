@@ -54,6 +54,8 @@ public:
     std::array<Picture, 2> Icon;
     bool MinButton = false;
     MouseCursor MousePointer = MouseCursor::Default;
+    /// What a screen reader calls the window; empty for its caption.
+    std::string AccessibleName;
 
     std::vector<ControlEntry> controls;
     std::vector<HandlerTable> handlers;

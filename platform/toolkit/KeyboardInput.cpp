@@ -3,8 +3,6 @@
 namespace ostrelum::inline toolkit {
 namespace {
 
-constexpr int shift_key = 1;
-
 const CommandButton* button_at(const Form& form, int control)
 {
     if (control == form_itself || !takes_focus(form, control))
@@ -26,6 +24,14 @@ void KeyboardInput::show_focus()
     view_.mark(in_use_ ? view_.focused() : form_itself);
 }
 
+int KeyboardInput::focus_after_change()
+{
+    const int wished = std::exchange(wished_, form_itself);
+    if (wished != form_itself && takes_focus(events_.form(), wished))
+        return wished;
+    return toolkit::focus_after_change(events_.form(), view_.focused());
+}
+
 bool KeyboardInput::key(Key key, int shift, bool repeated)
 {
     const Form& form = events_.form();
@@ -33,15 +39,46 @@ bool KeyboardInput::key(Key key, int shift, bool repeated)
     case Key::Tab: return move_focus(next_by_tab(form, view_.focused(), (shift & shift_key) == 0));
     case Key::Up:
     case Key::Down:
+    case Key::Left:
+    case Key::Right:
     case Key::Home:
     case Key::End: return move_focus(next_by_arrow(form, view_.focused(), key));
     case Key::Enter: return repeated || enter();
     case Key::Space: return repeated || press_focused();
     case Key::Escape: return click_button(&CommandButton::Cancel);
     case Key::Menu: return menu_key();
-    case Key::F10: return (shift & shift_key) != 0 && menu_key();
+    case Key::F10:
+        if ((shift & shift_key) != 0)
+            return menu_key();
+        break;
+    default: break;
+    }
+    return is_shortcut(key, shift) && shortcut(key, shift, repeated);
+}
+
+bool KeyboardInput::is_shortcut(Key key, int shift)
+{
+    switch (key) {
+    case Key::F5:
+    case Key::F10: return (shift & shift_key) == 0;
+    case Key::C:
+    case Key::Q: return (shift & control_key) != 0;
     default: return false;
     }
+}
+
+/// For the control with the focus if it listens, else for the form.
+bool KeyboardInput::shortcut(Key key, int shift, bool repeated)
+{
+    const Form& form = events_.form();
+    int target = view_.focused();
+    if (!form.listens(name_of(form, target), EventKind::KeyDown))
+        target = form_itself;
+    if (!form.listens(name_of(form, target), EventKind::KeyDown))
+        return false;
+    if (!repeated)
+        events_.raise(target, {.kind = EventKind::KeyDown, .shift = shift, .key = key});
+    return true;
 }
 
 bool KeyboardInput::move_focus(int control)

@@ -31,8 +31,15 @@ public:
     /// A key that no control wanted. `shift` as in Event; `repeated` for one that is held down.
     /// False if it means nothing here either.
     bool key(Key key, int shift, bool repeated);
+    /// Whether a key means the same wherever the focus is, so that a control must not have it
+    /// first.
+    static bool is_shortcut(Key key, int shift);
     /// The user works with the keyboard, or with the mouse: only the first sees where the focus is.
     void set_in_use(bool in_use);
+    /// The program wishes a control to have the focus.
+    void wish_focus(int control) { wished_ = control; }
+    /// Where the focus belongs after the program changed the form.
+    int focus_after_change();
     /// Marks the control that has the focus now.
     void show_focus();
 
@@ -43,11 +50,13 @@ private:
     /// Clicks the first button to be seen that has the mark.
     bool click_button(bool CommandButton::*mark);
     bool menu_key();
+    bool shortcut(Key key, int shift, bool repeated);
 
     WindowEvents& events_;
     MouseInput& mouse_;
     FocusView& view_;
     bool in_use_ = false;
+    int wished_ = form_itself;
 };
 
 } // namespace ostrelum::inline toolkit

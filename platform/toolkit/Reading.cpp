@@ -48,7 +48,7 @@ struct ReadingOf {
 std::string reading_of(const Form& form, int control)
 {
     if (control == form_itself)
-        return form.Caption;
+        return form.AccessibleName.empty() ? form.Caption : form.AccessibleName;
     const ControlEntry& entry = entry_at(form, control);
     return std::visit(ReadingOf{form, entry}, entry.control);
 }

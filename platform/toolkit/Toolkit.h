@@ -50,6 +50,12 @@ public:
     virtual void popup(Form& form, PopupMenu& menu, std::optional<Point> at,
                        const MenuItem* bold) = 0;
 
+    /// Gives the focus to a control of the form when what the running event changed is shown, if
+    /// the control then takes it.
+    virtual void SetFocus(Form& form, const void* control) = 0;
+    /// Lets a screen reader say a text, once and at once.
+    virtual void announce(Form& form, const std::string& text) = 0;
+
     /// The mouse cursor of the whole screen; Default gives each control its own back.
     virtual void set_screen_cursor(MouseCursor cursor) = 0;
 

@@ -51,6 +51,26 @@ TEST_F(Navigation, WordAndLogoPopUpTheOptionsToo)
     }
 }
 
+TEST_F(Navigation, KeysOpenTheOptionsCollectAnewAndEnd)
+{
+    const auto window = toolkit.window_of(F1);
+    F1.L(1).Caption = "old";
+    window->press_key(Key::F5);
+    EXPECT_NE(F1.L(1).Caption, "old");
+    EXPECT_EQ(toolkit.announced.back(), "Summary. Done");
+    window->press_key(Key::F10);
+    EXPECT_EQ(toolkit.popups.back().menu, &F1.MenuOps);
+    click("Personalizar");
+    toolkit.Refresh(F1);
+    EXPECT_EQ(window->focused(), place_of(F1, F1.entry_of(&F1.LangList)));
+    for (const Key key : {Key::F5, Key::F10, Key::C})
+        window->press_key(key, key == Key::C ? control_key : 0);
+    EXPECT_TRUE(F1.PanelOpen && toolkit.popups.size() == 1U && !clipboard.text)
+        << "an open panel locks them";
+    window->press_key(Key::Q, control_key);
+    EXPECT_TRUE(F1.TUnload.Enabled) << "the window fades out";
+}
+
 TEST_F(Navigation, NoValueReachesTheBands)
 {
     const ControlEntry* value = F1.find("L", 12);

@@ -72,6 +72,9 @@ TEST_F(ReportDialog, WithoutTransparencyBuildsAtTheFirstTickAndCrossesItsPicture
         EXPECT_EQ(timers_on(), Names{"TAlphaB"});
         EXPECT_EQ(F2.LStatus.Caption, "Report made at 0 second/s");
         EXPECT_TRUE(F2.BSave.Enabled && F2.BClose.Enabled);
+        EXPECT_EQ(toolkit.announced.back(), F2.LStatus.Caption);
+        toolkit.Refresh(F2);
+        EXPECT_EQ(toolkit.window_of(F2)->focused(), place_of(F2, F2.entry_of(&F2.BSave)));
         EXPECT_TRUE(F2.Tb.empty());
         EXPECT_FALSE(F2.Tb1.empty() || F2.Tb2.empty() || F2.Tb3.empty() || F2.Tb4.empty());
         const Picture design = F2.Pic1.Stored;

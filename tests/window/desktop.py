@@ -155,6 +155,15 @@ class Desktop:
         reader = Path(__file__).with_name("read_screen.py")
         return self.call("/usr/bin/python3", str(reader)).splitlines()
 
+    def listen(self):
+        """The file with what a screen reader says by itself from now on, one text a line."""
+        path = self.home / "heard"
+        with path.open("w", encoding="utf-8") as heard:
+            reader = Path(__file__).with_name("hear_announcements.py")
+            self.processes.append(subprocess.Popen(["/usr/bin/python3", str(reader)], env=self.environment, stdout=heard))
+        assert wait_for(path.read_text), "nobody listens"
+        return path
+
     def close(self):
         for process in reversed(self.processes):
             if process.poll() is None:

@@ -38,7 +38,7 @@ class PanelTest(WindowTest):
             before = desktop.pixel(window, *SKIN)
             open_options(desktop, window, 1)
             self.assertShows(desktop, "label: Customize")
-            desktop.keys(window, "Tab", "Down", "Tab", *["Page_Down"] * 2)
+            desktop.keys(window, "Down", "Tab", *["Page_Down"] * 2)
             self.assertShows(desktop, "label: Personalizar")
             tinted = wait_for(lambda: not near(desktop.pixel(window, *SKIN), before, 8))
             self.assertTrue(tinted, "the skin follows the slider")

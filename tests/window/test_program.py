@@ -90,6 +90,24 @@ class ProgramTest(WindowTest):
             desktop.call("xdotool", "key", "Up", "Return")
             self.assertEqual(program.wait(10), 0, "the last entry of the menu ends the program")
 
+    def test_rows_are_read_and_copied_and_the_page_is_collected_anew_by_keys(self):
+        with Desktop() as desktop:
+            heard = desktop.listen()
+            program = desktop.start_program()
+            window = desktop.window()
+            desktop.keys(window, "Tab", "Tab", *["Down"] * 7, "Return")
+            self.assertTrue(wait_for(lambda: "Bios. Done\n" in heard.read_text()), heard.read_text())
+            desktop.keys(window, "Right", "Down", "ctrl+c")
+            self.assertRegex(wait_for(desktop.clipboard), "^Manufacturer: .*")
+            desktop.keys(window, "F5")
+            self.assertTrue(wait_for(lambda: heard.read_text().count("Bios. Done\n") == 2), heard.read_text())
+            desktop.keys(window, "Up", "ctrl+c")
+            self.assertTrue(wait_for(lambda: desktop.clipboard().startswith("Name: ")), "the row kept the focus")
+            desktop.keys(window, "F10", "Down", "Return")
+            self.assertShows(desktop, "label: Customize")
+            desktop.keys(window, "ctrl+q")
+            self.assertEqual(program.wait(10), 0)
+
 
 if __name__ == "__main__":
     unittest.main()

@@ -29,8 +29,10 @@ class ReportTest(unittest.TestCase):
         with Desktop() as desktop:
             program = desktop.start_program()
             main = desktop.window()
+            heard = desktop.listen()
             dialog = self.open_report(desktop, main)
-            self.assertTrue(wait_for(lambda: any("Report made at" in line for line in desktop.labels()), 30, 0.3))
+            self.assertTrue(wait_for(lambda: "Report made at" in heard.read_text(), 30, 0.3), "nobody says that it is made")
+            self.assertIn("dialog: Make and save report as...", desktop.labels())
             file = desktop.home / "report.rtf"
             desktop.keys(dialog, "Return")
             self.type_path(desktop, desktop.home / "report")

@@ -44,6 +44,12 @@ std::optional<LRESULT> FormWindow::answer(int control, const Message& message)
     case WM_SYSKEYDOWN: return answer_key(control, message);
     // Menus come from presses of the mouse and from answer_key().
     case WM_CONTEXTMENU: return 0;
+    // Alt, pressed and let go alone, is another way to the options; with a letter it is not ours.
+    case WM_SYSCOMMAND:
+        if ((message.first & 0xFFF0) != SC_KEYMENU || message.second != 0)
+            return std::nullopt;
+        keyboard_.key(Key::F10, 0, false);
+        return 0;
     case WM_SETFOCUS: focus_came(control); return std::nullopt;
     case WM_COMMAND:
     case WM_HSCROLL: return answer_child(message);
@@ -54,7 +60,8 @@ std::optional<LRESULT> FormWindow::answer(int control, const Message& message)
     case WM_GETOBJECT:
     case what_is_spoken:
     case press_control:
-        return control == form_itself ? std::nullopt : answer_reader(control, message);
+        return control == form_itself ? answer_reader_of_form(message)
+                                      : answer_reader(control, message);
     default: return answer_mouse(control, message);
     }
 }

@@ -22,6 +22,7 @@ Part part_of(LabelRole role, bool chosen)
         return {ROLE_SYSTEM_PAGETAB, STATE_SYSTEM_SELECTABLE | (chosen ? STATE_SYSTEM_SELECTED : 0),
                 L"Switch"};
     case LabelRole::Link: return {ROLE_SYSTEM_LINK, STATE_SYSTEM_LINKED, L"Jump", {}};
+    case LabelRole::Row: return {ROLE_SYSTEM_STATICTEXT, STATE_SYSTEM_READONLY, L"", {}};
     case LabelRole::Button: break;
     }
     return {ROLE_SYSTEM_PUSHBUTTON, 0, L"Press", {}};
@@ -61,6 +62,22 @@ bool speaks_for_itself(const Form& form, int control)
 }
 
 } // namespace
+
+/// A window with a name of its own is a dialog; of any other the caption says enough.
+std::optional<LRESULT> FormWindow::answer_reader_of_form(const Message& message)
+{
+    if (form_.AccessibleName.empty() || message.number == press_control)
+        return std::nullopt;
+    if (message.number == WM_GETOBJECT) {
+        const bool asks_for_client = static_cast<LONG>(message.second) == LONG{OBJID_CLIENT};
+        const LRESULT object = asks_for_client ? accessible_object(handle(), message.first) : 0;
+        return object != 0 ? std::optional(object) : std::nullopt;
+    }
+    auto& spoken = *reinterpret_cast<Spoken*>(message.second);
+    spoken.name = wide(reading_of(form_, form_itself));
+    spoken.role = ROLE_SYSTEM_DIALOG;
+    return TRUE;
+}
 
 std::optional<LRESULT> FormWindow::answer_reader(int control, const Message& message)
 {

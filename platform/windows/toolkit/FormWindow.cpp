@@ -37,7 +37,7 @@ FormWindow::FormWindow(const Form& form, SharedLook look, DWORD extended_style, 
       window_(CreateWindowExW(extended_style, window_class(), L"", style_, CW_USEDEFAULT,
                               CW_USEDEFAULT, 0, 0, owner, nullptr, GetModuleHandleW(nullptr),
                               nullptr)),
-      tooltips_(handle()), focus_frame_(handle())
+      tooltips_(handle()), focus_frame_(handle()), announcement_(handle())
 {
     scale_ = look_.scale = scale_of_window(handle());
     for (const ControlEntry& entry : form_.controls)
@@ -118,7 +118,7 @@ HWND FormWindow::window(int control) const
 void FormWindow::sync()
 {
     sync_frame();
-    const int focus = focus_after_change(form_, focus_);
+    const int focus = keyboard_.focus_after_change();
     for (const ControlParts& control : controls_) {
         if (control.binding)
             control.binding->sync();

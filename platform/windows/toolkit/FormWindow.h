@@ -2,6 +2,7 @@
 
 #include "platform/toolkit/FormFrame.h"
 #include "platform/toolkit/KeyboardInput.h"
+#include "platform/windows/toolkit/Announcement.h"
 #include "platform/windows/toolkit/ControlWindow.h"
 #include "platform/windows/toolkit/Cursors.h"
 #include "platform/windows/toolkit/FocusFrame.h"
@@ -38,6 +39,10 @@ public:
     void sync();
     /// Brings the window up in the centre of the screen, together with its frame.
     void bring_up();
+    /// The program wishes a control to have the focus.
+    void wish_focus(int control) { keyboard_.wish_focus(control); }
+    /// Lets a screen reader say a text.
+    void announce(const std::string& text) { announcement_.say(text); }
     /// A menu comes up once no other event runs.
     void pop_up(const MenuRequest& request);
     /// Closes the window for good: it raises no event any more.
@@ -86,6 +91,7 @@ private:
     std::optional<LRESULT> let_go(int control, int button, const Message& message);
     std::optional<LRESULT> answer_key(int control, const Message& message);
     std::optional<LRESULT> answer_child(const Message& message);
+    std::optional<LRESULT> answer_reader_of_form(const Message& message);
     std::optional<LRESULT> answer_reader(int control, const Message& message);
     void tell_readers();
     std::optional<LRESULT> colours_under(HWND child, HDC dc) const;
@@ -103,6 +109,7 @@ private:
     Tooltips tooltips_;
     std::vector<ControlParts> controls_;
     FocusFrame focus_frame_;
+    Announcement announcement_;
     OwnedIcon icons_[2];
     std::optional<FormFrame> shown_;
     /// What a screen reader was last told of each control.

@@ -18,7 +18,10 @@ Key key_of(WPARAM code)
     case VK_SPACE: return Key::Space;
     case VK_ESCAPE: return Key::Escape;
     case VK_APPS: return Key::Menu;
+    case VK_F5: return Key::F5;
     case VK_F10: return Key::F10;
+    case 'C': return Key::C;
+    case 'Q': return Key::Q;
     default: return Key::Other;
     }
 }

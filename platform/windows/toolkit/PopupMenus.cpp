@@ -20,8 +20,10 @@ OwnedMenu make_menu(const Form& form, const MenuRequest& request)
     for (const int entry : entries_of(form, *request.menu)) {
         const auto* item = std::get<MenuItem*>(entry_at(form, entry).control);
         const UINT kind = is_separator(*item) ? MF_SEPARATOR : MF_STRING;
+        // What stands behind a tabulator the system writes on the right.
+        const std::string shortcut = item->Shortcut.empty() ? "" : "\t" + item->Shortcut;
         AppendMenuW(shown.get(), kind | (item->Enabled ? MF_ENABLED : MF_GRAYED), number_of(entry),
-                    wide(without_mnemonics(item->Caption)).c_str());
+                    wide(without_mnemonics(item->Caption) + shortcut).c_str());
         // The system writes the default entry in bold letters.
         if (item == request.bold)
             SetMenuDefaultItem(shown.get(), number_of(entry), FALSE);

@@ -174,6 +174,18 @@ void WindowsToolkit::popup(Form& form, PopupMenu& menu, std::optional<Point> at,
     window->pop_up({&menu, place, bold});
 }
 
+void WindowsToolkit::SetFocus(Form& form, const void* control)
+{
+    if (FormWindow* window = window_of(form))
+        window->wish_focus(place_of(form, form.entry_of(control)));
+}
+
+void WindowsToolkit::announce(Form& form, const std::string& text)
+{
+    if (FormWindow* window = window_of(form))
+        window->announce(text);
+}
+
 void WindowsToolkit::set_screen_cursor(MouseCursor cursor)
 {
     cursors_.screen = cursor;

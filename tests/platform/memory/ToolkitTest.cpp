@@ -162,7 +162,8 @@ std::vector<MenuEntry> MemoryDriver::menu() const
     const Form& form = *toolkit_.menu->form;
     for (const int place : entries_of(form, *toolkit_.menu->menu)) {
         const auto* item = std::get<MenuItem*>(entry_at(form, place).control);
-        entries.push_back({item->Caption, item->Enabled, item == toolkit_.menu->bold});
+        entries.push_back(
+            {item->Caption, item->Enabled, item == toolkit_.menu->bold, item->Shortcut});
     }
     return entries;
 }

@@ -19,12 +19,23 @@ struct Pair {
     Theirs theirs;
 };
 
-constexpr Pair<Key, Qt::Key> keys[] = {
-    {Key::Tab, Qt::Key_Tab},      {Key::Up, Qt::Key_Up},         {Key::Down, Qt::Key_Down},
-    {Key::Left, Qt::Key_Left},    {Key::Right, Qt::Key_Right},   {Key::Home, Qt::Key_Home},
-    {Key::End, Qt::Key_End},      {Key::PageUp, Qt::Key_PageUp}, {Key::PageDown, Qt::Key_PageDown},
-    {Key::Enter, Qt::Key_Return}, {Key::Space, Qt::Key_Space},   {Key::Escape, Qt::Key_Escape},
-    {Key::Menu, Qt::Key_Menu},    {Key::F10, Qt::Key_F10}};
+constexpr Pair<Key, Qt::Key> keys[] = {{Key::Tab, Qt::Key_Tab},
+                                       {Key::Up, Qt::Key_Up},
+                                       {Key::Down, Qt::Key_Down},
+                                       {Key::Left, Qt::Key_Left},
+                                       {Key::Right, Qt::Key_Right},
+                                       {Key::Home, Qt::Key_Home},
+                                       {Key::End, Qt::Key_End},
+                                       {Key::PageUp, Qt::Key_PageUp},
+                                       {Key::PageDown, Qt::Key_PageDown},
+                                       {Key::Enter, Qt::Key_Return},
+                                       {Key::Space, Qt::Key_Space},
+                                       {Key::Escape, Qt::Key_Escape},
+                                       {Key::Menu, Qt::Key_Menu},
+                                       {Key::F10, Qt::Key_F10},
+                                       {Key::F5, Qt::Key_F5},
+                                       {Key::C, Qt::Key_C},
+                                       {Key::Q, Qt::Key_Q}};
 constexpr Pair<int, Qt::MouseButton> buttons[] = {{left_button, Qt::LeftButton},
                                                   {right_button, Qt::RightButton},
                                                   {middle_button, Qt::MiddleButton}};
@@ -48,6 +59,12 @@ Qt::KeyboardModifiers modifiers_of(int shift)
     return (shift & 1 ? Qt::ShiftModifier : Qt::NoModifier) |
            (shift & 2 ? Qt::ControlModifier : Qt::NoModifier) |
            (shift & 4 ? Qt::AltModifier : Qt::NoModifier);
+}
+
+/// What an entry of a menu shows: its text, and behind it the shortcut.
+std::string piece(const QAction& action, int which)
+{
+    return action.text().split(u'\t').value(which).toStdString();
 }
 
 QMenu* open_menu()
@@ -195,8 +212,8 @@ std::vector<MenuEntry> QtDriver::menu() const
     std::vector<MenuEntry> entries;
     if (const QMenu* menu = open_menu()) {
         for (const QAction* action : menu->actions())
-            entries.push_back({action->isSeparator() ? "-" : action->text().toStdString(),
-                               action->isEnabled(), action->font().bold()});
+            entries.push_back({action->isSeparator() ? "-" : piece(*action, 0), action->isEnabled(),
+                               action->font().bold(), piece(*action, 1)});
     }
     return entries;
 }
@@ -209,7 +226,7 @@ void QtDriver::choose(Form&, const MenuItem* entry)
         return;
     }
     for (QAction* action : menu->actions()) {
-        if (action->text().toStdString() == entry->Caption)
+        if (piece(*action, 0) == entry->Caption)
             QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
     }
     if (open_menu())

@@ -47,6 +47,7 @@ struct MenuEntry {
     std::string caption;
     bool enabled = true;
     bool bold = false;
+    std::string shortcut;
     bool operator==(const MenuEntry&) const = default;
 };
 

@@ -45,6 +45,73 @@ TEST_P(Conformance, ArrowsMoveAmongTheEntriesAndEnterAndSpacePressThem)
     }
 }
 
+TEST_P(Conformance, RowsWithATextAreOneTabStopBehindAllOthersAndArrowsWalkThem)
+{
+    form.Row(1).Caption = form.Row(3).Caption = "Text";
+    form.Menu(2).Chosen = true;
+    for (int i = 1; i <= 3; ++i)
+        form.Menu(i).Role = LabelRole::Tab;
+    toolkit.Refresh(form);
+    const int first = place(form.Row(1)), last = place(form.Row(3));
+    const struct {
+        Key key;
+        int shift, next;
+    } moves[] = {{Key::Tab, shift, first},
+                 {Key::Tab, shift, place(form.Pick)},
+                 {Key::Tab, 0, first},
+                 {Key::Tab, 0, place(form.Menu(1))},
+                 {Key::Right, 0, first},
+                 {Key::Up, 0, first},
+                 {Key::Down, 0, last},
+                 {Key::Down, 0, last},
+                 {Key::Home, 0, first},
+                 {Key::End, 0, last},
+                 {Key::Left, 0, place(form.Menu(2))},
+                 {Key::Right, 0, first}};
+    for (const auto& move : moves) {
+        key(move.key, move.shift);
+        EXPECT_EQ(focused(), move.next) << &move - moves;
+    }
+    form.Row(1).Caption.clear();
+    toolkit.Refresh(form);
+    EXPECT_EQ(focused(), form_itself) << "there is nothing to read any more";
+    key(Key::Up);
+    EXPECT_EQ(focused(), last) << "the page is reached from the window";
+}
+
+TEST_P(Conformance, ShortcutsGoToTheControlWithTheFocusThatListensElseToTheForm)
+{
+    form.Row(2).Caption = "Text";
+    key(Key::F5);
+    key(Key::Tab);
+    key(Key::C, control_key);
+    EXPECT_EQ(take_calls(), (Calls{"Form_KeyDown F5", "Form_KeyDown other"}));
+    key(Key::Tab, shift);
+    ASSERT_EQ(focused(), place(form.Row(2)));
+    key(Key::C, control_key);
+    EXPECT_EQ(take_calls(), Calls{"Row_KeyDown(2) C"});
+    key(Key::Tab, shift);
+    ASSERT_EQ(focused(), place(form.Pick));
+    key(Key::Q, control_key);
+    EXPECT_EQ(take_calls(), Calls{"Form_KeyDown other"}) << "not a letter of the list's";
+}
+
+TEST_P(Conformance, TheProgramGivesTheFocusToWhatTakesIt)
+{
+    acts["Ok_Click"] = [&] {
+        form.Tick.Visible = true;
+        toolkit.SetFocus(form, &form.Tick);
+    };
+    acts["No_Click"] = [&] { toolkit.SetFocus(form, &form.Slide); };
+    form.Tick.Visible = form.Slide.Enabled = false;
+    toolkit.Refresh(form);
+    key(Key::Escape);
+    EXPECT_EQ(focused(), form_itself) << "what is disabled takes none";
+    form.Slide.Enabled = true;
+    key(Key::Enter);
+    EXPECT_EQ(focused(), place(form.Tick)) << "it shows by the same event";
+}
+
 TEST_P(Conformance, EnterAndEscapePressTheirButtons)
 {
     key(Key::Enter);

@@ -6,13 +6,13 @@ namespace {
 
 constexpr int shift = 1;
 const std::vector<MenuEntry> entries{
-    {"First", false, false}, {"-", true, false}, {"Last", true, true}};
+    {"First", false, false}, {"-", true, false}, {"Last", true, true, "Ctrl+Q"}};
 
 TEST_P(Conformance, TheMenuKeyFallsBackToTheForm)
 {
     key(Key::Tab);
     key(Key::F10);
-    EXPECT_EQ(take_calls(), Calls{}) << "without Shift it is no menu key";
+    EXPECT_EQ(take_calls(), Calls{"Form_KeyDown F10"}) << "without Shift it is no menu key";
     key(Key::F10, shift);
     EXPECT_EQ(take_calls(), (Calls{"Menu_MouseDown(1) 2 0 29,9", "Menu_MouseUp(1) 2 0 29,9",
                                    "Form_MouseDown 2 0 149,99"}));

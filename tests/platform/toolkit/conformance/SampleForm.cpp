@@ -30,6 +30,8 @@ void note_mouse(const std::string& name, int index, int button, int shift, int x
 MOUSE(Column_MouseDown) MOUSE(Column_MouseMove) PLAIN(Column_Click)
 INDEXED_MOUSE(Menu_MouseDown) INDEXED_MOUSE(Menu_MouseUp)
 void Menu_Click(int index) { note("Menu_Click", index); }
+void Row_KeyDown(int index, Key key, int shift) { note("Row_KeyDown", index, key == Key::C && shift == control_key ? " C" : " other"); }
+void Form_KeyDown(Key key, int shift) { note("Form_KeyDown", 0, key == Key::F5 && shift == 0 ? " F5" : key == Key::F10 ? " F10" : " other"); }
 PLAIN(Bar_Click) PLAIN(Ok_Click) PLAIN(No_Click) PLAIN(Slide_Scroll) PLAIN(Slide_Change)
 PLAIN(Tick_Click) PLAIN(Pick_Click) PLAIN(First_Click) PLAIN(Last_Click) PLAIN(Clock_Timer)
 MOUSE(Form_MouseDown)
@@ -38,7 +40,7 @@ void Form_Unload(bool& cancel) { note("Form_Unload"); cancel = acts.contains("re
 constexpr Handler sample_handlers[] = {
     OSTRELUM_ON(Column_MouseDown), OSTRELUM_ON(Column_MouseMove), OSTRELUM_ON(Column_Click),
     OSTRELUM_ON(Menu_MouseDown), OSTRELUM_ON(Menu_MouseUp), OSTRELUM_ON(Menu_Click),
-    OSTRELUM_ON(Bar_Click), OSTRELUM_ON(Ok_Click), OSTRELUM_ON(No_Click),
+    OSTRELUM_ON(Row_KeyDown), OSTRELUM_ON(Form_KeyDown), OSTRELUM_ON(Bar_Click), OSTRELUM_ON(Ok_Click), OSTRELUM_ON(No_Click),
     OSTRELUM_ON(Slide_Scroll), OSTRELUM_ON(Slide_Change), OSTRELUM_ON(Tick_Click),
     OSTRELUM_ON(Pick_Click), OSTRELUM_ON(First_Click), OSTRELUM_ON(Last_Click),
     OSTRELUM_ON(Clock_Timer), OSTRELUM_ON(Form_MouseDown), OSTRELUM_ON(Form_Unload)};
@@ -46,6 +48,7 @@ constexpr Handler sample_handlers[] = {
 void design(SampleForm& form)
 {
     Designer put(form);
+    put.place("Row", form.Row, [](int i) { return Label{.Left = 120, .Top = 176 + 8 * (i - 1), .Width = 80, .Height = 8, .AutoSize = false, .TabStop = true, .Role = LabelRole::Row}; });
     put.place("Column", form.Column, {.Width = 100, .Height = 200, .Stored = Picture(plain_bitmap(100, 200, rgb(40, 40, 40), rgb(250, 120, 0)))});
     put.inside(form.Column);
     put.place("Menu", form.Menu, [](int i) { return Label{.Caption = "Entry", .Left = 10, .Top = 10 + 40 * (i - 1), .Width = 60, .Height = 20, .ForeColor = white, .AutoSize = false, .MousePointer = MouseCursor::Hand, .TabStop = true}; });
@@ -64,7 +67,7 @@ void design(SampleForm& form)
     put.inside(form.Pops);
     put.place("First", form.First, {.Caption = "First", .Enabled = false});
     put.place("Gap", form.Gap, {.Caption = "-"});
-    put.place("Last", form.Last, {.Caption = "Last"});
+    put.place("Last", form.Last, {.Caption = "Last", .Shortcut = "Ctrl+Q"});
     put.on_the_form();
     put.place("Clock", form.Clock, {});
 }

@@ -10,6 +10,7 @@ namespace ostrelum::conformance {
 struct SampleForm : Form {
     SampleForm();
 
+    ControlArray<Label, 3> Row;
     PictureBox Column;
     ControlArray<Label, 3> Menu;
     PictureBox Bar;

@@ -137,8 +137,11 @@ std::vector<MenuEntry> entries_of(HMENU menu)
         about.cch = static_cast<UINT>(std::size(text));
         GetMenuItemInfoW(menu, static_cast<UINT>(i), TRUE, &about);
         const bool gap = (about.fType & MFT_SEPARATOR) != 0;
-        entries.push_back({gap ? "-" : narrow(text), gap || (about.fState & MFS_DISABLED) == 0,
-                           (about.fState & MFS_DEFAULT) != 0});
+        const std::string whole = gap ? "-" : narrow(text);
+        const std::size_t end = std::min(whole.find('\t'), whole.size());
+        entries.push_back({whole.substr(0, end), gap || (about.fState & MFS_DISABLED) == 0,
+                           (about.fState & MFS_DEFAULT) != 0,
+                           whole.substr(std::min(end + 1, whole.size()))});
     }
     return entries;
 }

@@ -9,12 +9,23 @@ namespace {
 
 using namespace conformance;
 
-constexpr std::pair<Key, WPARAM> keys[] = {
-    {Key::Tab, VK_TAB},      {Key::Up, VK_UP},        {Key::Down, VK_DOWN},
-    {Key::Left, VK_LEFT},    {Key::Right, VK_RIGHT},  {Key::Home, VK_HOME},
-    {Key::End, VK_END},      {Key::PageUp, VK_PRIOR}, {Key::PageDown, VK_NEXT},
-    {Key::Enter, VK_RETURN}, {Key::Space, VK_SPACE},  {Key::Escape, VK_ESCAPE},
-    {Key::Menu, VK_APPS},    {Key::F10, VK_F10}};
+constexpr std::pair<Key, WPARAM> keys[] = {{Key::Tab, VK_TAB},
+                                           {Key::Up, VK_UP},
+                                           {Key::Down, VK_DOWN},
+                                           {Key::Left, VK_LEFT},
+                                           {Key::Right, VK_RIGHT},
+                                           {Key::Home, VK_HOME},
+                                           {Key::End, VK_END},
+                                           {Key::PageUp, VK_PRIOR},
+                                           {Key::PageDown, VK_NEXT},
+                                           {Key::Enter, VK_RETURN},
+                                           {Key::Space, VK_SPACE},
+                                           {Key::Escape, VK_ESCAPE},
+                                           {Key::Menu, VK_APPS},
+                                           {Key::F10, VK_F10},
+                                           {Key::F5, VK_F5},
+                                           {Key::C, 'C'},
+                                           {Key::Q, 'Q'}};
 
 struct ButtonMessages {
     int button;
