@@ -110,6 +110,13 @@ class ProgramTest(unittest.TestCase):
 
         self.desktop.press(form, SECTIONS + 7)
         shown = self.desktop.wait(condition=lambda form: form.text(TITLE) == titles[7])
+        self.desktop.type("Right", "Down", "ctrl+c")
+        self.assertTrue(wait_for(lambda: self.desktop.clipboard() == shown.page()[2]), self.desktop.clipboard())
+        for key in ("F10", "alt"):
+            self.desktop.type(key)
+            self.desktop.wait("menu")
+            self.desktop.type("Escape")
+            self.desktop.wait(condition=lambda _: len(self.desktop.told()) == 1)
         for place, keys, copied in ((VALUES + 1, ["Down"], shown.page()[2]),
                                     (TITLE, ["Up"], "\n".join([titles[7], "", *shown.page()[1:6], ""]))):
             self.desktop.press(shown, place, button=3)
