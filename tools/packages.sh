@@ -1,15 +1,21 @@
-# Sourced by ./run and ./test: which Debian packages a job needs, and installing those that are missing.
+# Sourced by ./run, ./test and ./package: which Debian packages a job needs, and installing those that are missing.
 
 # What building and starting the program takes; docs/dependencies.md says why.
 run_packages="g++ cmake ninja-build pkg-config python3 python3-pil qt6-base-dev libxcb-xinput-dev libsystemd-dev libudev-dev nlohmann-json3-dev fonts-liberation"
 # What testing takes besides.
 test_packages="libgtest-dev libgmock-dev clang-format librsvg2-bin xvfb openbox picom hsetroot xdotool imagemagick
-    x11-utils xclip at-spi2-core gir1.2-atspi-2.0 python3-gi libglib2.0-bin dbus strace"
+    x11-utils xclip at-spi2-core gir1.2-atspi-2.0 python3-gi libglib2.0-bin dbus strace
+    desktop-file-utils appstream mandoc dpkg-dev file zsh fish"
 # What building for Windows takes, and trying that here.
-windows_packages="g++ cmake ninja-build python3 python3-pil nlohmann-json3-dev g++-mingw-w64-x86-64-posix googletest wine64 fonts-wine
+windows_build_packages="g++ cmake ninja-build python3 python3-pil nlohmann-json3-dev g++-mingw-w64-x86-64-posix"
+windows_packages="$windows_build_packages googletest wine64 fonts-wine nsis zip
     xvfb xauth openbox picom hsetroot xdotool xclip fonts-liberation"
+# What making packages takes besides.
+linux_package_packages="git dpkg-dev file rpm lintian"
+windows_package_packages="git nsis zip"
+source_package_packages="git xz-utils"
 # What the long tests take besides: a fuzzer, and a second opinion about memory.
-long_packages="clang-14 libclang-rt-14-dev valgrind"
+long_packages="clang-14 libclang-rt-14-dev valgrind debootstrap"
 # What looking for mistakes without running takes besides.
 tidy_packages="clang-tidy"
 

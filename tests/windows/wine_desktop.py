@@ -195,5 +195,7 @@ class WineDesktop(Desktop):
 
     def close(self):
         subprocess.run([SERVER, "-k"], env=self.environment, check=False)
+        if hasattr(self, "reader"):
+            self.reader.stdin.close()
         super().close()
         shutil.rmtree(getattr(self, "prefix", ""), ignore_errors=True)
