@@ -9,6 +9,8 @@ target_compile_options(ostrelum_rules INTERFACE
     -Wno-missing-field-initializers
     # GCC 12 finds overlaps in "literal" + string where there are none (GCC bug 105651).
     $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
+# A program is the same wherever it was built and whenever.
+target_compile_options(ostrelum_rules INTERFACE $<$<CONFIG:Release>:-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=>)
 if(NOT WIN32)
     # What nobody calls, of the C++ library above all, is left out of a program: there is less to be read at its start.
     target_compile_options(ostrelum_rules INTERFACE
@@ -17,7 +19,7 @@ if(NOT WIN32)
 endif()
 if(MINGW)
     # No library of the compiler's has to lie beside a program.
-    target_link_options(ostrelum_rules INTERFACE -static)
+    target_link_options(ostrelum_rules INTERFACE -static LINKER:--no-insert-timestamp)
 endif()
 if(OSTRELUM_SANITIZE)
     target_compile_options(ostrelum_rules INTERFACE
