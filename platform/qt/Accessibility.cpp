@@ -23,7 +23,7 @@ bool is_decoration(const QWidget& widget)
     if (const auto* label = dynamic_cast<const LabelWidget*>(&widget))
         return label->reading().isEmpty();
     if (dynamic_cast<const LineWidget*>(&widget) || dynamic_cast<const FocusFrame*>(&widget) ||
-        dynamic_cast<const Announcement*>(&widget))
+        dynamic_cast<const Announcement*>(&widget) || dynamic_cast<const Veil*>(&widget))
         return true;
     return dynamic_cast<const PictureWidget*>(&widget) && widget.accessibleName().isEmpty() &&
            widget.focusPolicy() == Qt::NoFocus && !has_content(widget);

@@ -6,6 +6,7 @@
 #include "platform/qt/Keys.h"
 #include "platform/qt/MouseEventFilter.h"
 #include "platform/qt/Text.h"
+#include "platform/qt/Wayland.h"
 #include "platform/toolkit/Reading.h"
 
 #include <QAccessible>
@@ -53,6 +54,8 @@ FormWindow::FormWindow(const Form& form, const Toolkit& toolkit, const Cursors& 
     new MouseEventFilter(*this, form_itself, context_);
     installEventFilter(this);
     make_widgets();
+    if (on_wayland())
+        veil_.emplace(*this);
 }
 
 void FormWindow::make_widgets()
@@ -118,10 +121,24 @@ void FormWindow::sync_frame()
         return;
     setWindowTitle(qt_text(wanted.Caption));
     setFixedSize(wanted.ClientWidth, wanted.ClientHeight);
+    if (veil_)
+        veil_->resize(size());
     setPalette(window_palette(wanted.BackColor));
     context_.cursors.set(*this, wanted.MousePointer);
     setWindowIcon(icon_of(wanted));
     shown_ = std::move(wanted);
+}
+
+void FormWindow::set_alpha(std::uint8_t alpha)
+{
+    if (veil_) {
+        veil_->set_alpha(alpha);
+        return;
+    }
+    setWindowOpacity(static_cast<double>(alpha) / WindowStyles::opaque);
+    // On X11 the new opacity stays in the connection's buffer until something is painted: without
+    // this, a fade that nothing else accompanies stands still after its first step.
+    update(0, 0, 1, 1);
 }
 
 void FormWindow::bring_up()
@@ -181,6 +198,8 @@ void FormWindow::set_focus(int control)
 void FormWindow::mark(int control)
 {
     focus_frame_.follow(control == form_itself ? nullptr : widget(control));
+    if (veil_)
+        veil_->raise();
 }
 
 void FormWindow::closeEvent(QCloseEvent* event)
@@ -194,8 +213,14 @@ void FormWindow::closeEvent(QCloseEvent* event)
 void FormWindow::changeEvent(QEvent* event)
 {
     const Qt::WindowStates filling = Qt::WindowMaximized | Qt::WindowFullScreen;
-    if (event->type() == QEvent::WindowStateChange && (windowState() & filling))
-        setWindowState(windowState() & ~filling);
+    if (event->type() == QEvent::WindowStateChange) {
+        if (windowState() & filling)
+            setWindowState(windowState() & ~filling);
+        // The toolkit's frame may have gone with that, and the window into another buffer, of which
+        // only a part would be painted.
+        for (QWidget* child : findChildren<QWidget*>())
+            child->update();
+    }
     QWidget::changeEvent(event);
 }
 

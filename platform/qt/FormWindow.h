@@ -3,6 +3,7 @@
 #include "platform/qt/Announcement.h"
 #include "platform/qt/ControlWidget.h"
 #include "platform/qt/FocusFrame.h"
+#include "platform/qt/Veil.h"
 #include "platform/toolkit/FormFrame.h"
 #include "platform/toolkit/KeyboardInput.h"
 
@@ -34,6 +35,8 @@ public:
     QWidget* widget(int place) const;
     /// Shows what differs.
     void sync();
+    /// What of the window is to be seen, up to WindowStyles::opaque.
+    void set_alpha(std::uint8_t alpha);
     /// Brings the window up in the centre of the screen, together with its frame.
     void bring_up();
     /// Closes the window for good: it raises no event any more.
@@ -67,6 +70,7 @@ private:
     std::vector<ControlWidget> controls_;
     FocusFrame focus_frame_;
     Announcement announcement_{*this};
+    std::optional<Veil> veil_;
     /// What the frame shows.
     std::optional<FormFrame> shown_;
     /// What a screen reader was last told of each control.

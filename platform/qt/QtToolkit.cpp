@@ -34,12 +34,6 @@ void choose_font()
         QApplication::setFont(font_of({.Name = "Tahoma", .Size = 9}));
 }
 
-/// Wayland knows no opacity of a window, and the toolkit would complain at each try.
-bool has_opacity()
-{
-    return !QGuiApplication::platformName().startsWith("wayland");
-}
-
 } // namespace
 
 std::unique_ptr<Toolkit> make_qt_toolkit(int& argc, char** argv, const QtLook& look)
@@ -205,13 +199,8 @@ void QtToolkit::SetLayeredWindowAttributes(Form& form, Colour, std::uint8_t alph
 
 void QtToolkit::apply_opacity(const Form& form)
 {
-    FormWindow* window = window_of(form);
-    if (!window || !has_opacity())
-        return;
-    window->setWindowOpacity(static_cast<double>(styles_.alpha(form)) / WindowStyles::opaque);
-    // On X11 the new opacity stays in the connection's buffer until something is painted: without
-    // this, a fade that nothing else accompanies stands still after its first step.
-    window->update(0, 0, 1, 1);
+    if (FormWindow* window = window_of(form))
+        window->set_alpha(styles_.alpha(form));
 }
 
 int QtToolkit::run()
