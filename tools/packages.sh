@@ -1,10 +1,10 @@
 # Sourced by ./run, ./test and ./package: which Debian packages a job needs, and installing those that are missing.
 
 # What building and starting the program takes; docs/dependencies.md says why.
-run_packages="g++ cmake ninja-build pkg-config python3 python3-pil qt6-base-dev libxcb-xinput-dev libsystemd-dev libudev-dev nlohmann-json3-dev fonts-liberation"
+run_packages="g++ cmake ninja-build pkg-config python3 python3-pil qt6-base-dev qt6-wayland libxcb-xinput-dev libsystemd-dev libudev-dev nlohmann-json3-dev fonts-liberation"
 # What testing takes besides.
 test_packages="libgtest-dev libgmock-dev clang-format librsvg2-bin xvfb openbox picom hsetroot xdotool imagemagick
-    x11-utils xclip at-spi2-core gir1.2-atspi-2.0 python3-gi libglib2.0-bin dbus strace
+    x11-utils xclip sway weston wl-clipboard at-spi2-core gir1.2-atspi-2.0 python3-gi libglib2.0-bin dbus strace
     desktop-file-utils appstream mandoc dpkg-dev file zsh fish"
 # What building for Windows takes, and trying that here.
 windows_build_packages="g++ cmake ninja-build python3 python3-pil nlohmann-json3-dev g++-mingw-w64-x86-64-posix"

@@ -14,6 +14,7 @@
 #include <QGuiApplication>
 #include <QIcon>
 #include <QScreen>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -56,6 +57,9 @@ FormWindow::FormWindow(const Form& form, const Toolkit& toolkit, const Cursors& 
     make_widgets();
     if (on_wayland())
         veil_.emplace(*this);
+    // The native window is there before it shows, so that it comes up with its opacity.
+    winId();
+    connect(windowHandle(), &QWindow::windowStateChanged, this, &FormWindow::refuse_to_fill);
 }
 
 void FormWindow::make_widgets()
@@ -208,20 +212,24 @@ void FormWindow::closeEvent(QCloseEvent* event)
     asked_to_close_();
 }
 
-/// Where the desktop leaves the frame to the toolkit, that has a button for it whatever the flags
-/// say. Some desktops end a program whose window says that it fills the screen and does not.
-void FormWindow::changeEvent(QEvent* event)
+/// Where the desktop leaves the frame to the toolkit, that has a button for filling the screen
+/// whatever the flags say; some desktops have keys for it.
+void FormWindow::refuse_to_fill(Qt::WindowState state)
 {
-    const Qt::WindowStates filling = Qt::WindowMaximized | Qt::WindowFullScreen;
-    if (event->type() == QEvent::WindowStateChange) {
-        if (windowState() & filling)
-            setWindowState(windowState() & ~filling);
-        // The toolkit's frame may have gone with that, and the window into another buffer, of which
-        // only a part would be painted.
-        for (QWidget* child : findChildren<QWidget*>())
-            child->update();
+    if (state != Qt::WindowMaximized && state != Qt::WindowFullScreen)
+        return;
+    windowHandle()->setWindowStates(Qt::WindowNoState);
+    if (!on_wayland())
+        return;
+    // There the toolkit has agreed already, and some desktops end a program whose next picture is
+    // not as large as agreed. Coming up anew, the window has agreed to nothing. Where every window
+    // is made to fill the screen that would have no end, so it does so once.
+    constexpr qint64 settled = 250;
+    if (!came_up_.isValid() || came_up_.hasExpired(settled)) {
+        hide();
+        show();
+        came_up_.start();
     }
-    QWidget::changeEvent(event);
 }
 
 void FormWindow::keyPressEvent(QKeyEvent* event)

@@ -7,6 +7,8 @@
 #include "platform/toolkit/FormFrame.h"
 #include "platform/toolkit/KeyboardInput.h"
 
+#include <QElapsedTimer>
+
 #include <functional>
 #include <optional>
 #include <vector>
@@ -45,7 +47,6 @@ public:
     std::function<void()> gone;
 
 protected:
-    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
@@ -59,6 +60,7 @@ private:
     void make_widgets();
     void place_in(const QRect& screen);
     void sync_frame();
+    void refuse_to_fill(Qt::WindowState state);
     void tell_readers();
 
     const Form& form_;
@@ -71,6 +73,8 @@ private:
     FocusFrame focus_frame_;
     Announcement announcement_{*this};
     std::optional<Veil> veil_;
+    /// Since the window came up anew because the desktop wanted it to fill the screen.
+    QElapsedTimer came_up_;
     /// What the frame shows.
     std::optional<FormFrame> shown_;
     /// What a screen reader was last told of each control.

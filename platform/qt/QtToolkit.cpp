@@ -87,8 +87,6 @@ FormWindow& QtToolkit::make_window(Form& form, Qt::WindowType kind)
     auto* window = new FormWindow(form, *this, cursors_, dispatcher_, kind,
                                   [this, &form] { user_closes(form); });
     windows_[&form] = window;
-    // The native window is there before it shows, so that it comes up with its opacity.
-    window->winId();
     if (styles_.alpha(form) != WindowStyles::opaque)
         apply_opacity(form);
     return *window;

@@ -137,7 +137,10 @@ class Desktop:
     def pixel(self, window, x, y):
         """The colour of a pixel of the window's client area as it is on the screen."""
         left, top, _, _ = self.place(window)
-        crop = f"1x1+{left + x}+{top + y}"
+        return self.pixel_at(left + x, top + y)
+
+    def pixel_at(self, x, y):
+        crop = f"1x1+{x}+{y}"
         done = subprocess.run(["import", "-window", "root", "-crop", crop, "-depth", "8", "rgb:-"],
                               env=self.environment, capture_output=True, timeout=30, check=True)
         return tuple(done.stdout[:3])
