@@ -51,7 +51,7 @@ class FilesTest(unittest.TestCase):
         release = xml.etree.ElementTree.parse(METAINFO).find("releases/release")
         self.assertEqual((release.get("version"), release.get("date")), (version, "{}-{:0>2}-{:0>2}".format(*day)))
         self.assertEqual(found(r"^project\(.* VERSION (\S+) ", "CMakeLists.txt"), (version,))
-        self.assertEqual(found(r'Ostrelum" version="(.*?)\.0\.0"', "window/windows/program.manifest"), (version,))
+        self.assertEqual(found(r'Ostrelum" version="(.*?)\.0\.0"', "packaging/windows/program.manifest"), (version,))
         self.assertEqual(found(r"\A\S+ \((.*?)-\d+\)", "packaging/linux/debian/changelog"), (version,))
 
 

@@ -128,6 +128,7 @@ class InstallerTest(unittest.TestCase):
         self.assertEqual({path.name for path in folder.iterdir()}, FILES)
         for program in PROGRAMS:
             told = subprocess.run(["x86_64-w64-mingw32-objdump", "-p", folder / program], capture_output=True, text=True, check=True)
+            self.assertTrue("ProductVersion".encode("utf-16-le") in (folder / program).read_bytes(), f"{program} has no version")
             imported = {name.lower() for name in re.findall(r"DLL Name: (\S+)", told.stdout)}
             self.assertLessEqual(imported, {path.name for path in SYSTEM.iterdir()})
         self.start(folder / "dervalin-ostrelum.exe")
