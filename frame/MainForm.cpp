@@ -203,8 +203,8 @@ void load_main_form()
     F1 = MainForm();
     F1.Name = "F1";
     F1.Caption = "Dervalin Ostrelum";
-    F1.ClientWidth = 777;
-    F1.ClientHeight = 553;
+    F1.ClientWidth = main_form_width;
+    F1.ClientHeight = main_form_height;
     F1.BackColor = white;
     F1.Icon = {art_picture("Icon32"), art_picture("Icon16")};
     F1.MinButton = true;

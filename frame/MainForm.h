@@ -28,6 +28,10 @@ enum PageNumber : std::uint8_t {
 
 inline constexpr int section_count = HardwarePage;
 
+/// Client area of the main window, the program's largest.
+inline constexpr int main_form_width = 777;
+inline constexpr int main_form_height = 553;
+
 /// The main window. The names are those of the design table in MainForm.cpp.
 class MainForm : public Form {
 public:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/qt/Cursors.h"
+#include "platform/qt/FormScale.h"
 #include "platform/toolkit/ControlBinding.h"
 #include "platform/toolkit/MouseInput.h"
 #include "platform/toolkit/Toolkit.h"
@@ -15,6 +16,7 @@ namespace ostrelum::qt_platform {
 struct WindowContext {
     const Toolkit& toolkit;
     const Cursors& cursors;
+    FormScale scale;
     WindowEvents& events;
     MouseInput& mouse;
 };
@@ -31,9 +33,10 @@ struct ControlWidget {
 ControlWidget make_control_widget(int place, QWidget& parent, const WindowContext& context);
 
 /// Puts a widget where its control says.
-inline void set_place(QWidget& widget, const auto& control)
+inline void set_place(QWidget& widget, const auto& control, const FormScale& scale)
 {
-    widget.setGeometry(control.Left, control.Top, control.Width, control.Height);
+    widget.setGeometry(
+        scale.to_window(Area{control.Left, control.Top, control.Width, control.Height}));
 }
 
 } // namespace ostrelum::qt_platform

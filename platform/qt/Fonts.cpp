@@ -1,9 +1,12 @@
 #include "platform/qt/Fonts.h"
 
 #include <QFontMetrics>
+#include <QGuiApplication>
+#include <QScreen>
 #include <QStringList>
 
 #include <algorithm>
+#include <cmath>
 
 namespace ostrelum::qt_platform {
 namespace {
@@ -13,6 +16,16 @@ namespace {
 int pixels_of(double points)
 {
     return std::max(1, qRound(points * 96 / 72));
+}
+
+/// Parts of a pixel can only be had in points, which are the screen's.
+void set_pixels(QFont& font, double pixels)
+{
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    if (screen && std::floor(pixels) != pixels)
+        font.setPointSizeF(pixels * 72 / screen->logicalDotsPerInchY());
+    else
+        font.setPixelSize(std::max(1, static_cast<int>(pixels)));
 }
 
 /// The family and its stand-ins. The common last resort of Linux desktops, DejaVu Sans, is a good
@@ -38,11 +51,11 @@ QStringList families_of(const QString& name)
 
 } // namespace
 
-QFont font_of(const FontSpec& spec)
+QFont font_of(const FontSpec& spec, const FormScale& scale)
 {
     QFont font;
     font.setFamilies(families_of(QString::fromStdString(spec.Name)));
-    font.setPixelSize(pixels_of(spec.Size));
+    set_pixels(font, pixels_of(spec.Size) * scale.factor);
     font.setBold(spec.Bold);
     font.setItalic(spec.Italic);
     font.setUnderline(spec.Underline);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/qt/FormScale.h"
 #include "platform/toolkit/Controls.h"
 #include "platform/toolkit/Toolkit.h"
 
@@ -7,9 +8,9 @@
 
 namespace ostrelum::qt_platform {
 
-/// The font of a control. Where the named family is not installed, one of nearly the same width
-/// stands in.
-QFont font_of(const FontSpec& spec);
+/// The font of a control, in the pixels of its window. Where the named family is not installed, one
+/// of nearly the same width stands in.
+QFont font_of(const FontSpec& spec, const FormScale& scale = {});
 
 /// Pixels that a text takes as a label draws it: the ink of slanted letters that lean beyond their
 /// own width is counted in.

@@ -43,11 +43,11 @@ QIcon icon_of(const FormFrame& frame)
 } // namespace
 
 FormWindow::FormWindow(const Form& form, const Toolkit& toolkit, const Cursors& cursors,
-                       EventDispatcher& dispatcher, Qt::WindowType kind,
+                       const FormScale& scale, EventDispatcher& dispatcher, Qt::WindowType kind,
                        std::function<void()> asked_to_close)
     : QWidget(nullptr, flags_of(form, kind)), form_(form), events_(form, dispatcher),
       mouse_(events_),
-      keyboard_(events_, mouse_, *this), context_{toolkit, cursors, events_, mouse_},
+      keyboard_(events_, mouse_, *this), context_{toolkit, cursors, scale, events_, mouse_},
       asked_to_close_(std::move(asked_to_close)), focus_frame_(*this)
 {
     setFocusPolicy(Qt::ClickFocus);
@@ -124,7 +124,8 @@ void FormWindow::sync_frame()
     if (shown_ == wanted)
         return;
     setWindowTitle(qt_text(wanted.Caption));
-    setFixedSize(wanted.ClientWidth, wanted.ClientHeight);
+    setFixedSize(context_.scale.to_window(wanted.ClientWidth),
+                 context_.scale.to_window(wanted.ClientHeight));
     if (veil_)
         veil_->resize(size());
     setPalette(window_palette(wanted.BackColor));
@@ -145,12 +146,15 @@ void FormWindow::set_alpha(std::uint8_t alpha)
     update(0, 0, 1, 1);
 }
 
+QPoint FormWindow::on_screen(Point point) const
+{
+    return mapToGlobal(context_.scale.to_window(point));
+}
+
 void FormWindow::bring_up()
 {
     if (!isVisible()) {
-        const QScreen* under_mouse = QGuiApplication::screenAt(QCursor::pos());
-        const QScreen* screen = under_mouse ? under_mouse : QGuiApplication::primaryScreen();
-        if (screen)
+        if (const QScreen* screen = screen_of_new_window())
             place_in(screen->availableGeometry());
     }
     show();

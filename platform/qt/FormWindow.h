@@ -21,7 +21,7 @@ public:
     /// `kind` is a window of its own or a dialog, which a desktop keeps over the window it came
     /// from. `asked_to_close` runs when the user closes the window by its frame.
     FormWindow(const Form& form, const Toolkit& toolkit, const Cursors& cursors,
-               EventDispatcher& dispatcher, Qt::WindowType kind,
+               const FormScale& scale, EventDispatcher& dispatcher, Qt::WindowType kind,
                std::function<void()> asked_to_close);
 
     WindowEvents& events() { return events_; }
@@ -39,6 +39,8 @@ public:
     void sync();
     /// What of the window is to be seen, up to WindowStyles::opaque.
     void set_alpha(std::uint8_t alpha);
+    /// Where a point of the client area is.
+    QPoint on_screen(Point point) const;
     /// Brings the window up in the centre of the screen, together with its frame.
     void bring_up();
     /// Closes the window for good: it raises no event any more.

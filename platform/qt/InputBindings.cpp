@@ -37,7 +37,8 @@ private:
 
 QtButtonBinding::QtButtonBinding(CommandButton& button, int place, QWidget& parent,
                                  const WindowContext& context)
-    : CommandButtonBinding(button, place, context.events), widget_(new QPushButton(&parent))
+    : CommandButtonBinding(button, place, context.events), scale_(context.scale),
+      widget_(new QPushButton(&parent))
 {
     widget_->setAutoDefault(false);
     QObject::connect(widget_, &QPushButton::clicked, widget_, [this] { user_clicks(); });
@@ -46,11 +47,11 @@ QtButtonBinding::QtButtonBinding(CommandButton& button, int place, QWidget& pare
 void QtButtonBinding::apply()
 {
     if (moved())
-        set_place(*widget_, control_);
+        set_place(*widget_, control_, scale_);
     if (changed(&CommandButton::Caption))
         widget_->setText(qt_text(control_.Caption));
     if (changed(&CommandButton::Font))
-        widget_->setFont(font_of(control_.Font));
+        widget_->setFont(font_of(control_.Font, scale_));
     if (changed(&CommandButton::Default))
         widget_->setDefault(control_.Default);
     if (changed(&CommandButton::Enabled))
@@ -61,7 +62,8 @@ void QtButtonBinding::apply()
 
 QtScrollBarBinding::QtScrollBarBinding(ScrollBar& bar, int place, QWidget& parent,
                                        const WindowContext& context)
-    : ScrollBarBinding(bar, place, context.events), widget_(new SliderWidget(&parent))
+    : ScrollBarBinding(bar, place, context.events), scale_(context.scale),
+      widget_(new SliderWidget(&parent))
 {
     new WheelNeedsFocus(*widget_);
     widget_->setContextMenuPolicy(Qt::NoContextMenu);
@@ -74,7 +76,7 @@ QtScrollBarBinding::QtScrollBarBinding(ScrollBar& bar, int place, QWidget& paren
 void QtScrollBarBinding::apply()
 {
     if (moved())
-        set_place(*widget_, control_);
+        set_place(*widget_, control_, scale_);
     if (changed(&ScrollBar::Min, &ScrollBar::Max))
         widget_->setRange(control_.Min, control_.Max);
     if (changed(&ScrollBar::SmallChange))
@@ -93,7 +95,8 @@ void QtScrollBarBinding::apply()
 
 QtCheckBoxBinding::QtCheckBoxBinding(CheckBox& box, int place, QWidget& parent,
                                      const WindowContext& context)
-    : CheckBoxBinding(box, place, context.events), widget_(new QCheckBox(&parent))
+    : CheckBoxBinding(box, place, context.events), scale_(context.scale),
+      widget_(new QCheckBox(&parent))
 {
     widget_->setPalette(box_palette(widget_->palette()));
     // Not the click: a screen reader ticks the box without one.
@@ -104,11 +107,11 @@ QtCheckBoxBinding::QtCheckBoxBinding(CheckBox& box, int place, QWidget& parent,
 void QtCheckBoxBinding::apply()
 {
     if (moved())
-        set_place(*widget_, control_);
+        set_place(*widget_, control_, scale_);
     if (changed(&CheckBox::Caption))
         widget_->setText(qt_text(control_.Caption));
     if (changed(&CheckBox::Font))
-        widget_->setFont(font_of(control_.Font));
+        widget_->setFont(font_of(control_.Font, scale_));
     if (changed(&CheckBox::Value))
         widget_->setChecked(control_.Value != 0);
     if (changed(&CheckBox::Enabled))
@@ -119,7 +122,8 @@ void QtCheckBoxBinding::apply()
 
 QtComboBoxBinding::QtComboBoxBinding(ComboBox& box, int place, QWidget& parent,
                                      const WindowContext& context)
-    : ComboBoxBinding(box, place, context.events), widget_(new QComboBox(&parent))
+    : ComboBoxBinding(box, place, context.events), scale_(context.scale),
+      widget_(new QComboBox(&parent))
 {
     new WheelNeedsFocus(*widget_);
     // Comes only from the user, and also when the entry was chosen before.
@@ -130,9 +134,9 @@ QtComboBoxBinding::QtComboBoxBinding(ComboBox& box, int place, QWidget& parent,
 void QtComboBoxBinding::apply()
 {
     if (moved())
-        set_place(*widget_, control_);
+        set_place(*widget_, control_, scale_);
     if (changed(&ComboBox::Font))
-        widget_->setFont(font_of(control_.Font));
+        widget_->setFont(font_of(control_.Font, scale_));
     if (changed(&ComboBox::List)) {
         widget_->clear();
         for (const std::string& text : control_.List)

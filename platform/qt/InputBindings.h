@@ -20,6 +20,7 @@ public:
 private:
     void apply() override;
 
+    const FormScale scale_;
     QPushButton* widget_;
 };
 
@@ -31,6 +32,7 @@ public:
 private:
     void apply() override;
 
+    const FormScale scale_;
     SliderWidget* widget_;
 };
 
@@ -42,6 +44,7 @@ public:
 private:
     void apply() override;
 
+    const FormScale scale_;
     QCheckBox* widget_;
 };
 
@@ -53,6 +56,7 @@ public:
 private:
     void apply() override;
 
+    const FormScale scale_;
     QComboBox* widget_;
 };
 

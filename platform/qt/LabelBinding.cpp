@@ -57,11 +57,14 @@ void QtLabelBinding::place_text()
     if (!changed(&Label::Left, &Label::Top, &Label::Width, &Label::Height, &Label::Caption,
                  &Label::Font))
         return;
-    const int lean =
-        sizes_itself(control_) ? left_lean(qt_text(control_.Caption), font_of(control_.Font)) : 0;
+    const FormScale& scale = context_.scale;
+    const int lean = sizes_itself(control_)
+                         ? left_lean(qt_text(control_.Caption), font_of(control_.Font, scale))
+                         : 0;
     widget_->setContentsMargins(lean, 0, 0, 0);
-    widget_->setGeometry(control_.Left - lean, control_.Top, control_.Width + lean,
-                         control_.Height);
+    const QPoint start = scale.to_window(Point{control_.Left, control_.Top});
+    widget_->setGeometry(start.x() - lean, start.y(), scale.room_in_window(control_.Width) + lean,
+                         scale.room_in_window(control_.Height));
 }
 
 void QtLabelBinding::apply_text()
@@ -70,7 +73,7 @@ void QtLabelBinding::apply_text()
         changed(&Label::Caption, &Label::Font, &Label::AutoSize, &Label::WordWrap))
         fit(context_.toolkit, control_);
     if (changed(&Label::Font))
-        widget_->setFont(font_of(control_.Font));
+        widget_->setFont(font_of(control_.Font, context_.scale));
     if (changed(&Label::Alignment))
         widget_->setAlignment(alignment_of(control_.Alignment));
     if (changed(&Label::WordWrap))

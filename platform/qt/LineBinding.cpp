@@ -11,11 +11,11 @@ LineWidget::LineWidget(QWidget* parent) : QWidget(parent)
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
-void LineWidget::set_line(const Line& line)
+void LineWidget::set_line(const Line& line, const FormScale& scale)
 {
     line_ = line;
-    const Area area = area_of(line);
-    setGeometry(area.left, area.top, area.width, area.height);
+    scale_ = scale;
+    setGeometry(scale.to_window(area_of(line)));
     update();
 }
 
@@ -29,18 +29,20 @@ void LineWidget::paintEvent(QPaintEvent*)
         return;
     }
     painter.setPen(colour);
-    painter.drawLine(line_.X1 - x(), line_.Y1 - y(), line_.X2 - x(), line_.Y2 - y());
+    painter.drawLine(scale_.to_window(Point{line_.X1, line_.Y1}) - pos(),
+                     scale_.to_window(Point{line_.X2, line_.Y2}) - pos());
 }
 
 QtLineBinding::QtLineBinding(Line& line, int place, QWidget& parent, const WindowContext& context)
-    : BindingOf(line, place, context.events), widget_(new LineWidget(&parent))
+    : BindingOf(line, place, context.events), widget_(new LineWidget(&parent)),
+      scale_(context.scale)
 {
 }
 
 void QtLineBinding::apply()
 {
     if (changed(&Line::X1, &Line::Y1, &Line::X2, &Line::Y2, &Line::BorderColor))
-        widget_->set_line(control_);
+        widget_->set_line(control_, scale_);
     if (changed(&Line::Visible))
         widget_->setVisible(control_.Visible);
 }

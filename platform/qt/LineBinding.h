@@ -8,13 +8,14 @@ namespace ostrelum::qt_platform {
 class LineWidget : public QWidget {
 public:
     explicit LineWidget(QWidget* parent);
-    void set_line(const Line& line);
+    void set_line(const Line& line, const FormScale& scale);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
     Line line_;
+    FormScale scale_;
 };
 
 class QtLineBinding : public BindingOf<Line> {
@@ -26,6 +27,7 @@ private:
     void apply() override;
 
     LineWidget* widget_;
+    const FormScale scale_;
 };
 
 } // namespace ostrelum::qt_platform

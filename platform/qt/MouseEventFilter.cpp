@@ -8,7 +8,7 @@
 namespace ostrelum::qt_platform {
 
 MouseEventFilter::MouseEventFilter(QWidget& widget, int place, const WindowContext& context)
-    : QObject(&widget), widget_(widget), place_(place), mouse_(context.mouse)
+    : QObject(&widget), widget_(widget), place_(place), mouse_(context.mouse), scale_(context.scale)
 {
     const Form& form = context.events.form();
     const int target = mouse_target(form, place);
@@ -16,11 +16,9 @@ MouseEventFilter::MouseEventFilter(QWidget& widget, int place, const WindowConte
     widget.installEventFilter(this);
 }
 
-/// Where the mouse is in the window.
 Point MouseEventFilter::point_of(const QMouseEvent& mouse) const
 {
-    const QPoint at = widget_.mapTo(widget_.window(), mouse.position().toPoint());
-    return {at.x(), at.y()};
+    return scale_.to_form(widget_.mapTo(widget_.window(), mouse.position().toPoint()));
 }
 
 bool MouseEventFilter::eventFilter(QObject*, QEvent* event)

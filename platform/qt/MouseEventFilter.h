@@ -16,11 +16,13 @@ protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
+    /// Where the mouse is on the form.
     Point point_of(const QMouseEvent& mouse) const;
 
     QWidget& widget_;
     const int place_;
     MouseInput& mouse_;
+    const FormScale scale_;
 };
 
 } // namespace ostrelum::qt_platform

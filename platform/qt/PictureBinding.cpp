@@ -15,8 +15,10 @@ QtPictureBinding::QtPictureBinding(PictureBox& box, int place, QWidget& parent,
 
 void QtPictureBinding::apply()
 {
-    if (moved())
-        set_place(*widget_, control_);
+    if (moved()) {
+        widget_->set_size_on_form({control_.Width, control_.Height});
+        set_place(*widget_, control_, context_.scale);
+    }
     if (changed(&PictureBox::Transparent, &PictureBox::BackColor))
         widget_->set_ground(control_.Transparent, control_.BackColor);
     if (changed(&PictureBox::Surface))

@@ -16,6 +16,8 @@ public:
     using QWidget::QWidget;
     void set_ground(bool transparent, Colour colour);
     void set_picture(const Picture& picture);
+    /// The box's size in pixels of the form, which are the picture's.
+    void set_size_on_form(QSize size) { size_on_form_ = size; }
     /// Presses it as the left mouse button would.
     std::function<void()> press;
 
@@ -23,6 +25,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    qreal scale_on_screen() const;
     void choose_image();
 
     bool transparent_ = true;
@@ -30,8 +33,9 @@ private:
     /// The image looks at the picture's own bytes.
     Picture picture_;
     QImage image_;
-    /// Scale of the screen for which the image was chosen.
+    /// Pixels of the screen for each of the form's for which the image was chosen.
     qreal scale_ = 0;
+    QSize size_on_form_;
 };
 
 } // namespace ostrelum::qt_platform

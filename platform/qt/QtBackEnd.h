@@ -21,6 +21,9 @@ struct QtLook {
     Point hot_spot;
     /// Name of the program's desktop entry, by which a Wayland desktop finds its icon.
     std::string desktop_entry;
+    /// Size of the largest window, which a small screen is to hold; 0 for nothing to care about.
+    int window_width = 0;
+    int window_height = 0;
 };
 
 /// The toolkit. Only one can be at a time; `argc` and `argv` must outlive it. Ends the process with

@@ -42,7 +42,8 @@ std::unique_ptr<Toolkit> make_qt_toolkit(int& argc, char** argv, const QtLook& l
 }
 
 QtToolkit::QtToolkit(int& argc, char** argv, const QtLook& look)
-    : application_(argc, argv), cursors_(look.hand, look.hot_spot), dispatcher_([this] {
+    : application_(argc, argv), cursors_(look.hand, look.hot_spot),
+      scale_(fitting_scale({look.window_width, look.window_height})), dispatcher_([this] {
           for (const auto& [form, window] : windows_)
               window->sync();
       })
@@ -71,7 +72,8 @@ void QtToolkit::InitCommonControls() {}
 
 TextSize QtToolkit::text_size(const std::string& text, const FontSpec& font) const
 {
-    return measure(qt_text(text), font_of(font));
+    const TextSize in_window = measure(qt_text(text), font_of(font, scale_));
+    return {scale_.room_on_form(in_window.width), scale_.room_on_form(in_window.height)};
 }
 
 FormWindow* QtToolkit::window_of(const Form& form) const
@@ -84,7 +86,7 @@ FormWindow& QtToolkit::make_window(Form& form, Qt::WindowType kind)
 {
     if (FormWindow* window = window_of(form))
         return *window;
-    auto* window = new FormWindow(form, *this, cursors_, dispatcher_, kind,
+    auto* window = new FormWindow(form, *this, cursors_, scale_, dispatcher_, kind,
                                   [this, &form] { user_closes(form); });
     windows_[&form] = window;
     if (styles_.alpha(form) != WindowStyles::opaque)
@@ -156,7 +158,7 @@ void QtToolkit::popup(Form& form, PopupMenu& menu, std::optional<Point> at, cons
         return;
     if (const auto keyboard = std::exchange(window->events().menu_point, std::nullopt); !at)
         at = keyboard;
-    const QPoint place = at ? window->mapToGlobal(QPoint(at->x, at->y)) : QCursor::pos();
+    const QPoint place = at ? window->on_screen(*at) : QCursor::pos();
     pop_up(*window, menu, place, bold);
 }
 

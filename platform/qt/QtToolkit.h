@@ -43,6 +43,7 @@ private:
 
     QApplication application_;
     Cursors cursors_;
+    const FormScale scale_;
     EventDispatcher dispatcher_;
     std::map<const Form*, FormWindow*> windows_;
     WindowStyles styles_;

@@ -44,20 +44,36 @@ class ProgramTest(WindowTest):
             window = desktop.window()
             self.assertIn("777x553", desktop.call("xwininfo", "-id", window, "-stats"))
             left, top, width, height = desktop.place(window)
-            told = desktop.call("xprop", "-id", window, "-notype", "_NET_FRAME_EXTENTS").split("=")[1].split(",")
-            before, after, above, below = map(int, told)
+            before, after, above, below = self.frame(desktop, window)
             self.assertGreater(above, below)
             self.assertAlmostEqual(left - before + (width + before + after) / 2, desktop.size[0] / 2, delta=1)
             self.assertAlmostEqual(top - above + (height + above + below) / 2, desktop.size[1] / 2, delta=1)
 
-    def test_a_small_screen_shows_the_top_left_of_the_window_with_its_frame(self):
-        with Desktop(size=(640, 400)) as desktop:
-            desktop.start_program()
-            window = desktop.window()
-            left, top, _, _ = desktop.place(window)
-            told = desktop.call("xprop", "-id", window, "-notype", "_NET_FRAME_EXTENTS").split("=")[1].split(",")
-            before, _, above, _ = map(int, told)
-            self.assertEqual((left - before, top - above), (0, 0))
+    def test_a_window_larger_than_the_screen_becomes_smaller(self):
+        double = {"QT_SCALE_FACTOR": "2"}
+        # The last is too small for letters that can be read: the frame's buttons and the options are seen.
+        for size, environment, scale in (((1024, 600), {}, 1), ((1024, 600), double, 1), ((800, 480), {}, 0.82),
+                                         ((480, 800), {}, 0.615), ((400, 300), {}, 0.6)):
+            with self.subTest(size=size, environment=environment), Desktop(size=size) as desktop:
+                desktop.environment.update(environment)
+                desktop.start_program()
+                window = desktop.window()
+                left, top, width, height = desktop.place(window)
+                self.assertAlmostEqual(width / 777, scale, delta=0.01)
+                self.assertAlmostEqual(height / 553, scale, delta=0.01)
+                before, after, above, below = self.frame(desktop, window)
+                self.assertGreaterEqual(min(left - before, top - above), 0)
+                if size != (400, 300):
+                    self.assertLessEqual(left + width + after, size[0])
+                    self.assertLessEqual(top + height + below, size[1])
+                desktop.click(window, int(120 * scale), int((49 + 35 * 7 + 17) * scale))
+                self.assertShows(desktop, "label: Bios")
+
+    @staticmethod
+    def frame(desktop, window):
+        """Width of the window manager's frame on the left, on the right, above and below."""
+        told = desktop.call("xprop", "-id", window, "-notype", "_NET_FRAME_EXTENTS").split("=")[1].split(",")
+        return tuple(map(int, told))
 
     def test_mouse_opens_pages_and_copies_them(self):
         with Desktop() as desktop:

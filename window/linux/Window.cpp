@@ -3,6 +3,7 @@
 #include "figures/Platform.h"
 #include "figures/Shared.h"
 #include "frame/Lifecycle.h"
+#include "frame/MainForm.h"
 #include "frame/Pictures.h"
 #include "platform/linux/LinuxManagementService.h"
 #include "platform/linux/LinuxSystem.h"
@@ -26,8 +27,11 @@ SessionFactsSource session_of(const MachineSource& source)
 int run_window(int& argc, char** argv, const MachineSource& source)
 {
     LinuxSystem system(source.root, process_environment(), source.user);
-    const QtLook look{
-        .hand = art_picture("Hand"), .hot_spot = {10, 3}, .desktop_entry = "dervalin-ostrelum"};
+    const QtLook look{.hand = art_picture("Hand"),
+                      .hot_spot = {10, 3},
+                      .desktop_entry = "dervalin-ostrelum",
+                      .window_width = main_form_width,
+                      .window_height = main_form_height};
     const auto toolkit = make_qt_toolkit(argc, argv, look);
     const auto clipboard = make_qt_clipboard();
     const auto save_dialog = make_qt_save_dialog();
