@@ -1,5 +1,7 @@
 """The whole program in a real window."""
 
+import os
+import shutil
 import time
 import unittest
 
@@ -74,6 +76,27 @@ class ProgramTest(WindowTest):
         """Width of the window manager's frame on the left, on the right, above and below."""
         told = desktop.call("xprop", "-id", window, "-notype", "_NET_FRAME_EXTENTS").split("=")[1].split(",")
         return tuple(map(int, told))
+
+    def test_it_comes_up_in_a_bare_session(self):
+        with Desktop() as desktop:
+            everything = dict(desktop.environment)
+            display = {"DISPLAY": everything["DISPLAY"]}
+            # Where it was built, others may not look.
+            copy = shutil.copy(PROGRAM, desktop.home)
+            desktop.home.chmod(0o711)
+            nobody = ("setpriv", "--reuid=65534", "--regid=65534", "--clear-groups") if os.geteuid() == 0 else ()
+            sessions = {"no session bus": ((), {**everything, "DBUS_SESSION_BUS_ADDRESS": ""}),
+                        "a home that is not there": ((), {**everything, "HOME": "/nowhere", "XDG_CONFIG_HOME": ""}),
+                        "a home that is read alone": (nobody, {**display, "HOME": "/usr"}),
+                        "nothing but a display": (nobody, display)}
+            for name, (before, environment) in sessions.items():
+                with self.subTest(session=name):
+                    desktop.environment = environment
+                    program = desktop.start(*map(shutil.which, before[:1]), *before[1:], copy)
+                    desktop.environment = everything
+                    self.assertTrue(wait_for(lambda: desktop.windows() or program.poll() is not None))
+                    self.assertTrue(wait_for(lambda: near(desktop.pixel(desktop.window(), *PAGE), (255, 255, 255), 0)))
+                    self.assertEqual(desktop.close_program(program, desktop.window()), 0)
 
     def test_mouse_opens_pages_and_copies_them(self):
         with Desktop() as desktop:

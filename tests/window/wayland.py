@@ -45,7 +45,7 @@ class WaylandDesktop(Desktop):
 
     def _prepare_screen(self):
         wanted = tuple(bytes.fromhex(self.ground[1:]))
-        assert wait_for(lambda: self.pixel_at(self.size[0] - 1, 0) == wanted), "the desktop has no ground"
+        assert wait_for(lambda: self.pixel_at(self.size[0] // 2, 1) == wanted), "the desktop has no ground"
         self.park_mouse()
 
     def park_mouse(self):
@@ -141,3 +141,16 @@ class Weston(WaylandDesktop):
         self.start("weston", "--backend=x11-backend.so", "--use-pixman", f"--width={self.size[0]}",
                    f"--height={self.size[1]}", f"--scale={self.scale}", "-c", str(configuration))
         self.environment["WAYLAND_DISPLAY"] = self._socket("wayland-*").name
+
+
+class Mutter(WaylandDesktop):
+    """GNOME's desktop without its shell; it leaves the frames to the toolkit."""
+
+    def _start_window_manager(self):
+        self._start_bus()
+        self.environment["MUTTER_DEBUG_DUMMY_MODE_SPECS"] = "{}x{}".format(*self.size)
+        self.start("mutter", "--wayland", "--nested", "--no-x11", "--wayland-display=wayland-0")
+        self.environment["WAYLAND_DISPLAY"] = self._socket("wayland-*").name
+
+    def _prepare_screen(self):
+        """Its ground is a picture that no setting here changes."""
