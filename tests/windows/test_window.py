@@ -159,7 +159,7 @@ class ProgramTest(unittest.TestCase):
         before = desktop.colour(*skin)
         desktop.choose(form, CUSTOMISE)
         desktop.wait(condition=lambda form: form.text(TITLE) == "Customize" and form.shows(ACCEPT))
-        desktop.type("Tab", "Down", "Tab", *["Page_Down"] * 2)
+        desktop.type("Down", "Tab", *["Page_Down"] * 2)
         form = desktop.wait(condition=lambda form: form.text(TITLE) == "Personalizar")
         self.assertTrue(wait_for(lambda: not near(desktop.colour(*skin), before, 8)), "the skin follows the slider")
         left, top, _, height = form.place(TRANSPARENCY)
