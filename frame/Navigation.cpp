@@ -7,6 +7,8 @@
 #include "frame/PageTable.h"
 #include "skin/Skin.h"
 
+#include <utility>
+
 namespace ostrelum::inline frame {
 namespace {
 
@@ -75,7 +77,7 @@ void S_MouseMove(int index, int, int, int x, int y)
 
 void LMenu2_Click()
 {
-    collect_anew();
+    LMenu_MouseDown(F1.Seccion, left_button, 0, 0, 0);
 }
 
 void BM_Click()
@@ -125,7 +127,8 @@ void LMenu_MouseDown(int index, int button, int, int, int)
 
 void collect_anew()
 {
-    LMenu_MouseDown(F1.Seccion, left_button, 0, 0, 0);
+    if (!F1.PanelOpen)
+        LMenu_MouseDown(std::exchange(F1.Seccion, std::uint8_t{0}), left_button, 0, 0, 0);
 }
 
 void show_options()

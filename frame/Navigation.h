@@ -8,7 +8,8 @@ namespace ostrelum::inline frame {
 /// it do nothing. An index outside 1 to 13 collects nothing, but ends as any opening does.
 void LMenu_MouseDown(int index, int button, int shift, int x, int y);
 
-/// Collects the open section anew.
+/// Collects the open section anew, as a visit from another section does: pressing its name again
+/// leaves a disc's values as they are.
 void collect_anew();
 
 /// Brings up the menu of the options, but not over an open panel.

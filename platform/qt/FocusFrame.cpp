@@ -16,13 +16,8 @@ FocusFrame::FocusFrame(QWidget& window) : QWidget(&window)
     hide();
 }
 
-void FocusFrame::follow(const QWidget* widget)
+void FocusFrame::follow(const QRect& place)
 {
-    if (!widget || !widget->isVisible()) {
-        hide();
-        return;
-    }
-    const QRect place(widget->mapTo(window(), QPoint()), widget->size());
     setGeometry(place.adjusted(-margin, -margin, margin, margin));
     raise();
     show();

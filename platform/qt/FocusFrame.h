@@ -9,8 +9,8 @@ namespace ostrelum::qt_platform {
 class FocusFrame : public QWidget {
 public:
     explicit FocusFrame(QWidget& window);
-    /// Shows round a widget of the window; nullptr hides it.
-    void follow(const QWidget* widget);
+    /// Shows round a part of the window.
+    void follow(const QRect& place);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

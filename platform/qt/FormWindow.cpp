@@ -205,7 +205,12 @@ void FormWindow::set_focus(int control)
 
 void FormWindow::mark(int control)
 {
-    focus_frame_.follow(control == form_itself ? nullptr : widget(control));
+    if (control == form_itself || !widget(control)->isVisible()) {
+        focus_frame_.hide();
+        return;
+    }
+    const Area area = area_of_reading(form_, control);
+    focus_frame_.follow({area.left, area.top, area.width, area.height});
     if (veil_)
         veil_->raise();
 }

@@ -1,3 +1,4 @@
+#include "platform/toolkit/Reading.h"
 #include "tests/Stage.h"
 
 namespace ostrelum {
@@ -74,6 +75,12 @@ TEST_F(Navigation, KeysOpenTheOptionsCollectAnewAndEnd)
 TEST_F(Navigation, NoValueReachesTheBands)
 {
     const ControlEntry* value = F1.find("L", 12);
+    F1.L(12).Caption = std::string(200, 'w');
+    toolkit.Refresh(F1);
+    const Area marked = area_of_reading(F1, place_of(F1, *F1.find("LT", 12)));
+    EXPECT_EQ(marked.left, F1.LT(12).Left);
+    EXPECT_EQ(marked.left + marked.width, F1.TapaBorde.Left)
+        << "round the value, as far as it shows";
     for (const ControlEntry* over : {F1.find("TapaBorde"), F1.find("S", 4), F1.find("BAceptar")})
         EXPECT_GT(over, value) << over->name << " lies over the rows";
 }

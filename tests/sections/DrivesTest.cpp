@@ -155,6 +155,8 @@ TEST_F(Drives, OpticalAreNotAskedAgainByAClickOnTheOpenPage)
     EXPECT_EQ(F1.L(8).ToolTipText, "");
     EXPECT_EQ(F1.Laviso.Caption, "1 drive is loaded.\r\n1 drive is empty.");
     EXPECT_EQ(F1.Labelmi.Caption, "Done");
+    F1.raise("Form", {.kind = EventKind::KeyDown, .key = Key::F5});
+    EXPECT_EQ(shown(1), "Name: Other") << "the key asks anew";
 
     open_anew(12, {volume("1024", {}, {})});
     EXPECT_EQ(shown(1), "Name: kept");

@@ -49,22 +49,19 @@ void cut_out(HWND window, const RECT& place, int thickness)
 } // namespace
 
 FocusFrame::FocusFrame(HWND form)
-    : form_(form), window_(CreateWindowExW(0, WC_STATICW, L"", WS_CHILD | WS_CLIPSIBLINGS, 0, 0, 0,
-                                           0, form, nullptr, GetModuleHandleW(nullptr), nullptr))
+    : window_(CreateWindowExW(0, WC_STATICW, L"", WS_CHILD | WS_CLIPSIBLINGS, 0, 0, 0, 0, form,
+                              nullptr, GetModuleHandleW(nullptr), nullptr))
 {
     SetWindowSubclass(window_.get(), receive, own_subclass, 0);
 }
 
-void FocusFrame::follow(HWND control, Scale scale)
+void FocusFrame::follow(HWND control, RECT place, Scale scale)
 {
     if (!control || !IsWindowVisible(control)) {
         if (std::exchange(followed_, nullptr))
             ShowWindow(window_.get(), SW_HIDE);
         return;
     }
-    RECT place{};
-    GetWindowRect(control, &place);
-    MapWindowPoints(nullptr, form_, reinterpret_cast<POINT*>(&place), 2);
     place = shrunk(place, -scale.to_screen(margin));
     if (followed_ == control && EqualRect(&place, &place_))
         return;

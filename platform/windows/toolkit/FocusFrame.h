@@ -10,8 +10,8 @@ namespace ostrelum::windows_platform {
 class FocusFrame {
 public:
     explicit FocusFrame(HWND form);
-    /// Shows round a window of the form; nullptr hides it.
-    void follow(HWND control, Scale scale);
+    /// Shows round a control, the pixels of the form's window that it covers; nullptr hides it.
+    void follow(HWND control, RECT place, Scale scale);
     /// The window that it shows round; nullptr while it is hidden.
     HWND followed() const { return followed_; }
 
@@ -19,7 +19,6 @@ private:
     static LRESULT CALLBACK receive(HWND window, UINT number, WPARAM first, LPARAM second, UINT_PTR,
                                     DWORD_PTR);
 
-    HWND form_;
     OwnedWindow window_;
     HWND followed_ = nullptr;
     RECT place_{};

@@ -1,3 +1,4 @@
+#include "platform/toolkit/Reading.h"
 #include "platform/windows/toolkit/Accessible.h"
 #include "platform/windows/toolkit/FormWindow.h"
 #include "platform/windows/toolkit/Keys.h"
@@ -188,7 +189,11 @@ void FormWindow::set_focus(int control)
 
 void FormWindow::mark(int control)
 {
-    focus_frame_.follow(control == form_itself ? nullptr : window(control), scale_);
+    if (control == form_itself)
+        focus_frame_.follow(nullptr, {}, scale_);
+    else
+        focus_frame_.follow(window(control), scale_.to_screen(area_of_reading(form_, control)),
+                            scale_);
 }
 
 int FormWindow::marked() const
