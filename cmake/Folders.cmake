@@ -32,7 +32,9 @@ if(OSTRELUM_WHOLE AND NOT CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
 endif()
 if(OSTRELUM_WHOLE)
     # Each object twice, ready to be linked by itself and as part of a whole: compiling it again would take minutes.
-    target_compile_options(ostrelum_rules INTERFACE -flto -ffat-lto-objects)
+    # What is part of no program, such as the tests, stands beside.
+    target_compile_options(ostrelum_rules INTERFACE
+        $<$<NOT:$<BOOL:$<TARGET_PROPERTY:OSTRELUM_BESIDE>>>:-flto$<SEMICOLON>-ffat-lto-objects>)
     target_link_options(ostrelum_rules INTERFACE $<IF:$<BOOL:$<TARGET_PROPERTY:OSTRELUM_AS_WHOLE>>,-flto=auto,-fno-lto>)
     add_custom_target(odr)
 endif()
@@ -56,6 +58,15 @@ endfunction()
 include(Hardening)
 ostrelum_harden(ostrelum_rules)
 
+# What most sources spend their time of compiling with, read once.
+if(OSTRELUM_PRECOMPILE)
+    file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/precompiled.cpp CONTENT "")
+    add_library(ostrelum_precompiled OBJECT ${CMAKE_BINARY_DIR}/precompiled.cpp)
+    target_link_libraries(ostrelum_precompiled PRIVATE ostrelum_rules)
+    target_precompile_headers(ostrelum_precompiled PRIVATE <algorithm> <array> <charconv> <cstdint> <functional> <map>
+        <memory> <optional> <set> <span> <sstream> <string> <string_view> <utility> <variant> <vector>)
+endif()
+
 # ostrelum_folder(NAME): every source of the current folder and its rooms, as the target ostrelum_NAME. Headers are
 # checked to compile alone, and for Windows behind the system's own.
 function(ostrelum_folder name)
@@ -65,6 +76,9 @@ function(ostrelum_folder name)
     if(sources)
         add_library(${target} STATIC ${sources})
         target_link_libraries(${target} PUBLIC ostrelum_rules)
+        if(OSTRELUM_PRECOMPILE AND NOT name STREQUAL "qt")
+            target_precompile_headers(${target} REUSE_FROM ostrelum_precompiled)
+        endif()
     else()
         add_library(${target} INTERFACE)
         target_link_libraries(${target} INTERFACE ostrelum_rules)
@@ -117,5 +131,6 @@ function(ostrelum_headers_alone target)
     if(alone AND OSTRELUM_TESTS AND NOT OSTRELUM_SANITIZE)
         add_library(${target}_headers OBJECT ${alone})
         target_link_libraries(${target}_headers PRIVATE ${target})
+        set_target_properties(${target}_headers PROPERTIES OSTRELUM_BESIDE ON)
     endif()
 endfunction()

@@ -14,6 +14,9 @@ import machine  # noqa: E402
 import planted  # noqa: E402
 from machine import MACHINES, USERS  # noqa: E402
 
+# The sanitizers take ten times as long for each of a thousand answers: two machines stand for all, those with the most
+# kinds of devices and of volumes.
+FULL = {name: user for name, user in USERS.items() if not machine.is_sanitized() or name in ("notebook", "removable")}
 # Rows of this machine that change from one second to the next.
 LIVE_ROWS = ("Usage time:", "Number of processes:", "Virtual memory in use:", "Memory in use:",
              "Available memory:", "Current/Maximum speed:", "Processor speed:", "Speed:", "Space in use:",
@@ -93,7 +96,7 @@ class RecordingTest(unittest.TestCase):
 
     def test_a_recording_shows_the_same(self):
         """The workbench has every fact that no file tells."""
-        for name, user in (USERS | {"workbench": "eli"}).items():
+        for name, user in (FULL | {"workbench": "eli"}).items():
             with self.subTest(machine=name):
                 recording = self.record(MACHINES / name, name, "--user", user)
                 self.assertEqual(shown(recording), shown(MACHINES / name, "--user", user))
@@ -121,7 +124,7 @@ class RecordingTest(unittest.TestCase):
             self.assertEqual(told, [], name)
 
     def test_masked_tells_nobody(self):
-        for name, user in USERS.items():
+        for name, user in FULL.items():
             with self.subTest(machine=name):
                 root = MACHINES / name
                 identity = identities(root) | ({user} - {"root"})
