@@ -1,4 +1,5 @@
 #include "platform/system/Failure.h"
+#include "platform/windows/services/Com.h"
 #include "platform/windows/services/Wide.h"
 #include "tests/platform/toolkit/conformance/SampleForm.h"
 #include "tests/platform/windows/toolkit/WindowsDriver.h"
@@ -6,7 +7,11 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <string>
 #include <thread>
+#include <vector>
+
+#include <oleacc.h>
 
 /// What the windows of this system do beyond what those of any do.
 namespace ostrelum::windows_platform {
@@ -69,6 +74,46 @@ TEST_F(WindowsWindow, GrowsWithTheScaleOfItsScreen)
         EXPECT_EQ(calls.size(), 3U);
         EXPECT_EQ(calls.front().substr(0, 20), "Menu_MouseDown(3) 1 ");
     }
+}
+
+/// The names and roles of the alerts that readers were told of.
+std::vector<std::pair<std::wstring, LONG>> alerts;
+
+void CALLBACK hear(HWINEVENTHOOK, DWORD, HWND window, LONG object, LONG child, DWORD, DWORD)
+{
+    ComPtr<IAccessible> told;
+    VARIANT self{};
+    ASSERT_EQ(AccessibleObjectFromEvent(window, static_cast<DWORD>(object),
+                                        static_cast<DWORD>(child), told.GetAddressOf(), &self),
+              S_OK);
+    BSTR name = nullptr;
+    VARIANT role{};
+    ASSERT_EQ(told->get_accName(self, &name), S_OK);
+    ASSERT_EQ(told->get_accRole(self, &role), S_OK);
+    alerts.emplace_back(name, role.lVal);
+    SysFreeString(name);
+}
+
+TEST_F(WindowsWindow, LetsReadersSayATextAndCallsADialogByItsOwnName)
+{
+    const HWINEVENTHOOK hook =
+        SetWinEventHook(EVENT_SYSTEM_ALERT, EVENT_SYSTEM_ALERT, GetModuleHandleW(nullptr), hear,
+                        GetCurrentProcessId(), 0, WINEVENT_INCONTEXT);
+    driver.toolkit().announce(form, "Página. Listo");
+    UnhookWinEvent(hook);
+    EXPECT_EQ(alerts, (std::vector{std::pair{std::wstring(L"P\u00e1gina. Listo"),
+                                             LONG{ROLE_SYSTEM_ALERT}}}));
+
+    form.AccessibleName = "Something to fill in";
+    ComPtr<IAccessible> window;
+    ASSERT_EQ(AccessibleObjectFromWindow(driver.window(form).handle(),
+                                         static_cast<DWORD>(OBJID_CLIENT), __uuidof(IAccessible),
+                                         reinterpret_cast<void**>(window.GetAddressOf())),
+              S_OK);
+    VARIANT self{}, role{};
+    self.vt = VT_I4;
+    EXPECT_EQ(window->get_accRole(self, &role), S_OK);
+    EXPECT_EQ(role.lVal, LONG{ROLE_SYSTEM_DIALOG});
 }
 
 TEST_F(WindowsWindow, GivesBackAllThatADialogTook)
