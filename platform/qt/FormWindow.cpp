@@ -209,8 +209,7 @@ void FormWindow::mark(int control)
         focus_frame_.hide();
         return;
     }
-    const Area area = area_of_reading(form_, control);
-    focus_frame_.follow({area.left, area.top, area.width, area.height});
+    focus_frame_.follow(context_.scale.to_window(area_of_reading(form_, control)));
     if (veil_)
         veil_->raise();
 }
