@@ -66,6 +66,21 @@ def without_time(report):
     return re.sub(rb"(?<=in )[\d.,]+( sec\. at )[^<}\[\r\n]*?\d{4}", rb"0\1", report)
 
 
+class SmallScreenTest(unittest.TestCase):
+    def test_all_of_the_window_is_on_it(self):
+        with WineDesktop(size=(800, 480)) as desktop:
+            program = desktop.start_program()
+            self.addCleanup(program.wait)
+            self.addCleanup(program.kill)
+            form = desktop.wait(condition=lambda form: form.text(STATUS) not in ("", "Getting information..."))
+            self.assertAlmostEqual(form.width / 777, form.height / 553, delta=0.01)
+            self.assertGreater(form.height, 0.75 * 553)
+            self.assertLess(form.top + form.height, 480)
+            last = form.text(SECTIONS + 12)
+            desktop.press(form, SECTIONS + 12)
+            desktop.wait(condition=lambda form: form.text(TITLE) == last)
+
+
 class ProgramTest(unittest.TestCase):
     @classmethod
     def setUpClass(cls):

@@ -1,6 +1,7 @@
 #include "figures/Platform.h"
 #include "figures/Shared.h"
 #include "frame/Lifecycle.h"
+#include "frame/MainForm.h"
 #include "frame/Pictures.h"
 #include "platform/windows/WindowsSystem.h"
 #include "platform/windows/services/Shell.h"
@@ -13,7 +14,10 @@ using namespace ostrelum::windows_platform;
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t*, int)
 {
     WindowsSystem system;
-    const auto toolkit = make_windows_toolkit({.hand = art_picture("Hand"), .hot_spot = {10, 3}});
+    const auto toolkit = make_windows_toolkit({.hand = art_picture("Hand"),
+                                               .hot_spot = {10, 3},
+                                               .window_width = main_form_width,
+                                               .window_height = main_form_height});
     const auto clipboard = make_windows_clipboard();
     const auto save_dialog = make_windows_save_dialog();
 

@@ -39,7 +39,8 @@ FormWindow::FormWindow(const Form& form, SharedLook look, DWORD extended_style, 
                               nullptr)),
       tooltips_(handle()), focus_frame_(handle()), announcement_(handle())
 {
-    scale_ = look_.scale = scale_of_window(handle());
+    scale_ = look_.scale =
+        fitting_scale(scale_of_window(handle()), screen_under_mouse(), look_.largest);
     for (const ControlEntry& entry : form_.controls)
         controls_.push_back(make_control(place_of(form_, entry), *this, events_));
     // From here on there is all that messages need.
@@ -194,7 +195,8 @@ void FormWindow::bring_up()
 
 void FormWindow::screen_changed(Scale scale, const RECT& proposed)
 {
-    scale_ = look_.scale = scale;
+    const HMONITOR screen = MonitorFromWindow(handle(), MONITOR_DEFAULTTONEAREST);
+    scale_ = look_.scale = fitting_scale(scale, screen, look_.largest);
     shown_.reset();
     for (const ControlParts& control : controls_) {
         if (control.binding)

@@ -20,8 +20,10 @@ struct SharedLook {
     Cursors& cursors;
     Fonts& fonts;
     EventDispatcher& dispatcher;
-    /// The scale of the screen on which the program shows.
+    /// The scale in which the program shows.
     Scale& scale;
+    /// Size of the largest form.
+    SIZE largest;
 };
 
 /// The window of a form, with a window for each of its controls.

@@ -85,7 +85,10 @@ void LabelWindow::place_text()
         const int lean =
             scale.room_on_form(measure(wide(control_.Caption), host_.font(control_.Font)).left);
         lean_ = scale.to_screen(lean);
-        const int behind = control_.Caption.empty() ? 0 : reach;
+        // On a small screen rounding takes up to a pixel of the screen.
+        const bool small = scale.dpi < USER_DEFAULT_SCREEN_DPI;
+        const int needed = small ? scale.room_on_form(reach + 1) : reach;
+        const int behind = control_.Caption.empty() ? 0 : needed;
         reach_ = scale.to_screen(behind);
         area.left -= lean;
         area.width += lean + behind;

@@ -1,5 +1,7 @@
 #include "platform/windows/toolkit/Screens.h"
 
+#include <algorithm>
+
 namespace ostrelum::windows_platform {
 namespace {
 
@@ -61,6 +63,23 @@ RECT free_part_of(HMONITOR screen)
     about.cbSize = sizeof about;
     GetMonitorInfoW(screen, &about);
     return about.rcWork;
+}
+
+Scale fitting_scale(Scale of_screen, HMONITOR screen, SIZE form)
+{
+    // Pictures are sharp at quarters; with fewer pixels to the inch the smallest letters, 11 pixels
+    // high, could not be read.
+    constexpr int quarter = USER_DEFAULT_SCREEN_DPI / 4;
+    constexpr int smallest = USER_DEFAULT_SCREEN_DPI * 6 / 10;
+    const RECT free = free_part_of(screen);
+    if (form.cx <= 0 || form.cy <= 0 || IsRectEmpty(&free))
+        return of_screen;
+    const SIZE frame = size_with_frame({}, WS_CAPTION | WS_SYSMENU, 0, of_screen);
+    const int most = std::min((width_of(free) - frame.cx) * USER_DEFAULT_SCREEN_DPI / form.cx,
+                              (height_of(free) - frame.cy) * USER_DEFAULT_SCREEN_DPI / form.cy);
+    const int drawable =
+        most >= USER_DEFAULT_SCREEN_DPI ? most / quarter * quarter : std::max(most, smallest);
+    return {std::min(of_screen.dpi, drawable)};
 }
 
 } // namespace ostrelum::windows_platform

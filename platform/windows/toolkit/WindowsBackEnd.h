@@ -16,6 +16,9 @@ struct WindowsLook {
     Picture hand;
     /// Pixel of the hand that points.
     Point hot_spot;
+    /// Size of the largest window, which a small screen is to hold; 0 for nothing to care about.
+    int window_width = 0;
+    int window_height = 0;
 };
 
 std::unique_ptr<Toolkit> make_windows_toolkit(const WindowsLook& look);

@@ -24,6 +24,11 @@ std::vector<HWND> disable_all(const Windows& windows)
     return disabled;
 }
 
+HMONITOR primary_screen()
+{
+    return MonitorFromPoint({0, 0}, MONITOR_DEFAULTTOPRIMARY);
+}
+
 } // namespace
 
 std::unique_ptr<Toolkit> make_windows_toolkit(const WindowsLook& look)
@@ -32,8 +37,8 @@ std::unique_ptr<Toolkit> make_windows_toolkit(const WindowsLook& look)
 }
 
 WindowsToolkit::WindowsToolkit(const WindowsLook& look)
-    : cursors_(look.hand, look.hot_spot),
-      scale_(scale_of_screen(MonitorFromPoint({0, 0}, MONITOR_DEFAULTTOPRIMARY))),
+    : cursors_(look.hand, look.hot_spot), largest_{look.window_width, look.window_height},
+      scale_(fitting_scale(scale_of_screen(primary_screen()), primary_screen(), largest_)),
       dispatcher_([this] {
           for (const auto& [form, window] : windows_)
               window->sync();
@@ -63,9 +68,9 @@ FormWindow& WindowsToolkit::make_window(Form& form, HWND owner)
     if (FormWindow* window = window_of(form))
         return *window;
     const auto style = static_cast<DWORD>(styles_.get(form, extended_style_index));
-    windows_[&form] =
-        std::make_unique<FormWindow>(form, SharedLook{*this, cursors_, fonts_, dispatcher_, scale_},
-                                     style, owner, [this, &form] { user_closes(form); });
+    windows_[&form] = std::make_unique<FormWindow>(
+        form, SharedLook{*this, cursors_, fonts_, dispatcher_, scale_, largest_}, style, owner,
+        [this, &form] { user_closes(form); });
     FormWindow& window = *windows_[&form];
     // It comes up with its opacity.
     if (style & WS_EX_LAYERED)

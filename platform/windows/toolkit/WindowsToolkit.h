@@ -49,6 +49,7 @@ private:
     /// Made anew for each font that is measured first.
     mutable Fonts fonts_;
     Cursors cursors_;
+    const SIZE largest_;
     Scale scale_;
     EventDispatcher dispatcher_;
     WindowStyles styles_;
