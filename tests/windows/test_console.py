@@ -88,12 +88,6 @@ class ConsoleTest(unittest.TestCase):
                     self.assertIsInstance(value, kinds[kind], f"{name}.{own}")
                     self.assertFalse(isinstance(value, int) and value < 0, f"{name}.{own}")
 
-    def test_nothing_has_to_lie_beside_the_program(self):
-        headers = subprocess.run(["x86_64-w64-mingw32-objdump", "-p", CONSOLE], capture_output=True, check=True, text=True)
-        imported = {name.lower() for name in re.findall(r"DLL Name: (\S+)\.dll", headers.stdout)}
-        self.assertIn("kernel32", imported)
-        self.assertLessEqual(imported, {"advapi32", "kernel32", "msvcrt", "ole32", "oleaut32", "shell32", "user32"})
-
     def test_pages_in_three_languages(self):
         processor = self.answers["Win32_Processor"][0]["Name"].strip()
         for language, (title, unknown) in LANGUAGES.items():
@@ -107,13 +101,6 @@ class ConsoleTest(unittest.TestCase):
         everything = console("page", "all").stdout.decode()
         for title in ("Summary", "Operating system", "Hard drives", "Others hardware"):
             self.assertRegex(everything, f"(?m)^{title}$")
-
-    def test_name_of_the_system_is_the_registrys(self):
-        key = r"HKLM\Software\Microsoft\Windows NT\CurrentVersion"
-        value = wine("reg", "query", key, "/v", "ProductName").stdout.decode("utf-8", "replace")
-        name = re.search(r"REG_SZ\s+(.*)", value)[1].strip()
-        self.assertIn(name, self.answers["Win32_OperatingSystem"][0]["Caption"])
-        self.assertIn(name, console("page", "4").stdout.decode())
 
     def test_report_is_saved_as_it_is_shown(self):
         with tempfile.TemporaryDirectory() as folder:

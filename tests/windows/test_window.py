@@ -1,9 +1,7 @@
 """The whole program for Windows in a real window, under Wine. Its pages and reports are held against the console's."""
 
 import re
-import shutil
 import unittest
-from pathlib import Path
 
 from wine_desktop import (ABOUT, ACCEPT, CLOSE, CONSOLE, CUSTOMISE, LINK, MADE, NO_DRIVE, OPEN_SECTION, PERCENT, REPORT,
                           SAVE, SECTIONS, STATUS, TITLE, TRANSPARENCY, VALUES, WineDesktop, wait_for)
@@ -15,7 +13,6 @@ PAGE, SKIN = (600, 490), (400, 526)
 MOVING = ("Total free space", "Usage time", "Memory in use", "Space in use", "Free space")
 # A row that keeps what stood there as long as the share of so much memory cannot be worked out.
 AVAILABLE = "Available memory"
-FONTS = Path("/usr/share/fonts/truetype/liberation")
 TIMES = 50
 # KB, for all that these times leave behind: a picture of 48 pixels takes 9.
 MOST_GROWTH = 300
@@ -276,17 +273,9 @@ class ProgramTest(unittest.TestCase):
     def test_a_dead_service_leaves_unknown_rows_and_dialogs_leave_no_memory_behind(self):
         desktop = self.desktop
         desktop.write_settings(ChkTrans=0)
-        dead = {"WINEDLLOVERRIDES": desktop.environment["WINEDLLOVERRIDES"] + ";wbemprox=d"}
-        program, form = self.start(**dead)
-        titles = [form.text(SECTIONS + n) for n in range(13)]
-        rows = [row for page in self.open_pages(titles, lambda n: desktop.press(form, SECTIONS + n)) for row in page[1:]]
-        known = [row for row in rows if row and not row.endswith("Unknown")]
-        # What is not asked of the service, and the two headings of the summary.
-        self.assertEqual(sorted({row.split(":")[0] for row in known}),
-                         ["Available memory", "License code", "Main features", "Name", "Number of buttons",
-                          "Number of cores", "Others features", "Usage time"])
-        self.assertGreater(len(rows) - len(known), 60)
-
+        program, form = self.start(WINEDLLOVERRIDES=desktop.environment["WINEDLLOVERRIDES"] + ";wbemprox=d")
+        desktop.press(form, SECTIONS + 7)
+        self.assertIn("Name: Unknown", desktop.wait(condition=lambda form: form.text(OPEN_SECTION) == "Bios").page())
         memory = []
         for panel in [CUSTOMISE, ABOUT] * (TIMES // 2):
             for entry, kind, leave, key in ((REPORT, "report", CLOSE, "Escape"), (panel, "form", ACCEPT, "Return")):
@@ -297,16 +286,6 @@ class ProgramTest(unittest.TestCase):
             memory.append(desktop.memory(program))
         self.assertLess(memory[-1] - memory[4], MOST_GROWTH, memory)
         self.close(program)
-
-    def test_fonts_of_the_system_move_the_title(self):
-        self.desktop.write_settings(ChkTrans=0)
-        folder = self.desktop.prefix / "drive_c/windows/Fonts"
-        for files, top in ((["segoeui.ttf"], 58), (["segoeui.ttf", "segoeuil.ttf"], 48)):
-            for name in files:
-                shutil.copy(FONTS / "LiberationSans-Regular.ttf", folder / name)
-            program, form = self.start()
-            self.assertEqual(form.place(TITLE)[1] - form.top, top, files)
-            self.close(program)
 
 
 if __name__ == "__main__":

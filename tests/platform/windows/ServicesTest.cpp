@@ -1,5 +1,4 @@
 #include "platform/windows/services/AnsiCodePage.h"
-#include "platform/windows/services/Clock.h"
 #include "platform/windows/services/Com.h"
 #include "platform/windows/services/Regional.h"
 #include "platform/windows/services/Registry.h"
@@ -156,16 +155,6 @@ TEST(WindowsSystemApi, FindsAnotherInstanceOfTheUserAlone)
     EXPECT_FALSE(first.PrevInstance());
     EXPECT_TRUE(second.PrevInstance());
     EXPECT_TRUE(second.PrevInstance());
-}
-
-TEST(WindowsClock, CountsOnAndKnowsTheDay)
-{
-    WindowsClock clock;
-    const auto start = clock.timeGetTime();
-    Sleep(30);
-    EXPECT_GT(clock.timeGetTime(), start);
-    EXPECT_GT(clock.date().year, 2020);
-    EXPECT_LT(clock.time().hour, 24);
 }
 
 TEST(Wide, MakesWhatIsNoTextValid)

@@ -1,6 +1,5 @@
 #include "platform/windows/services/WmiService.h"
 
-#include "sources/Schema.h"
 #include "tests/platform/windows/FakeWmi.h"
 
 #include <gtest/gtest.h>
@@ -9,7 +8,6 @@
 #include <atomic>
 #include <chrono>
 #include <future>
-#include <map>
 #include <memory>
 #include <string>
 
@@ -70,44 +68,6 @@ TEST(WmiService, LeavesAPropertyThatCannotBeHadToWhoReadsIt)
     EXPECT_THROW(result[0]["Lost"], Failure);
     EXPECT_THROW(result[0]["Embedded"], Failure);
     EXPECT_EQ(result[0].properties().size(), 3U);
-}
-
-/// A property as providers deliver it, with a number or a text of "7".
-FakeProperty delivered(const PropertySchema& schema, bool null)
-{
-    static const std::map<CimType, CIMTYPE> types{
-        {CimType::Boolean, CIM_BOOLEAN}, {CimType::UInt16, CIM_UINT16},
-        {CimType::UInt32, CIM_UINT32},   {CimType::UInt64, CIM_UINT64},
-        {CimType::String, CIM_STRING},   {CimType::DateTime, CIM_DATETIME}};
-    FakeProperty property{std::string(schema.name), types.at(schema.type)};
-    const bool number = schema.type == CimType::UInt16 || schema.type == CimType::UInt32 ||
-                        schema.type == CimType::Boolean;
-    if (!null)
-        property.fill = number ? number_variant(7) : text_variant("7");
-    return property;
-}
-
-TEST(WmiService, AnswersTheClassesThatNotEverySystemHas)
-{
-    for (const char* name : {"Win32_Battery", "Win32_Keyboard", "Win32_NetworkLoginProfile",
-                             "Win32_PointingDevice", "Win32_UserAccount"}) {
-        const auto properties = schema_of(name).properties;
-        FakeObject full;
-        FakeObject empty;
-        for (const PropertySchema& property : properties) {
-            full.push_back(delivered(property, false));
-            empty.push_back(delivered(property, true));
-        }
-        WmiService service(connections({{{.objects = {full, empty}}}}));
-        const ResultSet result = service.ExecQuery("Select * from " + std::string(name));
-        ASSERT_EQ(result.size(), 2U);
-        for (const PropertySchema& property : properties) {
-            const Value& value = result[0][property.name];
-            EXPECT_EQ(value.is_boolean(), property.type == CimType::Boolean) << property.name;
-            EXPECT_TRUE(value.is_boolean() || value.number() == 7) << property.name;
-            EXPECT_TRUE(result[1][property.name].is_null()) << property.name;
-        }
-    }
 }
 
 TEST(WmiService, ConnectsAgainWhereTheServiceHasEndedMeanwhile)
