@@ -5,7 +5,6 @@
 #include "platform/linux/formats/CpuInfo.h"
 #include "platform/linux/formats/InstallationId.h"
 #include "platform/linux/formats/LocaleIds.h"
-#include "platform/linux/formats/Sha256.h"
 #include "platform/linux/formats/VolumeSerial.h"
 #include "platform/linux/os/Distribution.h"
 #include "platform/linux/os/KernelRelease.h"
@@ -64,21 +63,6 @@ TEST(LocaleIds, KnowCountriesLanguagesAndNeutralLocales)
         EXPECT_EQ(locale_id(locale), std::stoul(id)) << locale;
     for (const char* none : {"xx_XX", "", "zz"})
         EXPECT_FALSE(locale_id(none)) << none;
-}
-
-std::vector<std::uint8_t> bytes_of(std::string_view text)
-{
-    return {text.begin(), text.end()};
-}
-
-/// The first bytes of FIPS 180-4's example of two blocks, and of RFC 4231's test case 2.
-TEST(Sha256, MatchesThePublishedVectors)
-{
-    const Digest digests[] = {
-        sha256(bytes_of("abcdbcdecdefdefgefghfghighijhijkijkljklmklmnlmnomnopnopq")),
-        hmac_sha256(bytes_of("Jefe"), bytes_of("what do ya want for nothing?"))};
-    EXPECT_TRUE(std::ranges::equal(std::span(digests[0]).first(4), bytes_of("\x24\x8D\x6A\x61")));
-    EXPECT_TRUE(std::ranges::equal(std::span(digests[1]).first(4), bytes_of("\x5B\xDC\xC1\x46")));
 }
 
 /// The notebook's page shows the one that comes of a machine's own.

@@ -71,13 +71,6 @@ TEST_F(PaintTest, PicturesArePixelExact)
     EXPECT_EQ(colour_at(window(), 1, 45), QColor(40, 40, 40)) << "the column under the bar";
 }
 
-TEST_F(PaintTest, ALineEndsBeforeItsEndPoint)
-{
-    EXPECT_EQ(colour_at(window(), 120, 40), QColor(200, 0, 0));
-    EXPECT_EQ(colour_at(window(), 179, 40), QColor(200, 0, 0));
-    EXPECT_EQ(colour_at(window(), 180, 40), QColor(255, 255, 255));
-}
-
 TEST_F(PaintTest, ALabelIsAsWideAsItsInk)
 {
     for (const char* text : {"Value f", "Wolff", "M/", "K", "A", "f"}) {

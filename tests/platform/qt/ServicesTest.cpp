@@ -1,4 +1,3 @@
-#include "platform/qt/FilterPairs.h"
 #include "tests/platform/qt/SampleWindow.h"
 
 #include <QClipboard>
@@ -48,13 +47,6 @@ TEST_F(ServicesTest, TheClipboardHoldsPlainText)
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "línea\r\n<b>") << "no label's text";
     clipboard->Clear();
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "");
-}
-
-TEST_F(ServicesTest, FilterPairs)
-{
-    const std::string pairs = "Text (*.txt)\0*.txt\0Page\0*.html;*.htm\0Torn\0"s;
-    EXPECT_EQ(name_filters(pairs), (QStringList{"Text (*.txt)", "Page (*.html *.htm)"}));
-    EXPECT_EQ(name_filters(""), QStringList());
 }
 
 /// Answers the dialogs that come up, one after the other.

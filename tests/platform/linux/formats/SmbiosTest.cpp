@@ -41,15 +41,9 @@ TEST(Smbios, GivesFieldsAndStrings)
     EXPECT_EQ(found[0].dword(static_cast<std::size_t>(-1)), std::nullopt);
     EXPECT_EQ(found[1].string(4), Text());
     EXPECT_EQ(found[2].string(5), "B-1");
-}
-
-TEST(Smbios, HasNoStringForAWrongNumber)
-{
     for (const char number : {'\0', '\3', '\xFF'}) {
-        const std::string table = structure(2, std::string(1, number), "Board\0B-1\0"s) + board;
-        const auto found = smbios_structures(bytes_of(table));
-        ASSERT_EQ(found.size(), 2U);
-        EXPECT_EQ(found[0].string(4), Text());
+        const std::string odd = structure(2, std::string(1, number), "Board\0B-1\0"s);
+        EXPECT_EQ(smbios_structures(bytes_of(odd)).at(0).string(4), Text());
     }
 }
 
@@ -65,25 +59,10 @@ TEST(Smbios, StopsAtALengthThatCannotBe)
     EXPECT_EQ(count(longest + board), 2U);
     EXPECT_EQ(smbios_structures(bytes_of(longest))[0].string(254), "Text");
     EXPECT_EQ(count(longest.substr(0, 254)), 0U);
-}
-
-TEST(Smbios, GivesWhatIsWholeOfATableCutAtAnyByte)
-{
-    const std::string table = firmware + board;
-    for (std::size_t size = 0; size < table.size(); ++size) {
-        // Of its own size, so that a sanitizer sees a read behind it.
-        const std::vector<std::uint8_t> cut(table.begin(),
-                                            table.begin() + static_cast<std::ptrdiff_t>(size));
-        const auto found = smbios_structures(cut);
-        const std::size_t begun = size - std::min(size, firmware.size());
-        EXPECT_EQ(found.size(), (size >= 9 ? 1U : 0U) + (begun >= 6 ? 1U : 0U)) << size;
-        if (!found.empty()) {
-            EXPECT_EQ(found[0].string(4), size >= 15 ? Text("Maker") : Text()) << size;
-        }
-        if (found.size() == 2) {
-            EXPECT_EQ(found[1].string(5), begun >= 20 ? Text("B-1") : Text()) << size;
-        }
-    }
+    // A table that is cut keeps what is whole of it, texts too.
+    const std::string cut = (firmware + board).substr(0, firmware.size() + 12);
+    EXPECT_EQ(count(cut), 2U);
+    EXPECT_EQ(smbios_structures(bytes_of(cut))[1].string(5), Text());
 }
 
 } // namespace

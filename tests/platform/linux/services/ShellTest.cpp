@@ -24,8 +24,10 @@ TEST(LinuxShell, StoresByTypeInTheConfigurationFolder)
         LinuxShell shell(environment);
         shell.RegWrite(root + "Text", 7U, "REG_SZ");
         shell.RegWrite(root + "Number", "8", "REG_DWORD");
-        EXPECT_TRUE(fs::exists(folder / (config + "/dervalin-ostrelum/settings"))) << config;
-        EXPECT_EQ(shell.RegRead(root + "Text"), RegValue("7"));
+        const fs::path settings = folder / (config + "/dervalin-ostrelum/settings");
+        EXPECT_EQ(fs::status(settings).permissions(), fs::perms(0600)) << config;
+        EXPECT_EQ(fs::status(settings.parent_path()).permissions(), fs::perms(0700));
+        EXPECT_EQ(LinuxShell(environment).RegRead(root + "Text"), RegValue("7"));
         EXPECT_EQ(shell.RegRead(root + "Number"), RegValue(8U));
         EXPECT_THROW(shell.RegWrite(root + "Number", "-8", "REG_DWORD"), Failure);
         EXPECT_THROW(shell.RegWrite(root + "Number", 8U, "REG_BINARY"), Failure);
