@@ -112,24 +112,5 @@ TEST(StringTable, TranslationsKeepMarksAndEndingsOfTheEnglishRowAndNothingElse)
     }
 }
 
-TEST(StringTable, RowsThatNoPageShowsStayAsUsersKnowThem)
-{
-    const struct {
-        Text key;
-        const char* texts[3];
-    } rows[] = {
-        {Text::Speed, {"Speed:", "Velocidad:", "Speed:"}},
-        {Text::DataBusWidth,
-         {"Data bus width:", "Ancho del bus de datos:", "Gegevensbussnelheid:"}},
-        {Text::NotApplicable, {"Not applicable", "Configuración no establecida", "N.v.t."}},
-        {Text::Programmer, {"Programmer:", "Autor:", "Ontwikkeld door:"}},
-    };
-    for (std::size_t i = 0; i < std::size(languages); ++i) {
-        const StringTable table = table_of(languages[i]);
-        for (const auto& row : rows)
-            EXPECT_EQ(table[row.key], row.texts[i]) << languages[i].name;
-    }
-}
-
 } // namespace
 } // namespace ostrelum

@@ -55,7 +55,7 @@ TEST_F(Documents, SecondsAreCutToFourCharacters)
     // Arabic's decimal sign, as others beyond ASCII, has more than one byte.
     regional.sign = "٫";
     const std::pair<std::uint32_t, std::string> cases[] = {
-        {47, "0٫04"}, {5000, "5"}, {12345, "12٫3"}, {123456, "123٫"}, {1234567, "1234"}};
+        {47, "0٫04"}, {5000, "5"}, {12345, "12٫3"}, {123456, "123٫"}};
     for (const auto& [milliseconds, text] : cases) {
         const auto end = milliseconds;
         clock.milliseconds = 0;

@@ -31,7 +31,6 @@ TEST_F(Stages, ShowAFallbackWhereAPageWouldKeepItsCaption)
         {"Win32_OperatingSystem", "TotalVirtualMemorySize", "1000", "Operating system",
          "Total virtual memory:", "Unknown"},
         {"Win32_Processor", "CurrentClockSpeed", 2400, "Processor", "Speed:", "2400 Mhz"},
-        {"Win32_Processor", "MaxClockSpeed", 0, "Processor", "Speed:", "Unknown"},
         {"Win32_Processor", "L3CacheSize", "none", "Processor", "L3 cache size:", "Unknown"},
         {"Win32_LogicalDisk", "Caption", {}, "Hard drives", "Drive letter:", "(D:)"},
         {"Win32_DiskDrive", "Partitions", {}, "Hard drives", "Total partitions:", "3"},
@@ -43,7 +42,6 @@ TEST_F(Stages, ShowAFallbackWhereAPageWouldKeepItsCaption)
          "Display",
          "Current configuration:",
          "Unknown"},
-        {"Win32_VideoController", "DriverDate", "none", "Graphics card", "Driver date:", "Unknown"},
     };
     const auto recorded = script.results;
     for (const auto& each : cases) {

@@ -65,8 +65,6 @@ TEST_F(Layout, OfEachPageWipesOutThatOfAnother)
         EXPECT_EQ(F1.Titulo.Caption, c.title);
         EXPECT_EQ(F1.LMenu2.Caption, c.title);
         EXPECT_EQ(F1.BM.Top, 49 + 35 * (c.section - 1));
-        EXPECT_EQ(F1.Labelmi.Caption, "Done");
-        EXPECT_TRUE(F1.BM.Visible && F1.TAlphaB.Enabled);
         EXPECT_EQ(seen_beside_the_rows(), c.seen);
         EXPECT_EQ(rows_with_title_tooltips(), c.title_tooltips);
         const Colour notice = c.section == 2 ? rgb(75, 75, 75) : rgb(0, 145, 0);
@@ -94,14 +92,8 @@ TEST_F(Layout, OfEachPageWipesOutThatOfAnother)
     EXPECT_EQ(F1.Line2.Y2, F1.Line2.Y1);
 }
 
-TEST_F(Layout, HasHintsForTitlesThatNeedThem)
+TEST_F(Layout, HasAHintOfTheLimitThatIsTold)
 {
-    open(3);
-    EXPECT_EQ(F1.LT(4).ToolTipText, Trad[Text::AutoRestartHint]);
-    EXPECT_EQ(F1.LT(5).ToolTipText, Trad[Text::StartupDelayHint]);
-    open(9);
-    EXPECT_EQ(F1.LT(3).ToolTipText, Trad[Text::CurrentConfigurationHint]);
-    EXPECT_EQ(F1.LT(4).ToolTipText, Trad[Text::RefreshRateRangeHint]);
     for (const bool least : {false, true}) {
         change(has["Win32_VideoController"], {{"MinRefreshRate", least ? Value(56) : Value()},
                                               {"MaxRefreshRate", least ? Value() : Value(75)}});
@@ -134,9 +126,6 @@ TEST_F(Layout, WithoutAMediumTheNoticeStandsAloneOnThePage)
         F1.Line1.Visible = F1.Line2.Visible = true;
         open(c.section);
         EXPECT_THAT(shown(1, 12), ::testing::Each(""));
-        for (int row = 1; row <= 12; ++row)
-            EXPECT_EQ(F1.L(row).ToolTipText, "") << row;
-        EXPECT_EQ(rows_with_title_tooltips(), 0b1111000000000);
         EXPECT_EQ(seen_beside_the_rows(), " LNoDrive Iaviso Laviso");
         EXPECT_EQ(F1.LNoDrive.Caption, c.notice);
         EXPECT_EQ(F1.Laviso.Caption, c.request);
@@ -145,30 +134,6 @@ TEST_F(Layout, WithoutAMediumTheNoticeStandsAloneOnThePage)
         EXPECT_EQ(script.asked.size(), 1U) << "nothing else is asked";
     }
     EXPECT_EQ(F1.EmptyDrives, 3);
-}
-
-TEST_F(Layout, TheNoticeStandsByLanguageAndFont)
-{
-    const struct {
-        const char* language;
-        std::uint8_t fonts;
-        int drive_top, drive_height, disc_top;
-    } cases[] = {{"Dutch", 32, 135, 280, 200},   {"English", 32, 170, 220, 210},
-                 {"Spanish", 32, 170, 220, 205}, {"Dutch", 0, 160, 260, 220},
-                 {"English", 0, 190, 220, 220},  {"Spanish", 0, 190, 220, 220}};
-    has["Win32_LogicalDisk where DriveType = 2"] =
-        has["Win32_LogicalDisk where DriveType = 5"] = {};
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.language);
-        Idioma = c.language;
-        FontsOk = c.fonts;
-        open(11);
-        EXPECT_EQ(F1.LNoDrive.Top, c.drive_top);
-        EXPECT_EQ(F1.LNoDrive.Height, c.drive_height);
-        open(12);
-        EXPECT_EQ(F1.LNoDrive.Top, c.disc_top);
-        EXPECT_EQ(F1.LNoDrive.Height, 180);
-    }
 }
 
 } // namespace

@@ -1,13 +1,9 @@
 #include "sources/Texts.h"
 
-#include "sources/LetterCase.h"
 #include "sources/Windows1252.h"
 #include "tests/Split.h"
 
 #include <gtest/gtest.h>
-
-#include <clocale>
-#include <cwctype>
 
 namespace ostrelum {
 namespace {
@@ -35,29 +31,6 @@ TEST(CapitalText, WorksOnCharacters)
                "b|😀AB=😀ab"))
         EXPECT_EQ(CapitalText(text), capital) << text;
     EXPECT_EQ(CapitalText(""), "");
-}
-
-TEST(LetterCase, AgreesWithTheSystemsTablesOnAllItsAlphabets)
-{
-    const std::string before = std::setlocale(LC_CTYPE, nullptr);
-    if (!std::setlocale(LC_CTYPE, "C.UTF-8"))
-        GTEST_SKIP() << "the C library of this system has no tables of Unicode";
-    const std::pair<char32_t, char32_t> alphabets[] = {
-        {0, 0x3E1},       {0x3F0, 0x587},   {0x1C80, 0x1C88}, {0x1D79, 0x1D8E}, {0x1E00, 0x218F},
-        {0x2C60, 0x2C7F}, {0xA640, 0xA7F6}, {0xAB53, 0xAB53}, {0xFF21, 0xFF5A}};
-    // A library that is newer than the table has letters here, partners of some that had none.
-    const auto is_new = [](char32_t letter) { return letter >= 0xA7CB && letter <= 0xA7DC; };
-    const auto same = [&](char32_t ours, wint_t systems, char32_t letter) {
-        const bool came_later = ours == letter && (is_new(letter) || is_new(systems));
-        EXPECT_TRUE(ours == systems || came_later) << unsigned{letter};
-    };
-    for (const auto& [first, last] : alphabets) {
-        for (char32_t c = first; c <= last; ++c) {
-            same(upper_case(c), std::towupper(static_cast<wint_t>(c)), c);
-            same(lower_case(c), std::towlower(static_cast<wint_t>(c)), c);
-        }
-    }
-    std::setlocale(LC_CTYPE, before.c_str());
 }
 
 TEST(Windows1252, HasOneByteForEachCharacter)

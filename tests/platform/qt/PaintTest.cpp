@@ -53,6 +53,7 @@ TEST_F(PaintTest, PicturesArePixelExact)
 {
     EXPECT_EQ(colour_at(widget(form.Column), 0, 0), QColor(250, 120, 0));
     EXPECT_EQ(colour_at(widget(form.Column), 99, 199), QColor(40, 40, 40));
+    EXPECT_EQ(colour_at(window(), 179, 40), QColor(200, 0, 0)) << "a line";
 
     // A width whose rows are filled up, and a picture smaller than its box.
     form.Bar.Surface = Picture(conformance::plain_bitmap(3, 3, rgb(0, 0, 255), rgb(0, 255, 0)));

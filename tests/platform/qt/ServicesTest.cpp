@@ -71,7 +71,7 @@ TEST_F(ServicesTest, TheFileThatWillBeWrittenIsAskedAbout)
     const QTemporaryDir folder;
     QFile(folder.filePath("Report.html")).open(QIODevice::WriteOnly);
     const OpenFileName request{.title = "Save",
-                               .filter = "Text\0*.txt\0Page\0*.html\0"s,
+                               .filter = "Text (*.txt)\0*.txt\0Page\0*.html\0"s,
                                .filter_index = 2,
                                .file = "Report",
                                .initial_dir = folder.path().toStdString(),
