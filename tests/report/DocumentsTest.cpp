@@ -50,21 +50,5 @@ TEST_F(Documents, TheTitleTellsTheTimeByLanguage)
     }
 }
 
-TEST_F(Documents, SecondsAreCutToFourCharacters)
-{
-    // Arabic's decimal sign, as others beyond ASCII, has more than one byte.
-    regional.sign = "٫";
-    const std::pair<std::uint32_t, std::string> cases[] = {
-        {47, "0٫04"}, {5000, "5"}, {12345, "12٫3"}, {123456, "123٫"}};
-    for (const auto& [milliseconds, text] : cases) {
-        const auto end = milliseconds;
-        clock.milliseconds = 0;
-        WatchingToolkit late([&] { clock.milliseconds = end; });
-        make_report();
-        EXPECT_EQ(F2.LStatus.Caption, "Report made at " + text + " second/s");
-        EXPECT_THAT(F2.Tb1, HasSubstr(" in " + text + " sec."));
-    }
-}
-
 } // namespace
 } // namespace ostrelum

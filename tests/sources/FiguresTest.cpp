@@ -31,13 +31,6 @@ TEST(RealText, HasFifteenSignificantDigitsAndNoTrailingZeros)
     EXPECT_EQ(WholeText(-7), "-7");
 }
 
-TEST(RoundedDown, FailsBeyond32Bits)
-{
-    EXPECT_EQ(rounded_down(-0.5), -1);
-    EXPECT_EQ(rounded_down(2147483647.9), 2147483647);
-    EXPECT_THROW(rounded_down(2147483648.0), Failure);
-}
-
 TEST(Characters, AreCodePoints)
 {
     EXPECT_EQ(character_count("añ€"), 3U);
@@ -66,10 +59,7 @@ TEST(Percentages, RoundEachInItsOwnWay)
                  {2, 3, 66, 67, 67, 66},
                  {1, 8, 12, 12, 12, 12},
                  {3, 8, 37, 38, 38, 37},
-                 {5, 8, 62, 62, 62, 62},
                  {-1, 3, -33, -33, -33, -34},
-                 {0, 5, 0, 0, 0, 0},
-                 {7, 7, 100, 100, 100, 100},
                  {21474836, 42949672, 50, 50, 50, 50},
                  {21474837, 42949674, 50, fails, 50, 50},
                  {2147483646, 2147483647, 99, fails, 100, 99},
@@ -106,13 +96,10 @@ TEST(UptimeText, LeavesOutTheDaysAndEndsAfter28)
         std::uint64_t milliseconds;
         const char* text;
     } cases[] = {{999, "00:00:00"},
-                 {1000, "00:00:01"},
-                 {day - 1, "23:59:59"},
                  {day + ((2 * 60 + 3) * 60 + 4) * 1000, "02:03:04"},
                  {2147483648U, "20:31:23"},
                  {29 * day - 1, "23:59:59"},
                  {29 * day, ""},
-                 {50 * day, ""},
                  {UINT64_MAX, ""}};
     for (const auto& c : cases)
         EXPECT_EQ(UptimeText(c.milliseconds, regional), c.text) << c.milliseconds;

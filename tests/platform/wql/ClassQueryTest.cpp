@@ -33,7 +33,8 @@ ResultSet run(const std::string& wql, const ObjectSource& objects = one_volume)
 
 TEST(ClassQuery, GivesTheSchemasOrderAndSpellingAndReadsNothingElse)
 {
-    const ResultSet result = run("select SIZE, freespace, Name, size from win32_logicaldisk");
+    const ResultSet result =
+        run(" \r\n\tsELECT  SIZE, freespace ,\nName,size from win32_logicaldisk ");
     ASSERT_EQ(result.size(), 1U);
     const std::vector<Instance::Property> expected = {
         {"FreeSpace", Value()}, {"Name", "/"}, {"Size", "5000000000"}};
@@ -46,7 +47,7 @@ TEST(ClassQuery, ReadsWhatTheConditionTestsAndEachPropertyOnce)
     const auto found = run("select FileSystem from x where DriveType = 3 and FileSystem = 'EXT4'");
     EXPECT_EQ(found.at(0).properties().size(), 1U);
     EXPECT_EQ(asked, (Names{"DriveType", "FileSystem"}));
-    EXPECT_TRUE(run("select FileSystem from x where DriveType = 2 and Size = 1").empty());
+    EXPECT_TRUE(run("select*from x where DriveType = 2 and Size = 1").empty());
     EXPECT_EQ(asked, Names{"DriveType"});
     // Letters beyond ASCII come behind it, whatever sign the machine's characters have.
     EXPECT_EQ(run("select Name from x where FileSystem < '\u00e9'").size(), 1U);

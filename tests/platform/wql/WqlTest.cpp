@@ -30,22 +30,6 @@ std::string shown(const Condition& condition)
     return text + ")";
 }
 
-TEST(Wql, ReadsTheListAndTheClass)
-{
-    const std::pair<const char*, std::vector<std::string>> cases[] = {
-        {"Select Freespace from Win32_LogicalDisk", {"Freespace"}},
-        {" \r\n\tsELECT  Size,Name ,\nSize FROM Win32_LogicalDisk ", {"Size", "Name", "Size"}},
-        {"select * from Win32_LogicalDisk", {}},
-        {"select*from Win32_LogicalDisk", {}},
-    };
-    for (const auto& [text, properties] : cases) {
-        const WqlQuery query = parse_wql(text);
-        EXPECT_EQ(query.properties, properties) << text;
-        EXPECT_EQ(query.class_name, "Win32_LogicalDisk") << text;
-        EXPECT_FALSE(query.condition) << text;
-    }
-}
-
 TEST(Wql, ReadsConditions)
 {
     const std::pair<const char*, const char*> cases[] = {

@@ -1,7 +1,6 @@
 #include "platform/linux/files/Sysroot.h"
 
 #include "platform/linux/devices/UdevDatabase.h"
-#include "platform/system/Failure.h"
 #include "tests/platform/linux/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -150,13 +149,6 @@ TEST(Sysroot, SortsNumbersBySize)
     const std::vector<std::string> sorted = {
         "99999999999999999999", "input", "sda", "sda02", "sda2", "sda10", "sdb1"};
     EXPECT_EQ(Sysroot(folder / "").list("/"), sorted);
-}
-
-TEST(Sysroot, IsAFolder)
-{
-    const TemporaryFolder folder;
-    EXPECT_THROW(Sysroot(folder.file("file")), Failure);
-    EXPECT_THROW(Sysroot(folder / "none"), Failure);
 }
 
 TEST(UdevRecord, DecodesWhatIsEncoded)
