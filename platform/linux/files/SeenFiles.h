@@ -56,7 +56,7 @@ private:
     {
         std::size_t size = 0;
         for (const std::string& name : names)
-            size += sizeof name + name.size();
+            size += sizeof(std::string) + name.size();
         return size;
     }
 
