@@ -132,7 +132,8 @@ def mention(root):
             f"E:NOTE={listed}\nS:disk/by-id/{listed}\nE:ID_VENDOR_NOTE={' '.join(UNMISTAKABLE)}\n")
     add(root, ".facts/hwdb", f"# {listed}\nusb:v046D ID_VENDOR_FROM_DATABASE=Maker {SERIALS[4]}\n")
     add(root, "proc/cpuinfo", f"Serial : {SERIALS[5]}\nnote : {' '.join(UNMISTAKABLE)}\n")
-    for n, name in enumerate([USER, HOST, *STRANGERS]):
+    # The last of them counts, by its number.
+    for n, name in enumerate([USER, HOST, *STRANGERS], 7):
         put(root, f"etc/default/grub.d/{n}-{name}.cfg",
             f"GRUB_TIMEOUT={n}\nGRUB_CMDLINE_LINUX=\"root=UUID={UUIDS[n]}\"\n")
     for file in sorted(root.glob("sys/**/*")):

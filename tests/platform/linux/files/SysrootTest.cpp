@@ -97,17 +97,6 @@ TEST_P(SysrootTest, ReadsTheLiveMachine)
     }
 }
 
-TEST(Sysroot, ReadsToTheEndUpToALimit)
-{
-    const TemporaryFolder folder;
-    const std::string content(100'000, 'x');
-    folder.file("long", content);
-    const Sysroot root(folder / "");
-    EXPECT_EQ(root.read("/long"), content);
-    EXPECT_EQ(root.read("/long", 100'000), content);
-    EXPECT_EQ(root.read("/long", 99'999), Text());
-}
-
 TEST(Sysroot, AnswersAsAtOneMoment)
 {
     const TemporaryFolder folder;
