@@ -53,11 +53,13 @@ TEST(Handlers, HaveTheirControls)
 TEST_F(ReportDialog, WithoutTransparencyBuildsAtTheFirstTickAndCrossesItsPictureOver)
 {
     TransEnabled = false;
+    FontsOk = preferred_fonts;
     F1.Timer1.Enabled = true;
     open([&] {
         EXPECT_FALSE(F1.Timer1.Enabled);
         EXPECT_TRUE(on_show());
         EXPECT_EQ(F2.Icon, F1.Icon);
+        EXPECT_EQ(F2.LStatus.Top, 99);
         EXPECT_FALSE(F2.BSave.Enabled || F2.BClose.Enabled);
         EXPECT_EQ(timers_on(), Names{"Descargador"});
         EXPECT_TRUE(toolkit.alphas[&F2].empty()) << "never see-through";

@@ -61,8 +61,9 @@ TEST(Regional, RefusesWhatNoCalendarAndNoClockShows)
     LinuxRegional regional{RegionalForms{}};
     EXPECT_EQ(regional.short_date({2012, 2, 29}), "2012-02-29");
     EXPECT_EQ(regional.long_time({0, 0, 0}), "00:00:00");
-    for (const Date date : {Date{2011, 2, 29}, Date{2012, 4, 31}, Date{2012, 13, 1}, Date{0, 1, 1},
-                            Date{10000, 1, 1}, Date{2012, 257, 1}, Date{2012, 1, 257}})
+    for (const Date date : {Date{2011, 2, 29}, Date{2012, 4, 31}, Date{2012, 0, 1},
+                            Date{2012, 1, 0}, Date{2012, 13, 1}, Date{0, 1, 1}, Date{10000, 1, 1},
+                            Date{2012, 257, 1}, Date{2012, 1, 257}})
         EXPECT_THROW(regional.short_date(date), Failure)
             << date.year << '-' << date.month << '-' << date.day;
     for (const TimeOfDay time : {TimeOfDay{24, 0, 0}, TimeOfDay{0, 60, 0}, TimeOfDay{0, 0, 60},
